@@ -1,0 +1,41 @@
+# One static library a room, one test program a room, with the same warnings everywhere.
+
+function(bornika_options target)
+    target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor
+                                             -Woverloaded-virtual)
+    if(BORNIKA_WARNINGS_AS_ERRORS)
+        target_compile_options(${target} PRIVATE -Werror)
+    endif()
+    # Typed signal connections and checked string conversions only.
+    target_compile_definitions(${target} PRIVATE QT_NO_CAST_TO_ASCII
+                                                 QT_NO_URL_CAST_FROM_STRING)
+    if(BORNIKA_SANITIZE)
+        target_compile_options(${target} PRIVATE -fsanitize=address,undefined
+                                                 -fno-sanitize-recover=undefined
+                                                 -fno-omit-frame-pointer)
+        target_link_options(${target} PRIVATE -fsanitize=address,undefined)
+    endif()
+endfunction()
+
+# bornika_room(name SOURCES ... LINKS ...): the library bornika_<name>.
+function(bornika_room name)
+    cmake_parse_arguments(ROOM "" "" "SOURCES;LINKS" ${ARGN})
+    add_library(bornika_${name} STATIC ${ROOM_SOURCES})
+    target_include_directories(bornika_${name} PUBLIC ${PROJECT_SOURCE_DIR}/src
+                                                      ${PROJECT_SOURCE_DIR})
+    target_link_libraries(bornika_${name} PUBLIC Qt6::Widgets ${ROOM_LINKS})
+    target_compile_options(bornika_${name} PRIVATE -Wconversion)
+    bornika_options(bornika_${name})
+endfunction()
+
+# bornika_test(name SOURCES ... LINKS ...): the program test_<name>, each of its tests known to ctest.
+function(bornika_test name)
+    cmake_parse_arguments(TEST "" "" "SOURCES;LINKS" ${ARGN})
+    add_executable(test_${name} ${TEST_SOURCES})
+    target_link_libraries(test_${name} PRIVATE bornika_test_support GTest::gmock Qt6::Test
+                                               ${TEST_LINKS})
+    bornika_options(test_${name})
+    include(GoogleTest)
+    gtest_discover_tests(test_${name} TEST_PREFIX "${name}." DISCOVERY_TIMEOUT 120
+        PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8" TIMEOUT 300)
+endfunction()

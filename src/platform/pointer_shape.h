@@ -1,0 +1,17 @@
+#pragma once
+
+class QWidget;
+
+/// Shape of the mouse pointer over a form, by number: 0 default, 1 arrow, 11 hourglass.
+namespace bornika {
+
+namespace pointeur {
+inline constexpr int defaut = 0;
+inline constexpr int fleche = 1;
+inline constexpr int sablier = 11;
+}  // namespace pointeur
+
+int PointeurSouris(const QWidget& fiche);
+void FixerPointeurSouris(QWidget& fiche, int forme);
+
+}  // namespace bornika

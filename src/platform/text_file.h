@@ -1,0 +1,75 @@
+#pragma once
+
+#include <QFile>
+#include <QString>
+#include <chrono>
+
+/// 8-bit text files: Windows-1252, CR LF at the end of written lines, every line end accepted in
+/// reading.
+namespace bornika {
+
+/// What went wrong with a file, for the operator: "<reason of the platform>".
+/// A line that cannot be written raises this fault with number 70 (disk full: 61).
+namespace numero_faute {
+inline constexpr int disquePlein = 61;
+}
+
+enum class ModeEcriture { Remplacer, Ajouter };
+
+/// A text file being written in place. Lines reach the disk at least once a second, so that what was
+/// interrupted keeps what it had.
+class FichierTexteEcrit {
+  public:
+    /// Creates the file (or opens it to append). Fault 70, 76 or 52 when that cannot be.
+    FichierTexteEcrit(const QString& chemin, ModeEcriture mode);
+    ~FichierTexteEcrit();
+    FichierTexteEcrit(const FichierTexteEcrit&) = delete;
+    FichierTexteEcrit& operator=(const FichierTexteEcrit&) = delete;
+
+    /// Writes the text, then CR LF. A write that fails raises a fault whose text is the platform's
+    /// reason.
+    void EcrireLigne(QStringView texte);
+    /// The same for a line that is 8-bit already.
+    void EcrireLigneOctets(QByteArrayView octets);
+    /// Writes the text alone.
+    void Ecrire(QStringView texte);
+    /// Brings everything to the disk and closes. Raises the same fault as a write.
+    void Fermer();
+
+    QString Chemin() const { return fichier_.fileName(); }
+
+    /// Flushes every open file of this kind: the last act before the program is ended by a fault.
+    static void ViderTous() noexcept;
+
+  private:
+    void Deposer(QByteArrayView octets);
+    void Vider();
+
+    QFile fichier_;
+    QByteArray tampon_;
+    std::chrono::steady_clock::time_point dernierVidage_;
+};
+
+/// A text file being read line by line.
+class FichierTexteLu {
+  public:
+    /// Opens. Fault 53 when the file is missing, 70 when it cannot be read.
+    explicit FichierTexteLu(const QString& chemin);
+
+    qint64 Taille() const { return taille_; }
+    bool EstFin() const { return position_ >= contenu_.size(); }
+    /// True at the end of the stream or when the next byte is CR or LF.
+    bool EstFinDeLigne() const;
+    /// Next line without its line end, as bytes of the file. A line ends at LF; one CR before it is
+    /// dropped. The view stays valid as long as this object.
+    QByteArrayView LireLigne();
+
+  private:
+    QFile fichier_;
+    QByteArray lu_;
+    QByteArrayView contenu_;
+    qint64 taille_ = 0;
+    qsizetype position_ = 0;
+};
+
+}  // namespace bornika

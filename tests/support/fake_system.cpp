@@ -1,0 +1,74 @@
+#include "support/fake_system.h"
+
+#include <QDir>
+#include <QFile>
+
+#include "platform/guard.h"
+
+namespace bornika::essai {
+
+namespace {
+
+template <class T>
+T Premier(std::vector<T>& file, T defaut) {
+    if (file.empty()) return defaut;
+    T valeur = file.front();
+    file.erase(file.begin());
+    return valeur;
+}
+
+}  // namespace
+
+Reponse DialoguesNotes::Boite(Icone icone, Boutons boutons, const QString& titre,
+                              const QString& texte) {
+    boites.push_back({icone, boutons, titre, texte});
+    if (pendantBoite) pendantBoite(boites.back());
+    return Premier(reponses, boutons == Boutons::OuiNon ? Reponse::Oui : Reponse::Ok);
+}
+
+std::optional<QString> DialoguesNotes::Ouvrir(const DemandeFichier& demande) {
+    demandes.push_back(demande);
+    return Premier(fichiers, std::optional<QString>());
+}
+
+std::optional<QString> DialoguesNotes::Enregistrer(const DemandeFichier& demande) {
+    demandes.push_back(demande);
+    return Premier(fichiers, std::optional<QString>());
+}
+
+std::optional<std::uint32_t> DialoguesNotes::Couleur(std::uint32_t depart) {
+    departsCouleur.push_back(depart);
+    return Premier(couleurs, std::optional<std::uint32_t>());
+}
+
+Etabli::Etabli(InterfaceUsb* usb)
+    : systeme{horloge, dialogues, usb ? *usb : usbVide, respiration, Regional{}, dossier.path()} {
+    respiration.ReglerPas(std::chrono::milliseconds(0));
+    const QDir ressources(QStringLiteral(BORNIKA_RESOURCES));
+    for (const char* nom : {"config.xml", "BORNIKA.TEE"}) {
+        const QString fichier = QString::fromLatin1(nom);
+        if (QFile::copy(ressources.filePath(fichier), Chemin(fichier)))
+            QFile::setPermissions(Chemin(fichier), QFile::ReadOwner | QFile::WriteOwner);
+    }
+    InstallerTraitementFaute(
+        [this](const FauteExecution& faute) { fautes.push_back(faute.numero()); });
+}
+
+Etabli::~Etabli() { InstallerTraitementFaute({}); }
+
+QByteArray Etabli::Lire(const QString& nom) const {
+    QFile fichier(Chemin(nom));
+    return fichier.open(QIODevice::ReadOnly) ? fichier.readAll() : QByteArray();
+}
+
+void Etabli::Ecrire(const QString& nom, const QByteArray& contenu) const {
+    QFile fichier(Chemin(nom));
+    if (!fichier.open(QIODevice::WriteOnly)) qFatal("cannot write a test file");
+    fichier.write(contenu);
+}
+
+QStringList Etabli::Fichiers() const {
+    return QDir(systeme.dossier).entryList(QDir::Files, QDir::Name);
+}
+
+}  // namespace bornika::essai
