@@ -18,13 +18,28 @@ void InstallerTraitementFaute(TraitementFaute traitement);
 /// Hands a fault to the installed handler.
 void SignalerFaute(const FauteExecution& faute);
 
+/// While one lives, faults of raised handlers end that handler and nothing more: for routines that
+/// ignore the faults of the controls that they fill, events of those controls included.
+class FautesIgnorees {
+  public:
+    FautesIgnorees() { ++nombre_; }
+    ~FautesIgnorees() { --nombre_; }
+    FautesIgnorees(const FautesIgnorees&) = delete;
+    FautesIgnorees& operator=(const FautesIgnorees&) = delete;
+
+    static bool Actif() { return nombre_ > 0; }
+
+  private:
+    static inline int nombre_ = 0;
+};
+
 /// The guard of one entry point: no fault crosses the toolkit's event loop.
 template <class Entree>
 void garder(Entree&& entree) {
     try {
         entree();
     } catch (const FauteExecution& faute) {
-        SignalerFaute(faute);
+        if (!FautesIgnorees::Actif()) SignalerFaute(faute);
     }
 }
 
