@@ -3,7 +3,11 @@
 /// Sampling period, start and end of the recording on the main form.
 namespace bornika {
 
+class ListeDeroulante;
 class MainScreen;
+
+/// Seconds of the chosen entry, whose number counts eighths; 0 with nothing chosen.
+double PeriodeDeListe(const ListeDeroulante& liste);
 
 /// Recomputes `DerniereMesure` and `DureeEnregistrement` from period, start and capacity, and shows
 /// `DureeSaisie` for the free period only. With no period chosen the period is 0. Fault 6 when the

@@ -1,0 +1,65 @@
+#include "logger/context_reading.h"
+
+#include <array>
+
+#include "logger/display_statement.h"
+#include "platform/code_page.h"
+#include "platform/numbers.h"
+#include "retrieval/memory_access.h"
+#include "service/pulse_parameters.h"
+#include "ui_main_screen.h"
+
+namespace bornika {
+
+namespace {
+
+constexpr int adresseFormatHeure = 116;
+constexpr int adresseUniteImpulsion = 117;
+
+/// Time bases in seconds, in the order of `ListeTemps`.
+constexpr std::array<float, 4> basesDeTemps = {1, 60, 3600, 86400};
+
+}  // namespace
+
+Suite LireFormatHeure(LectureParametres& lecture) {
+    const Octets octets = LitEEpromInterne(lecture.poste, adresseFormatHeure, true);
+    if (lecture.ecran.etat.TimeOut || octets.empty()) return Suite::Terminer;
+    const auto& ui = lecture.ecran.ui;
+    QRadioButton& option = octets.front() != 0 ? *ui->AMPM_1 : *ui->AMPM_0;
+    afficher([&] { option.setChecked(true); });
+    return Suite::Continuer;
+}
+
+Suite LirePoidsImpulsion(LectureParametres& lecture) {
+    MainScreen& ecran = lecture.ecran;
+    float poids = 0;
+    LitPoidsImpulsion(lecture.poste, poids);
+    if (ecran.etat.TimeOut) return Suite::Terminer;
+    afficher([&] { ecran.ui->CoefImpulsion->setText(TexteCourt(poids, ecran.systeme.regional)); });
+    return Suite::Continuer;
+}
+
+Suite LireUniteImpulsion(LectureParametres& lecture) {
+    QLineEdit& boite = *lecture.ecran.ui->UniteImpulsion;
+    afficher([&] { boite.setText({}); });
+    const Octets octets = LitEEpromInterne(lecture.poste, adresseUniteImpulsion, true);
+    if (lecture.ecran.etat.TimeOut) return Suite::Terminer;
+    QByteArray caracteres;
+    for (const int octet : octets)
+        caracteres.append(static_cast<char>(octet));
+    afficher([&] { boite.setText(Depuis8Bits(caracteres)); });
+    return Suite::Continuer;
+}
+
+Suite LireTempsDebit(LectureParametres& lecture) {
+    float base = 0;
+    LitTempsDebit(lecture.poste, base);
+    if (lecture.ecran.etat.TimeOut) return Suite::Terminer;
+    for (std::size_t i = 0; i < basesDeTemps.size(); ++i) {
+        if (base != basesDeTemps[i]) continue;
+        afficher([&] { lecture.ecran.ui->ListeTemps->Choisir(static_cast<int>(i)); });
+    }
+    return Suite::Continuer;
+}
+
+}  // namespace bornika

@@ -1,0 +1,86 @@
+#include "logger/identity_reading.h"
+
+#include "link/command_table.h"
+#include "logger/display_statement.h"
+#include "logger/parameter_report.h"
+#include "platform/format_pattern.h"
+#include "platform/numbers.h"
+#include "shell/dates.h"
+#include "ui_main_screen.h"
+
+namespace bornika {
+
+namespace {
+
+constexpr int longueurVersion = 9;
+constexpr double dernierAncienFirmware = 2.089;
+constexpr double pileMaximum = 158;
+constexpr double pileMinimum = 111;
+constexpr double voltsParPas = 0.0266666;
+
+void MontrerPile(MainScreen& ecran, int lecturePile) {
+    const auto& ui = ecran.ui;
+    afficher([&] { ui->ProgressBar3->FixerMaximum(pileMaximum); });
+    afficher([&] { ui->ProgressBar3->FixerMinimum(pileMinimum); });
+    afficher([&] { ui->ProgressBar3->FixerValeur(lecturePile); });
+    ui->TensionPile->setText(Format(lecturePile * voltsParPas, "#.00", ecran.systeme.regional) +
+                             QStringLiteral(" V."));
+}
+
+void MontrerTaille(MainScreen& ecran, int code) {
+    AppliquerTaille(ecran.etat, code);
+    afficher([&] { ecran.ui->ProgressBar1->FixerMinimum(0); });
+    afficher([&] { ecran.ui->ProgressBar1->FixerMaximum(ecran.etat.CapaciteMemoire); });
+}
+
+}  // namespace
+
+Suite LireVersion(LectureParametres& lecture) {
+    MainScreen& ecran = lecture.ecran;
+    if (!lecture.Demander(CMD_LIT_VERSION, longueurVersion)) return Suite::Terminer;
+    if (lecture.Octet(0) != CMD_LIT_VERSION) return Suite::Continuer;
+    const QString type = QString::number(lecture.Octet(1));
+    const QString haut = QString::number(lecture.Octet(2));
+    const QString bas = QString::number(lecture.Octet(4));
+    // The texts are joined: 2 and 110 make 2.11, but 2 and 89 make 0.289.
+    ecran.etat.VersionLogiciel = ValeurDebut(haut + bas) / 1000;
+    lecture.AncienFirmware = ecran.etat.VersionLogiciel <= dernierAncienFirmware;
+    ecran.ui->Version->setText(QStringLiteral("(%1) %2.%3").arg(type, haut, bas));
+    MontrerPile(ecran, lecture.Mot(5));
+    MontrerTaille(ecran, lecture.Octet(7));
+    return Suite::Continuer;
+}
+
+Suite LireNumeroSerie(LectureParametres& lecture) {
+    MainScreen& ecran = lecture.ecran;
+    const auto& ui = ecran.ui;
+    if (!lecture.Demander(CMD_LIT_NUMERO_SERIE)) return Suite::Terminer;
+    if (lecture.Octet(0) == CMD_LIT_NUMERO_SERIE) {
+        ui->NumeroSerie->setText(QString::number(static_cast<qint64>(lecture.Quatre(3))));
+    }
+    AjouteRapport(ecran, QStringLiteral("LabelNumeroSerie"), ui->NumeroSerie->text());
+    AjouteRapport(ecran, QStringLiteral("LabelVersion"), ui->Version->text());
+    AjouteRapport(ecran, QStringLiteral("LabelTensionPile"), ui->TensionPile->text());
+    return Suite::Continuer;
+}
+
+Suite LireDateEtalonnage(LectureParametres& lecture) {
+    MainScreen& ecran = lecture.ecran;
+    if (!Envoi_Entete(lecture.poste, CMD_LIT_DATE_ETALONNAGE, lecture.buffer, 8, false) ||
+        lecture.Octet(0) != CMD_LIT_DATE_ETALONNAGE) {
+        return Suite::Continuer;
+    }
+    const double date = lecture.Quatre(1);
+    QString texteDate = QStringLiteral("---");
+    QString capteur = texteDate;
+    if (date != 0) {
+        texteDate = EpochVersTexte(date, ecran.systeme.regional);
+        capteur =
+            ecran.ui->ListeEchelles->TexteA(static_cast<int>(ArrondiPair(lecture.Octet(5) / 16.0)));
+    }
+    AjouteRapport(ecran, QStringLiteral("LabelDateEtalonnage"), texteDate);
+    AjouteRapport(ecran, QStringLiteral("LabelCapteurEtalonnage"), capteur);
+    return Suite::Continuer;
+}
+
+}  // namespace bornika
