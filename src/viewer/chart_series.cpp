@@ -10,6 +10,7 @@
 namespace bornika {
 
 QByteArrayView MagasinEtiquettes::Lire(Place place) const {
+    if (place >= octets_.size()) place = vide;
     const char* debut = octets_.data() + place;
     const char* dernier = static_cast<const char*>(std::memchr(debut, fin, octets_.size() - place));
     return {debut, dernier};

@@ -22,8 +22,7 @@ struct FicheChargement {
     /// Text of a key in the language of `ListeLangues`, for the present product.
     virtual QString Texte(const QString& cle) = 0;
 
-    /// Reads the comments that belong to the file into `Commentaires`.
-    virtual void LireCommentaires(const QString& NomFichier) = 0;
+    virtual void LitCommentaires() = 0;
     virtual QString Commentaires() = 0;
     virtual void FixerCommentaires(const QString& texte) = 0;
     virtual QString NomEvenement() = 0;

@@ -2,16 +2,11 @@
 
 #include <QString>
 
-#include "platform/regional.h"
+#include "viewer/decimal_separator.h"
 
 namespace bornika {
 
 struct FicheChargement;
-
-/// The text of a number with the separator of the user's locale in the place of the other one, "."
-/// or
-/// ",". A locale with any third separator gives the empty text: it reads no number of a recording.
-QString TraiteSeparateur(const QString& Valeur, const Regional& regional);
 
 /// Reads one recording file into the chart, letting the user interface run meanwhile.
 ///

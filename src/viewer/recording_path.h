@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QString>
+
+namespace bornika {
+
+/// The file itself if it exists, else the file of that folder whose name differs in letter case
+/// only, else the name as it is.
+QString TrouverFichier(const QString& NomFichier);
+
+/// Name of the file that holds the measures which failed parity: ".txt", in any letter case,
+/// becomes
+/// ".err" in the name of the file; "" for a name without ".txt".
+QString NomCompagnon(const QString& NomFichier);
+
+}  // namespace bornika
