@@ -9,8 +9,8 @@ class Horloge {
   public:
     virtual ~Horloge() = default;
 
-    /// The computer's present local date and time, as wall-clock fields in a QDateTime of `Qt::UTC`,
-    /// so that no arithmetic on it ever meets a change between winter and summer time.
+    /// The computer's present local date and time, as wall-clock fields in a QDateTime of
+    /// `Qt::UTC`, so that no arithmetic on it ever meets a change between winter and summer time.
     virtual QDateTime Maintenant() = 0;
 
     /// Blocks for `millisecondes` without handling any event.

@@ -10,8 +10,8 @@ namespace bornika {
 /// A drop-down list whose entries carry a 32-bit number each.
 ///
 /// Choosing an entry, by hand or by the program, raises `Clic`, also when it is the entry chosen
-/// already and for -1. Filling and clearing raise nothing and choose nothing: the toolkit would select
-/// the first entry by itself.
+/// already and for -1. Filling and clearing raise nothing and choose nothing: the toolkit would
+/// select the first entry by itself.
 class ListeDeroulante : public QComboBox {
     Q_OBJECT
   public:

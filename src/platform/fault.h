@@ -41,7 +41,8 @@ class FauteExecution : public std::exception {
     QByteArray octets_;
 };
 
-/// Standard English text of a fault number, "Application-defined or object-defined error" for others.
+/// Standard English text of a fault number, "Application-defined or object-defined error" for
+/// others.
 QString TexteFaute(int numero);
 
 /// Raises the fault of that number with its standard text.

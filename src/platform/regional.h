@@ -9,7 +9,8 @@ namespace bornika {
 struct Regional {
     /// Decimal separator, "." or "," nearly everywhere.
     QString separateur = QStringLiteral(".");
-    /// Short date pattern of the toolkit with a four-digit year and months as numbers, "dd/MM/yyyy".
+    /// Short date pattern of the toolkit with a four-digit year and months as numbers,
+    /// "dd/MM/yyyy".
     QString dateCourte = QStringLiteral("dd/MM/yyyy");
 
     static Regional Pour(const QLocale& locale);

@@ -16,8 +16,8 @@ inline constexpr int disquePlein = 61;
 
 enum class ModeEcriture { Remplacer, Ajouter };
 
-/// A text file being written in place. Lines reach the disk at least once a second, so that what was
-/// interrupted keeps what it had.
+/// A text file being written in place. Lines reach the disk at least once a second, so that what
+/// was interrupted keeps what it had.
 class FichierTexteEcrit {
   public:
     /// Creates the file (or opens it to append). Fault 70, 76 or 52 when that cannot be.

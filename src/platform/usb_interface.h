@@ -34,8 +34,8 @@ class InterfaceUsb {
     /// Sends the bytes in one piece. False when they could not be sent, also for handles 0 and -1.
     virtual bool Ecrire(PoigneeUsb poignee, std::span<const std::uint8_t> octets) = 0;
 
-    /// Reads up to `octets.size()` bytes into `octets`. Returns how many came; 0 for a silent or lost
-    /// logger and for handles 0 and -1.
+    /// Reads up to `octets.size()` bytes into `octets`. Returns how many came; 0 for a silent or
+    /// lost logger and for handles 0 and -1.
     virtual int Lire(PoigneeUsb poignee, std::span<std::uint8_t> octets) = 0;
 
     /// Drops a pending read. Harmless on 0 and -1.

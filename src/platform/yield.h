@@ -6,7 +6,8 @@
 namespace bornika {
 
 /// The one yield operation of the long loops: it lets the user interface run when at least `pas`
-/// have passed since it last ran. Its clock is its own monotonic one, never the injected wall clock.
+/// have passed since it last ran. Its clock is its own monotonic one, never the injected wall
+/// clock.
 class Respiration {
   public:
     /// The interface runs for 5 ms steps by default: no hand notices the difference.
@@ -18,7 +19,8 @@ class Respiration {
     /// Replaces what "let the interface run" means (tests count calls with it).
     void ReglerEvenements(std::function<void()> evenements) { evenements_ = std::move(evenements); }
 
-    /// True when the next `Ceder` will let the interface run: the moment to bring displays up to date.
+    /// True when the next `Ceder` will let the interface run: the moment to bring displays up to
+    /// date.
     bool EstDue() const { return std::chrono::steady_clock::now() - dernier_ >= pas_; }
 
     /// Yields. Returns true when the interface ran.
