@@ -14,14 +14,14 @@ using Tampon = std::array<std::uint8_t, 17>;
 std::uint8_t MSB(double x);
 std::uint8_t LSB(double x);
 
-/// Sends the 8-byte frame `code`, `extracode`, six zeros, and reads `combien` bytes into `buffer` from
-/// index 1. The link must be open. False when the logger did not answer: `TimeOut` is then set, the
-/// link closed, `buffer` untouched, and the text "k-Pod Absent" was shown if `erreur`.
+/// Sends the 8-byte frame `code`, `extracode`, six zeros, and reads `combien` bytes into `buffer`
+/// from index 1. The link must be open. False when the logger did not answer: `TimeOut` is then
+/// set, the link closed, `buffer` untouched, and the text "k-Pod Absent" was shown if `erreur`.
 bool Envoi_Entete(Poste& poste, int code, Tampon& buffer, int combien, bool erreur,
                   int extracode = 0);
 
-/// Sends a frame of its own and reads `combien` bytes, with the text "k-Pod Absent" shown on silence
-/// if `erreur`: the shape of every command outside `Envoi_Entete`. Zeros when nothing came.
+/// Sends a frame of its own and reads `combien` bytes, with the text "k-Pod Absent" shown on
+/// silence if `erreur`: the shape of every command outside `Envoi_Entete`. Zeros when nothing came.
 Octets EchangeDirect(Poste& poste, std::span<const int> trame, int longueur, int combien,
                      bool erreur = true);
 

@@ -13,8 +13,8 @@ class ListeDeroulante;
 ///
 /// Each operation loads the file, does its work and, if it changed something, saves the whole
 /// document. Nothing is cached, so a change made by hand while the program runs is seen by the next
-/// operation. A missing or malformed file is a fault (91) of the operation that met it. No operation
-/// keeps a node across a call that can run another one.
+/// operation. A missing or malformed file is a fault (91) of the operation that met it. No
+/// operation keeps a node across a call that can run another one.
 class Configuration {
   public:
     explicit Configuration(QString dossier);
@@ -23,8 +23,8 @@ class Configuration {
     /// Path of the file.
     QString Chemin() const;
 
-    /// Text of the element at "//Configuration/" + `cle`, nothing when there is none. An element that
-    /// is there and empty gives the empty text. `fichier` is empty for "config.xml".
+    /// Text of the element at "//Configuration/" + `cle`, nothing when there is none. An element
+    /// that is there and empty gives the empty text. `fichier` is empty for "config.xml".
     std::optional<QString> LitConfig(const QString& cle, const QString& fichier = {});
     /// Sets that text and saves. A missing element is not made and the file is not touched.
     void EcritConfig(const QString& valeur, const QString& cle, const QString& fichier = {});
@@ -33,8 +33,8 @@ class Configuration {
     void EcritSplash(bool valeur);
     bool LitMaintenance();
 
-    /// Text of a key in a language. An unknown key is added with `defaut` (the key itself when that is
-    /// empty) and gives the empty text this once: it shows from the next lookup on.
+    /// Text of a key in a language. An unknown key is added with `defaut` (the key itself when that
+    /// is empty) and gives the empty text this once: it shows from the next lookup on.
     QString LitMessage(const QString& langue, const QString& cle, const QString& defaut);
 
     /// Adds the names of all languages and chooses `langue` where it is met.
@@ -50,6 +50,10 @@ class Configuration {
 
   private:
     class Document;
+
+    QString CheminDe(const QString& fichier) const;
+
+    QString dossier_;
     std::unique_ptr<Document> document_;
 };
 

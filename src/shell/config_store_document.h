@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <pugixml.hpp>
+
+namespace bornika {
+
+/// A text to be found without regard to case and to outer blanks: prepared once, compared with
+/// hundreds of raw UTF-8 texts without making an object of each.
+class CleRecherche {
+  public:
+    explicit CleRecherche(const QString& texte, bool rogner = false);
+
+    /// Whether the whole text is the same in Unicode upper case.
+    bool EgaleNom(QByteArrayView texte) const;
+    /// The same for the text less its outer blanks.
+    bool EgaleRognee(QByteArrayView texte) const;
+
+  private:
+    QString haute_;
+    QByteArray octets_;
+};
+
+/// The one document of the configuration. Loading and saving keep what the program does not know:
+/// other elements, comments, layout, line ends and the declared encoding.
+class DocumentConfiguration {
+  public:
+    /// Reads the file anew. Returns its root element; fault 91 when the file is missing or
+    /// malformed.
+    pugi::xml_node Charger(const QString& chemin);
+    /// Replaces the file that was read last.
+    void Enregistrer() const;
+    /// First element that an XPath expression selects, none when there is none. Fault 5 for an
+    /// expression that is none.
+    pugi::xml_node Choisir(const QByteArray& chemin) const;
+
+  private:
+    enum class Codage { Utf8, Latin1, Windows1252, Utf16Petit, Utf16Grand };
+
+    static Codage Reconnaitre(QByteArrayView octets);
+
+    pugi::xml_document document_;
+    // The document is parsed in place: its texts point into these bytes.
+    QByteArray octets_;
+    QString chemin_;
+    Codage codage_ = Codage::Utf8;
+    bool marque_ = false;
+};
+
+/// Element child at a position counted from 0. Fault 91 when there are not so many.
+pugi::xml_node EnfantA(pugi::xml_node parent, int position);
+/// Text of an element: all text within it, joined, never trimmed.
+QString TexteElement(pugi::xml_node element);
+/// Replaces all that is within an element by a text.
+void FixerTexte(pugi::xml_node element, const QString& texte);
+/// Whether the element's text is that key.
+bool CleEgale(pugi::xml_node element, const CleRecherche& cle);
+
+}  // namespace bornika
