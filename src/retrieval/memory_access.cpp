@@ -3,6 +3,7 @@
 #include <array>
 
 #include "link/command_exchange.h"
+#include "link/command_table.h"
 #include "platform/fault.h"
 
 namespace bornika {
@@ -10,12 +11,6 @@ namespace bornika {
 namespace {
 
 constexpr int blanc = 32;
-constexpr int codeTampon = 18;
-constexpr int codeEcritFlash = 19;
-constexpr int codeLitFlash = 20;
-constexpr int codeLitEEprom = 29;
-constexpr int codeEcritEEprom = 30;
-constexpr int codeForceContexte = 99;
 
 using Trame = std::array<int, 8>;
 
@@ -34,19 +29,17 @@ int OctetBas(int n) {
     return n & 255;
 }
 
-QString TexteAbsent(Poste& poste) {
-    return poste.ecran.Texte(QStringLiteral("k-Pod Absent"));
-}
-
 /// Sends a frame and reads its answer after a pause that the logger needs.
 Octets EchangeApresPause(Poste& poste, const Trame& trame, int combien, int pause) {
     poste.lien.UsbWrite(trame, 8);
     poste.ecran.systeme.horloge.Pause(pause);
-    return poste.lien.UsbRead(combien, TexteAbsent(poste), true, false, QString());
+    return poste.lien.UsbRead(
+        combien, [&poste] { return poste.ecran.Texte(QStringLiteral("k-Pod Absent")); }, true, true,
+        QString());
 }
 
 Octets LireFlash(Poste& poste, int page, int offset) {
-    const Trame trame{codeLitFlash,     OctetHaut(page), OctetBas(page), OctetHaut(offset),
+    const Trame trame{CMD_FLASH_LIT,    OctetHaut(page), OctetBas(page), OctetHaut(offset),
                       OctetBas(offset), blanc,           blanc,          blanc};
     Octets lus = EchangeDirect(poste, trame, 8, 8);
     poste.lien.FermeUSB();
@@ -57,7 +50,7 @@ Octets LireFlash(Poste& poste, int page, int offset) {
 void EcrireFlash(Poste& poste, int page, int offset, const Octets& Valeurs) {
     Trame trame{};
     // The values take the place of the command code too: this is what has always gone out.
-    trame[0] = codeTampon;
+    trame[0] = CMD_FLASH_TAMPON;
     for (std::size_t i = 0; i <= 6; ++i)
         trame[i] = Element(Valeurs, i);
     Octets reponse = EchangeDirect(poste, trame, 8, 1);
@@ -67,7 +60,7 @@ void EcrireFlash(Poste& poste, int page, int offset, const Octets& Valeurs) {
     }
     // The second frame is built in the answer, which has one position: the subscript fault of the
     // next one ends the operation, on purpose, before the flash itself is written.
-    const Trame seconde{codeEcritFlash,   OctetHaut(page), OctetBas(page), OctetHaut(offset),
+    const Trame seconde{CMD_FLASH_ECRIT,  OctetHaut(page), OctetBas(page), OctetHaut(offset),
                         OctetBas(offset), blanc,           blanc,          blanc};
     for (std::size_t i = 0; i < seconde.size(); ++i)
         Element(reponse, i) = seconde[i];
@@ -85,14 +78,15 @@ Octets Memoire_Flash(Poste& poste, bool lecture, int page, int offset, const Oct
 }
 
 int EcritEEpromInterne(Poste& poste, int adresse, int valeur) {
-    const Trame trame{codeEcritEEprom, MSB(adresse), LSB(adresse), valeur,
-                      blanc,           blanc,        blanc,        blanc};
+    const Trame trame{
+        CMD_ECRIT_EEPROM, MSB(adresse), LSB(adresse), valeur, blanc, blanc, blanc, blanc};
     return EchangeApresPause(poste, trame, 4, 50).at(3);
 }
 
 Octets LitEEpromInterne(Poste& poste, int adresse, bool ouvrir) {
     if (ouvrir) poste.lien.OuvreUSB(poste.ecran.etat.UsbID);
-    const Trame trame{codeLitEEprom, MSB(adresse), LSB(adresse), blanc, blanc, blanc, blanc, blanc};
+    const Trame trame{CMD_LIT_EEPROM, MSB(adresse), LSB(adresse), blanc,
+                      blanc,          blanc,        blanc,        blanc};
     Octets lus = EchangeDirect(poste, trame, 8, 8);
     if (poste.ecran.etat.TimeOut) {
         poste.lien.FermeUSB();
@@ -103,7 +97,7 @@ Octets LitEEpromInterne(Poste& poste, int adresse, bool ouvrir) {
 }
 
 void ForceContexte(Poste& poste) {
-    EchangeApresPause(poste, {codeForceContexte, blanc, blanc, blanc, blanc, blanc, blanc, blanc},
+    EchangeApresPause(poste, {CMD_FORCE_CONTEXTE, blanc, blanc, blanc, blanc, blanc, blanc, blanc},
                       1, 1000);
 }
 

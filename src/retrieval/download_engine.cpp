@@ -1,0 +1,244 @@
+#include "retrieval/download_engine.h"
+
+#include <array>
+
+#include "link/command_exchange.h"
+#include "link/command_table.h"
+#include "link/device_identity.h"
+#include "logger/parameter_reading.h"
+#include "logger/pressure_scale.h"
+#include "platform/fault.h"
+#include "platform/pointer_shape.h"
+#include "ui_main_screen.h"
+
+namespace bornika {
+
+namespace {
+
+constexpr int longueurRequete = 2;
+constexpr int longueurReponse = 10;
+constexpr int echecsMuets = 4;
+constexpr double versionCarte = 2.11;
+
+QString NomMesures(const MainScreen& ecran) {
+    return ecran.etat.Nom_Fichier + QStringLiteral(".txt");
+}
+
+void Informer(MainScreen& ecran, const QString& texte) {
+    ecran.systeme.dialogues.Boite(Icone::Information, Boutons::Ok, ecran.etat.NomKpod, texte);
+}
+
+}  // namespace
+
+void LireValeurs(Poste& poste, const SuiteTelechargement& suite) {
+    MainScreen& ecran = poste.ecran;
+    bool ok = true;
+    LitVersionKpod(poste, ok);
+    if (ecran.etat.VersionLogiciel >= versionCarte) {
+        Informer(ecran,
+                 ecran.Texte(QStringLiteral("Vous devez lires les données depuis la carte SD")));
+        return;
+    }
+    LectureValeurs(poste, suite);
+}
+
+void LectureValeurs(Poste& poste, const SuiteTelechargement& suite) {
+    if (poste.ecran.etat.EnLecture) {
+        poste.ecran.etat.EnLecture = false;
+        return;
+    }
+    Telechargement(poste, suite).Executer();
+}
+
+Telechargement::Telechargement(Poste& poste, const SuiteTelechargement& suite)
+    : poste_(poste),
+      ecran_(poste.ecran),
+      suite_(suite),
+      avancement_(poste.ecran),
+      redacteur_(poste.ecran.systeme.regional) {}
+
+void Telechargement::Executer() {
+    if (!Commencer()) return;
+    Etat etat = Etat::EnCours;
+    while (etat == Etat::EnCours)
+        etat = Tour();
+    avancement_.Montrer();
+    Terminer(etat);
+}
+
+bool Telechargement::Commencer() {
+    AnnoncerLecture();
+    if (!LireReglages()) return false;
+    avancement_.Ouvrir();
+    CreerFichiers();
+    poste_.lien.OuvreUSB(ecran_.etat.UsbID);
+    return true;
+}
+
+void Telechargement::AnnoncerLecture() {
+    ecran_.etat.TimeOut = false;
+    // Weight and unit of a pulse are read with the others and used by the viewer only.
+    ecran_.configuration.LitConfig(QStringLiteral("valeur_impulsion"));
+    ecran_.configuration.LitConfig(QStringLiteral("unite_impulsion"));
+    ecran_.etat.EnLecture = true;
+    ecran_.ui->LireValeurs->setText(ecran_.Texte(QStringLiteral("Annuler Lecture")));
+    pointeurSauve_ = PointeurSouris(ecran_);
+    FixerPointeurSouris(ecran_, pointeur::fleche);
+}
+
+/// The pressures of the recording need the logger's set-up, the bar its number of measures.
+bool Telechargement::LireReglages() {
+    Lire_Parametres(poste_);
+    if (!ecran_.etat.TimeOut) return true;
+    ecran_.etat.EnLecture = false;
+    RendreBouton(QStringLiteral("LireValeurs"));
+    return false;
+}
+
+void Telechargement::CreerFichiers() {
+    ecran_.etat.Nom_Fichier = NomDeBase(ecran_.systeme.horloge.Maintenant());
+    fichiers_.emplace(ecran_.systeme.Chemin(ecran_.etat.Nom_Fichier),
+                      LigneEntete(ecran_.ui->ListeUnites->Texte()));
+}
+
+Telechargement::Etat Telechargement::Tour() {
+    const Octets reponse = Demander();
+    if (!SurvivreAuSilence()) return Etat::AppareilPerdu;
+    avancement_.Avancer();
+    Respirer();
+    if (ecran_.etat.EnFermeture) return Etat::Fermeture;
+    return Exploiter(reponse);
+}
+
+/// Asks for the next measure. Only the first request of a transfer says so: one that failed is not
+/// sent again as the first. What stands behind the two bytes never leaves.
+Octets Telechargement::Demander() {
+    const std::array<int, 10> requete{
+        CMD_LIT_MESURES, premier_ ? 1 : 0, 20, 20, 20, 20, 20, 20, 0, 0};
+    premier_ = false;
+    const bool parler = nbEchecs_ > echecsMuets;
+    if (parler) avancement_.Montrer();
+    return EchangeDirect(poste_, requete, longueurRequete, longueurReponse, parler);
+}
+
+/// Five failures in a row are survived: the link is opened again and the transfer goes on.
+bool Telechargement::SurvivreAuSilence() {
+    if (!ecran_.etat.TimeOut) {
+        nbEchecs_ = 0;
+        return true;
+    }
+    if (nbEchecs_ > echecsMuets) return false;
+    ++nbEchecs_;
+    poste_.lien.OuvreUSB(ecran_.etat.UsbID);
+    ecran_.etat.TimeOut = false;
+    return true;
+}
+
+void Telechargement::Respirer() {
+    Respiration& respiration = ecran_.systeme.respiration;
+    if (respiration.EstDue()) avancement_.Montrer();
+    respiration.Ceder();
+}
+
+Telechargement::Etat Telechargement::Exploiter(const Octets& reponse) {
+    // A click during the yield asks the logger for its version: if it was silent then, the measure
+    // that is here already is not looked at any more.
+    if (!ecran_.etat.TimeOut && reponse[0] == CMD_LIT_MESURES)
+        decodeur_.Decoder(std::span<const int, 10>(reponse.data(), longueurReponse), *this);
+    if (!echec_.isEmpty()) return Etat::EcritureImpossible;
+    return decodeur_.Fin() || !ecran_.etat.EnLecture ? Etat::FinNormale : Etat::EnCours;
+}
+
+void Telechargement::Compter(std::int32_t Compteur) {
+    avancement_.Compter(Compteur);
+}
+
+/// A line that cannot be built is skipped like every fault of the decoding; one that cannot be
+/// written ends the transfer: the logger still holds everything.
+void Telechargement::Mesurer(const MesureDatee& mesure) {
+    if (!echec_.isEmpty()) return;
+    QByteArrayView ligne;
+    if (!ignorer([&] { ligne = Ligne(mesure); })) return;
+    try {
+        fichiers_->Ecrire(mesure.parite_ok, ligne);
+    } catch (const FauteExecution& faute) {
+        echec_ = faute.texte();
+    }
+}
+
+/// Only a periodic measure that failed the parity control gets the absolute correction: recordings
+/// have always been like that.
+QByteArrayView Telechargement::Ligne(const MesureDatee& mesure) {
+    const bool absolue =
+        !mesure.impulsion && !mesure.parite_ok && ecran_.ui->PressionAbsolue->isChecked();
+    const double pression = Donne_Pression(ecran_, mesure.points, true, absolue);
+    if (mesure.impulsion)
+        return redacteur_.Impulsion(mesure.secondes, mesure.millisecondes, mesure.points, pression,
+                                    mesure.taux);
+    return redacteur_.Periodique(mesure.secondes, mesure.millisecondes, mesure.points, pression);
+}
+
+void Telechargement::Terminer(Etat etat) {
+    if (etat == Etat::FinNormale) {
+        poste_.lien.FermeUSB();
+        if (!FermerFichiers()) etat = Etat::EcritureImpossible;
+    }
+    if (etat == Etat::EcritureImpossible) DireEchec();
+    if (etat == Etat::FinNormale)
+        TerminerNormalement();
+    else
+        TerminerSansSuite();
+}
+
+/// Closes both files, the second one whatever the first one gave. False when lines were lost.
+bool Telechargement::FermerFichiers() {
+    const auto fermer = [this](auto&& fermeture) {
+        try {
+            fermeture();
+        } catch (const FauteExecution& faute) {
+            if (echec_.isEmpty()) echec_ = faute.texte();
+        }
+    };
+    fermer([this] { fichiers_->FermerMesures(); });
+    fermer([this] { fichiers_->FermerRejets(); });
+    return echec_.isEmpty();
+}
+
+void Telechargement::TerminerNormalement() {
+    avancement_.Fermer();
+    ecran_.etat.EnLecture = false;
+    ignorer([this] { RendreBouton(QStringLiteral("Lire les valeurs")); });
+    const QString fichier = NomMesures(ecran_);
+    const QString commentaires =
+        ecran_.ui->Commentaire->text() + QStringLiteral("\r\n") + ecran_.etat.Rapport;
+    try {
+        suite_.commenter(commentaires, fichier);
+    } catch (const FauteExecution& faute) {
+        echec_ = ecran_.etat.Nom_Fichier + QStringLiteral(".cmt : ") + faute.texte();
+        DireEchec();
+    }
+    avancement_.Conclure();
+    ignorer(
+        [&] { Informer(ecran_, ecran_.textes.TexteValeursStockees + QLatin1Char(' ') + fichier); });
+    if (!ecran_.etat.EnFermeture) ignorer([&] { suite_.montrer(fichier); });
+}
+
+/// The files stay as far as they got. The bar and its text stay too: they tell how far that was.
+void Telechargement::TerminerSansSuite() {
+    fichiers_.reset();
+    ecran_.etat.EnLecture = false;
+    ignorer([this] { RendreBouton(QStringLiteral("LireValeurs")); });
+    poste_.lien.FermeUSB();
+}
+
+void Telechargement::DireEchec() {
+    ecran_.systeme.dialogues.Boite(Icone::Critique, Boutons::Ok, ecran_.etat.NomKpod, echec_);
+}
+
+/// Pointer and caption as they are when nothing is read.
+void Telechargement::RendreBouton(const QString& cle) {
+    FixerPointeurSouris(ecran_, pointeurSauve_);
+    ecran_.ui->LireValeurs->setText(ecran_.Texte(cle));
+}
+
+}  // namespace bornika

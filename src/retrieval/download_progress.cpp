@@ -1,0 +1,53 @@
+#include "retrieval/download_progress.h"
+
+#include "platform/numbers.h"
+#include "ui_main_screen.h"
+
+namespace bornika {
+
+namespace {
+
+QString Avance(double valeur, double maximum) {
+    return QString::number(valeur, 'f', 0) + QLatin1Char('/') + QString::number(maximum, 'f', 0);
+}
+
+}  // namespace
+
+void Avancement::Ouvrir() {
+    BarreProgression& barre = *ecran_.ui->ProgressBar2;
+    barre.FixerValeur(barre.Minimum());
+    barre.show();
+    ecran_.ui->Infos->show();
+}
+
+void Avancement::Compter(std::int32_t Compteur) {
+    const double maximum = ArrondiPair(ecran_.ui->ProgressBar2->Maximum());
+    if (Compteur > maximum) return;
+    compteur_ = Compteur;
+    maximum_ = maximum;
+    texteNote_ = true;
+}
+
+void Avancement::Montrer() {
+    BarreProgression& barre = *ecran_.ui->ProgressBar2;
+    const double avant = barre.Valeur();
+    double valeur = avant;
+    for (; pas_ > 0 && barre.Maximum() > valeur + 1; --pas_)
+        valeur += 1;
+    pas_ = 0;
+    if (valeur != avant) barre.FixerValeur(valeur);
+    if (texteNote_) ecran_.ui->Infos->setText(Avance(compteur_, maximum_));
+    texteNote_ = false;
+}
+
+void Avancement::Fermer() {
+    ecran_.ui->ProgressBar2->hide();
+    ecran_.ui->Infos->hide();
+}
+
+void Avancement::Conclure() {
+    const BarreProgression& barre = *ecran_.ui->ProgressBar2;
+    ecran_.ui->Infos->setText(Avance(ArrondiPair(barre.Valeur()), ArrondiPair(barre.Maximum())));
+}
+
+}  // namespace bornika
