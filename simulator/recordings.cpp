@@ -47,9 +47,11 @@ class Coup {
         hauteur_ = hauteur;
         age_ = 0;
     }
+    /// The swing of now; the next call is `secondes` later.
     double Avancer(double secondes) {
+        const double age = age_;
         age_ += secondes;
-        return hauteur_ * std::exp(-age_ / 70.0) * std::cos(2 * std::numbers::pi * age_ / 47.0);
+        return hauteur_ * std::exp(-age / 70.0) * std::cos(2 * std::numbers::pi * age / 47.0);
     }
 
   private:
