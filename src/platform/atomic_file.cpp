@@ -3,7 +3,6 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-#include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
 
@@ -13,14 +12,18 @@ namespace bornika {
 
 namespace {
 
-[[noreturn]] void LeverEchec(const QFileDevice& fichier) {
-    const int numero =
-        fichier.error() == QFileDevice::ResourceError ? 61 : numero_faute::accesRefuse;
-    throw FauteExecution(numero, fichier.errorString());
+// The file that a chain of symbolic links ends at: it is replaced, the links stay.
+QString Cible(const QString& chemin) {
+    constexpr int maillons = 40;
+    QString cible = chemin;
+    for (int i = 0; i < maillons && QFileInfo(cible).isSymLink(); ++i)
+        cible = QFileInfo(cible).symLinkTarget();
+    return cible;
 }
 
-// The rename itself is on the disk only when the folder is.
-void DeposerDossier(const QString& dossier) {
+// The new name itself must survive a power cut. A folder that cannot be synchronised is no failure:
+// the file is whole in any case.
+void SynchroniserDossier(const QString& dossier) {
     const int descripteur =
         ::open(QFile::encodeName(dossier).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (descripteur < 0) return;
@@ -31,17 +34,14 @@ void DeposerDossier(const QString& dossier) {
 }  // namespace
 
 void RemplacerFichier(const QString& chemin, const QByteArray& contenu) {
-    const QFileInfo ancien(chemin);
-    // A link is followed: the file that it names is replaced, not the link.
-    const QString cible = ancien.isSymLink() ? ancien.symLinkTarget() : chemin;
-    const bool existait = QFile::exists(cible);
-    if (existait && !QFileInfo(cible).isWritable()) throw FauteExecution(numero_faute::accesRefuse);
-    QSaveFile fichier(cible);
-    if (!fichier.open(QIODevice::WriteOnly)) LeverEchec(fichier);
-    if (existait) fichier.setPermissions(QFile::permissions(cible));
-    if (fichier.write(contenu) != contenu.size() || !fichier.flush()) LeverEchec(fichier);
-    if (!fichier.commit()) LeverEchec(fichier);
-    DeposerDossier(QFileInfo(cible).absolutePath());
+    QSaveFile fichier(Cible(chemin));
+    // Closing the object without a commit removes what was written beside the old file.
+    if (!fichier.open(QIODevice::WriteOnly) || fichier.write(contenu) != contenu.size() ||
+        !fichier.commit()) {
+        const bool plein = fichier.error() == QFileDevice::ResourceError;
+        throw FauteExecution(plein ? numero_faute::disquePlein : numero_faute::accesRefuse);
+    }
+    SynchroniserDossier(QFileInfo(fichier.fileName()).absolutePath());
 }
 
 }  // namespace bornika

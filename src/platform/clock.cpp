@@ -1,16 +1,17 @@
 #include "platform/clock.h"
 
-#include <QThread>
+#include <chrono>
+#include <thread>
 
 namespace bornika {
 
 QDateTime HorlogeSysteme::Maintenant() {
-    const QDateTime locale = QDateTime::currentDateTime();
-    return QDateTime(locale.date(), locale.time(), Qt::UTC);
+    const QDateTime local = QDateTime::currentDateTime();
+    return QDateTime(local.date(), local.time(), Qt::UTC);
 }
 
 void HorlogeSysteme::Pause(int millisecondes) {
-    if (millisecondes > 0) QThread::msleep(static_cast<unsigned long>(millisecondes));
+    std::this_thread::sleep_for(std::chrono::milliseconds(millisecondes));
 }
 
 }  // namespace bornika

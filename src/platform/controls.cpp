@@ -10,12 +10,13 @@ namespace bornika {
 
 namespace {
 
-constexpr int donneeAbsente = 381;
+// Steps of a displayed bar: finer ones would be repainted without being seen.
 constexpr int pasAffiches = 1000;
 
 }  // namespace
 
 ListeDeroulante::ListeDeroulante(QWidget* parent) : QComboBox(parent) {
+    // The toolkit reports a choice by hand also for the entry that is chosen already.
     connect(this, &QComboBox::activated, this, [this] {
         Q_EMIT ClicMain();
         Q_EMIT Clic();
@@ -23,33 +24,34 @@ ListeDeroulante::ListeDeroulante(QWidget* parent) : QComboBox(parent) {
 }
 
 void ListeDeroulante::Vider() {
-    const QSignalBlocker muet(this);
+    const QSignalBlocker silence(this);
     clear();
-    setCurrentIndex(-1);
+    update();
 }
 
 void ListeDeroulante::Ajouter(const QString& texte, int position) {
     if (position < -1 || position > count()) LeverFaute(numero_faute::appelInvalide);
-    const QSignalBlocker muet(this);
-    const bool sansChoix = currentIndex() < 0;
-    insertItem(position < 0 ? count() : position, texte, 0);
-    if (sansChoix) setCurrentIndex(-1);
+    const QSignalBlocker silence(this);
+    const bool aucunChoix = currentIndex() < 0;
+    insertItem(position < 0 ? count() : position, texte);
+    if (aucunChoix) setCurrentIndex(-1);
+    update();
 }
 
 void ListeDeroulante::FixerDonnee(int position, std::int32_t donnee) {
-    if (position < 0 || position >= count()) LeverFaute(donneeAbsente);
+    if (position < 0 || position >= count()) LeverFaute(numero_faute::entreeAbsente);
     setItemData(position, donnee);
 }
 
 std::int32_t ListeDeroulante::Donnee(int position) const {
-    if (position < 0 || position >= count()) LeverFaute(donneeAbsente);
+    if (position < 0 || position >= count()) LeverFaute(numero_faute::entreeAbsente);
     return itemData(position).toInt();
 }
 
 void ListeDeroulante::Choisir(int index) {
     if (index < -1 || index >= count()) LeverFaute(numero_faute::valeurInvalide);
     {
-        const QSignalBlocker muet(this);
+        const QSignalBlocker silence(this);
         setCurrentIndex(index);
     }
     update();
@@ -61,19 +63,18 @@ void ListeDeroulante::ChoisirSiPresent(int index) {
 }
 
 BarreProgression::BarreProgression(QWidget* parent) : QProgressBar(parent) {
-    setRange(0, pasAffiches);
     Montrer();
 }
 
 void BarreProgression::FixerMinimum(double minimum) {
-    if (minimum > maximum_) LeverFaute(numero_faute::valeurInvalide);
+    if (!(minimum <= maximum_)) LeverFaute(numero_faute::valeurInvalide);
     minimum_ = minimum;
     valeur_ = std::max(valeur_, minimum_);
     Montrer();
 }
 
 void BarreProgression::FixerMaximum(double maximum) {
-    if (maximum < minimum_) LeverFaute(numero_faute::valeurInvalide);
+    if (!(maximum >= minimum_)) LeverFaute(numero_faute::valeurInvalide);
     maximum_ = maximum;
     valeur_ = std::min(valeur_, maximum_);
     Montrer();
@@ -86,11 +87,11 @@ void BarreProgression::FixerValeur(double valeur) {
 }
 
 void BarreProgression::Montrer() {
-    const double etendue = maximum_ - minimum_;
-    const int pas =
-        etendue > 0 ? static_cast<int>(std::lround((valeur_ - minimum_) / etendue * pasAffiches))
-                    : 0;
-    if (pas != value()) setValue(pas);
+    if (minimum() != 0 || maximum() != pasAffiches) setRange(0, pasAffiches);
+    const double part =
+        maximum_ > minimum_ ? (valeur_ - minimum_) / (maximum_ - minimum_) * pasAffiches : 0;
+    const int affiche = static_cast<int>(std::lround(part));
+    if (affiche != value()) setValue(affiche);
 }
 
 }  // namespace bornika

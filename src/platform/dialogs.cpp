@@ -1,6 +1,7 @@
 #include "platform/dialogs.h"
 
 #include <QApplication>
+#include <QCloseEvent>
 #include <QColorDialog>
 #include <QDir>
 #include <QFileDialog>
@@ -14,7 +15,21 @@ namespace bornika {
 
 namespace {
 
-QMessageBox::Icon IconeQt(Icone icone) {
+// A box that is answered by one of its buttons only.
+class BoiteSansFuite : public QMessageBox {
+  public:
+    using QMessageBox::QMessageBox;
+
+  protected:
+    void keyPressEvent(QKeyEvent* evenement) override {
+        // The toolkit would take Esc for "No".
+        if (evenement->matches(QKeySequence::Cancel)) return;
+        QMessageBox::keyPressEvent(evenement);
+    }
+    void closeEvent(QCloseEvent* evenement) override { evenement->ignore(); }
+};
+
+QMessageBox::Icon Image(Icone icone) {
     switch (icone) {
         case Icone::Information:
             return QMessageBox::Information;
@@ -30,128 +45,119 @@ QMessageBox::Icon IconeQt(Icone icone) {
     return QMessageBox::NoIcon;
 }
 
-QMessageBox::StandardButtons BoutonsQt(Boutons boutons) {
-    switch (boutons) {
-        case Boutons::OkAnnuler:
-            return QMessageBox::Ok | QMessageBox::Cancel;
-        case Boutons::OuiNon:
-            return QMessageBox::Yes | QMessageBox::No;
-        case Boutons::Ok:
-            break;
-    }
-    return QMessageBox::Ok;
+void Preparer(QMessageBox& boite, Icone icone, const QString& titre, const QString& texte) {
+    QString lignes = texte;
+    lignes.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    boite.setIcon(Image(icone));
+    boite.setWindowTitle(titre);
+    // Names of files may hold what looks like mark-up.
+    boite.setTextFormat(Qt::PlainText);
+    boite.setText(lignes);
 }
 
-/// A Yes/No question has to be answered: neither Esc nor the frame closes it.
-class BoiteQuestion : public QMessageBox {
-  public:
-    using QMessageBox::QMessageBox;
-    bool sansFuite = false;
+QString SuffixeParDefaut(const QString& suffixe) {
+    const QString extension = suffixe.mid(suffixe.lastIndexOf(QLatin1Char('.')) + 1);
+    return extension.contains(QLatin1Char('*')) ? QString() : extension;
+}
 
-    void reject() override {
-        if (!sansFuite) QMessageBox::reject();
-    }
-
-  protected:
-    void keyPressEvent(QKeyEvent* evenement) override {
-        if (sansFuite && evenement->key() == Qt::Key_Escape) return;
-        QMessageBox::keyPressEvent(evenement);
-    }
-    void closeEvent(QCloseEvent* evenement) override {
-        if (sansFuite && result() == 0 && isVisible() && clickedButton() == nullptr)
-            evenement->ignore();
+// Each pattern in the case told, in small and in capital letters; "*.*" means every file.
+QString MotifsDesDeuxCasses(const QString& motifs) {
+    QStringList tous;
+    for (const QString& motif : motifs.split(QLatin1Char(';'), Qt::SkipEmptyParts)) {
+        const QString net = motif.trimmed();
+        if (net == QLatin1String("*.*"))
+            tous << QStringLiteral("*");
         else
-            QMessageBox::closeEvent(evenement);
+            tous << net << net.toLower() << net.toUpper();
     }
-};
-
-// "*.txt" names the file ending "txt".
-QString Terminaison(const QString& suffixe) {
-    const QString fin = QFileInfo(suffixe).suffix();
-    return fin;
+    tous.removeDuplicates();
+    return tous.join(QLatin1Char(' '));
 }
 
 void Preparer(QFileDialog& dialogue, const DemandeFichier& demande) {
     if (!demande.titre.isEmpty()) dialogue.setWindowTitle(demande.titre);
-    dialogue.setDirectory(demande.dossier);
+    if (!demande.dossier.isEmpty()) dialogue.setDirectory(demande.dossier);
     const QString filtre = FiltrePourDialogue(demande.filtre);
     if (!filtre.isEmpty()) dialogue.setNameFilter(filtre);
-    dialogue.setDefaultSuffix(Terminaison(demande.suffixe));
+    const QString suffixe = SuffixeParDefaut(demande.suffixe);
+    if (!suffixe.isEmpty()) dialogue.setDefaultSuffix(suffixe);
+    // A name such as "*.txt" is the pattern of the last dialog, no file.
     if (!demande.nom.isEmpty() && !demande.nom.contains(QLatin1Char('*')))
         dialogue.selectFile(demande.nom);
 }
 
-// Several files travel as one text: the folder, then each name, separated by NUL.
+// One file is its path; several are the folder, then each name, separated by NUL.
 QString EnUnTexte(const QStringList& fichiers) {
-    if (fichiers.size() == 1) return fichiers.first();
-    QString texte = QFileInfo(fichiers.first()).absolutePath();
+    if (fichiers.size() == 1) return fichiers.front();
+    const QDir dossier = QFileInfo(fichiers.front()).absoluteDir();
+    QStringList morceaux{dossier.absolutePath()};
     for (const QString& fichier : fichiers)
-        texte += QChar(0) + QFileInfo(fichier).fileName();
-    return texte;
+        morceaux << dossier.relativeFilePath(fichier);
+    return morceaux.join(QChar(u'\0'));
+}
+
+std::optional<QString> Demander(QFileDialog& dialogue) {
+    if (dialogue.exec() != QDialog::Accepted || dialogue.selectedFiles().isEmpty()) return {};
+    return EnUnTexte(dialogue.selectedFiles());
+}
+
+Reponse DemanderOuiNon(QMessageBox& boite) {
+    boite.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+    boite.setWindowFlag(Qt::WindowCloseButtonHint, false);
+    return boite.exec() == QMessageBox::Yes ? Reponse::Oui : Reponse::Non;
 }
 
 }  // namespace
 
 QString FiltrePourDialogue(const QString& filtre) {
-    const QStringList parties = filtre.split(QLatin1Char('|'));
+    const QStringList morceaux = filtre.split(QLatin1Char('|'));
     QStringList filtres;
-    for (qsizetype i = 0; i + 1 < parties.size(); i += 2) {
-        QStringList motifs;
-        for (const QString& motif : parties[i + 1].split(QLatin1Char(';'), Qt::SkipEmptyParts)) {
-            for (const QString& forme :
-                 {motif.trimmed(), motif.trimmed().toLower(), motif.trimmed().toUpper()})
-                if (!motifs.contains(forme)) motifs << forme;
-        }
-        filtres << parties[i] + QStringLiteral(" (") + motifs.join(QLatin1Char(' ')) +
+    for (qsizetype i = 0; i + 1 < morceaux.size(); i += 2)
+        filtres << morceaux[i] + QLatin1String(" (") + MotifsDesDeuxCasses(morceaux[i + 1]) +
                        QLatin1Char(')');
-    }
-    return filtres.join(QStringLiteral(";;"));
+    return filtres.join(QLatin1String(";;"));
 }
 
 Reponse DialoguesQt::Boite(Icone icone, Boutons boutons, const QString& titre,
                            const QString& texte) {
-    BoiteQuestion boite(QApplication::activeWindow());
-    boite.sansFuite = boutons == Boutons::OuiNon;
-    boite.setIcon(IconeQt(icone));
-    boite.setWindowTitle(titre);
-    boite.setTextFormat(Qt::PlainText);
-    boite.setText(texte);
-    boite.setStandardButtons(BoutonsQt(boutons));
-    switch (boite.exec()) {
-        case QMessageBox::Yes:
-            return Reponse::Oui;
-        case QMessageBox::No:
-            return Reponse::Non;
-        case QMessageBox::Ok:
-            return Reponse::Ok;
-        default:
-            return boutons == Boutons::OkAnnuler ? Reponse::Annuler : Reponse::Ok;
+    QWidget* parent = QApplication::activeWindow();
+    if (boutons == Boutons::OuiNon) {
+        BoiteSansFuite boite(parent);
+        Preparer(boite, icone, titre, texte);
+        return DemanderOuiNon(boite);
     }
+    QMessageBox boite(parent);
+    Preparer(boite, icone, titre, texte);
+    if (boutons == Boutons::Ok) {
+        boite.setStandardButtons(QMessageBox::Ok);
+        boite.exec();
+        return Reponse::Ok;
+    }
+    boite.setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel);
+    return boite.exec() == QMessageBox::Ok ? Reponse::Ok : Reponse::Annuler;
 }
 
 std::optional<QString> DialoguesQt::Ouvrir(const DemandeFichier& demande) {
     QFileDialog dialogue(QApplication::activeWindow());
+    Preparer(dialogue, demande);
     dialogue.setAcceptMode(QFileDialog::AcceptOpen);
     dialogue.setFileMode(demande.plusieurs ? QFileDialog::ExistingFiles
                                            : QFileDialog::ExistingFile);
-    Preparer(dialogue, demande);
-    if (dialogue.exec() != QDialog::Accepted || dialogue.selectedFiles().isEmpty()) return {};
-    return EnUnTexte(dialogue.selectedFiles());
+    return Demander(dialogue);
 }
 
 std::optional<QString> DialoguesQt::Enregistrer(const DemandeFichier& demande) {
     QFileDialog dialogue(QApplication::activeWindow());
+    Preparer(dialogue, demande);
     dialogue.setAcceptMode(QFileDialog::AcceptSave);
     dialogue.setFileMode(QFileDialog::AnyFile);
-    Preparer(dialogue, demande);
-    if (dialogue.exec() != QDialog::Accepted || dialogue.selectedFiles().isEmpty()) return {};
-    return dialogue.selectedFiles().first();
+    return Demander(dialogue);
 }
 
 std::optional<std::uint32_t> DialoguesQt::Couleur(std::uint32_t depart) {
-    QColorDialog dialogue(VersQColor(depart), QApplication::activeWindow());
-    if (dialogue.exec() != QDialog::Accepted) return {};
-    return DepuisQColor(dialogue.currentColor());
+    const QColor choisie = QColorDialog::getColor(VersQColor(depart), QApplication::activeWindow());
+    if (!choisie.isValid()) return {};
+    return DepuisQColor(choisie);
 }
 
 }  // namespace bornika

@@ -11,29 +11,29 @@ FauteExecution::FauteExecution(int numero, QString texte)
 
 QString TexteFaute(int numero) {
     switch (numero) {
-        case 5:
+        case numero_faute::appelInvalide:
             return QStringLiteral("Invalid procedure call or argument");
-        case 6:
+        case numero_faute::depassement:
             return QStringLiteral("Overflow");
-        case 9:
+        case numero_faute::indice:
             return QStringLiteral("Subscript out of range");
-        case 11:
+        case numero_faute::divisionParZero:
             return QStringLiteral("Division by zero");
-        case 13:
+        case numero_faute::typeIncompatible:
             return QStringLiteral("Type mismatch");
-        case 52:
+        case numero_faute::nomDeFichier:
             return QStringLiteral("Bad file name");
-        case 53:
+        case numero_faute::fichierIntrouvable:
             return QStringLiteral("File not found");
-        case 61:
+        case numero_faute::disquePlein:
             return QStringLiteral("Disk full");
-        case 70:
+        case numero_faute::accesRefuse:
             return QStringLiteral("Permission denied");
-        case 76:
+        case numero_faute::cheminIntrouvable:
             return QStringLiteral("Path not found");
-        case 91:
+        case numero_faute::objetAbsent:
             return QStringLiteral("Object variable not set");
-        case 380:
+        case numero_faute::valeurInvalide:
             return QStringLiteral("Invalid property value");
         default:
             return QStringLiteral("Application-defined or object-defined error");

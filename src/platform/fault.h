@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 #include <exception>
 
@@ -14,10 +15,12 @@ inline constexpr int divisionParZero = 11;
 inline constexpr int typeIncompatible = 13;
 inline constexpr int nomDeFichier = 52;
 inline constexpr int fichierIntrouvable = 53;
+inline constexpr int disquePlein = 61;
 inline constexpr int accesRefuse = 70;
 inline constexpr int cheminIntrouvable = 76;
 inline constexpr int objetAbsent = 91;
 inline constexpr int valeurInvalide = 380;
+inline constexpr int entreeAbsente = 381;
 }  // namespace numero_faute
 
 /// A run-time fault: an overflow, a subscript out of range, a file that cannot be opened...

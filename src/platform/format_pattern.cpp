@@ -5,145 +5,150 @@
 #include <cmath>
 #include <string>
 
+#include "platform/fault.h"
+#include "platform/numbers.h"
+
 namespace bornika {
 
 namespace {
 
 constexpr int chiffresSignificatifs = 15;
 
+// A pattern taken apart: how many digits stand at least and at most on each side of the point.
 struct Motif {
-    int entiers = 0;       // digits always printed before the point
-    int decimalesMin = 0;  // digits always printed behind it
-    int decimales = 0;     // places behind it
-    bool separateur = false;
-};
+    int entiersMin = 0;
+    int decimalesMin = 0;
+    int decimalesMax = 0;
+    bool point = false;
 
-Motif Lire(std::string_view texte) {
-    Motif motif;
-    bool zeroVu = false;
-    for (const char c : texte) {
-        if (c == '.') {
-            motif.separateur = true;
-        } else if (!motif.separateur) {
-            zeroVu = zeroVu || c == '0';
-            if (zeroVu) ++motif.entiers;
-        } else {
-            ++motif.decimales;
-            if (c == '0') motif.decimalesMin = motif.decimales;
-        }
+    explicit Motif(std::string_view texte) {
+        const auto coupure = texte.find('.');
+        point = coupure != std::string_view::npos;
+        const auto entiers = texte.substr(0, coupure);
+        const auto premierZero = entiers.find('0');
+        if (premierZero != std::string_view::npos)
+            entiersMin = static_cast<int>(entiers.size() - premierZero);
+        if (!point) return;
+        const auto decimales = texte.substr(coupure + 1);
+        decimalesMax = static_cast<int>(decimales.size());
+        const auto dernierZero = decimales.rfind('0');
+        if (dernierZero != std::string_view::npos) decimalesMin = static_cast<int>(dernierZero) + 1;
     }
-    return motif;
-}
-
-/// 15 significant decimal digits of a positive number; the point stands behind `avant` of them.
-struct Chiffres {
-    std::string texte;
-    int avant = 0;
 };
 
-Chiffres Decomposer(double valeur) {
-    char tampon[40];
-    const auto fin = std::to_chars(tampon, tampon + sizeof tampon, valeur,
+// A decimal number: its digits, of which `entiers` stand before the point.
+struct Decimal {
+    std::string chiffres;
+    int entiers = 0;
+    bool negatif = false;
+};
+
+// The 15 significant digits of a finite number.
+Decimal Developper(double valeur) {
+    char texte[32];
+    const auto fin = std::to_chars(texte, std::end(texte), std::abs(valeur),
                                    std::chars_format::scientific, chiffresSignificatifs - 1);
-    Chiffres chiffres;
-    const char* c = tampon;
-    for (; *c != 'e'; ++c)
-        if (*c != '.') chiffres.texte += *c;
-    ++c;
-    if (*c == '+') ++c;
-    int exposant = 0;
-    std::from_chars(c, fin.ptr, exposant);
-    chiffres.avant = exposant + 1;
-    return chiffres;
+    // "d.dddddddddddddde±xx"
+    Decimal decimal;
+    decimal.chiffres.assign(1, texte[0]);
+    decimal.chiffres.append(texte + 2, chiffresSignificatifs - 1);
+    const char* exposant = texte + chiffresSignificatifs + 2;
+    if (*exposant == '+') ++exposant;
+    std::from_chars(exposant, fin.ptr, decimal.entiers);
+    ++decimal.entiers;
+    decimal.negatif = valeur < 0;
+    return decimal;
 }
 
-// Keeps `decimales` places behind the point. What is dropped rounds half away from zero, or half to
-// even where no place is kept.
-void Arrondir(Chiffres& chiffres, int decimales) {
-    const int gardes = chiffres.avant + decimales;
-    if (gardes >= static_cast<int>(chiffres.texte.size())) return;
-    if (gardes < 0) {
-        chiffres.texte.clear();
-        chiffres.avant = 0;
+// Does the number grow when only its first `gardes` digits are kept?
+bool MonteVers(const std::string& chiffres, std::size_t gardes, bool pair) {
+    if (chiffres[gardes] != '5' || !pair) return chiffres[gardes] >= '5';
+    if (chiffres.find_first_not_of('0', gardes + 1) != std::string::npos) return true;
+    return gardes > 0 && (chiffres[gardes - 1] - '0') % 2 == 1;
+}
+
+// Rounds to `decimales` places and leaves exactly those; at least no digit before the point.
+void Arrondir(Decimal& decimal, int decimales, bool pair) {
+    if (decimal.entiers < 0) {
+        decimal.chiffres.insert(0, static_cast<std::size_t>(-decimal.entiers), '0');
+        decimal.entiers = 0;
+    }
+    const auto gardes = static_cast<std::size_t>(decimal.entiers + decimales);
+    if (gardes >= decimal.chiffres.size()) {
+        decimal.chiffres.resize(gardes, '0');
         return;
     }
-    const auto coupe = static_cast<std::size_t>(gardes);
-    const char premier = chiffres.texte[coupe];
-    const bool reste = chiffres.texte.find_first_not_of('0', coupe + 1) != std::string::npos;
-    const bool impair = coupe > 0 && (chiffres.texte[coupe - 1] - '0') % 2 != 0;
-    const bool monter = premier > '5' || (premier == '5' && (reste || decimales > 0 || impair));
-    chiffres.texte.resize(coupe);
-    if (!monter) return;
-    std::size_t i = coupe;
-    while (i > 0 && chiffres.texte[i - 1] == '9')
-        chiffres.texte[--i] = '0';
-    if (i > 0) {
-        ++chiffres.texte[i - 1];
-    } else {
-        chiffres.texte.insert(0, 1, '1');
-        ++chiffres.avant;
+    const bool monte = MonteVers(decimal.chiffres, gardes, pair);
+    decimal.chiffres.resize(gardes);
+    if (!monte) return;
+    auto chiffre = decimal.chiffres.rbegin();
+    for (; chiffre != decimal.chiffres.rend() && *chiffre == '9'; ++chiffre)
+        *chiffre = '0';
+    if (chiffre != decimal.chiffres.rend()) {
+        ++*chiffre;
+        return;
     }
+    decimal.chiffres.insert(0, 1, '1');
+    ++decimal.entiers;
 }
 
-std::string PartieEntiere(const Chiffres& chiffres, int places) {
-    std::string entiere;
-    for (int i = 0; i < chiffres.avant; ++i)
-        entiere += static_cast<std::size_t>(i) < chiffres.texte.size()
-                       ? chiffres.texte[static_cast<std::size_t>(i)]
-                       : '0';
-    entiere.erase(0, std::min(entiere.find_first_not_of('0'), entiere.size()));
-    if (static_cast<int>(entiere.size()) < places)
-        entiere.insert(0, static_cast<std::size_t>(places) - entiere.size(), '0');
-    return entiere;
+QString Ecrire(const Decimal& decimal, const Motif& motif, const Regional& regional) {
+    const auto coupure = static_cast<std::size_t>(decimal.entiers);
+    std::string entiers = decimal.chiffres.substr(0, coupure);
+    std::string decimales = decimal.chiffres.substr(coupure);
+    entiers.erase(0, std::min(entiers.find_first_not_of('0'), entiers.size()));
+    const auto entiersMin = static_cast<std::size_t>(motif.entiersMin);
+    if (entiers.size() < entiersMin) entiers.insert(0, entiersMin - entiers.size(), '0');
+    while (static_cast<int>(decimales.size()) > motif.decimalesMin && decimales.back() == '0')
+        decimales.pop_back();
+
+    QString texte;
+    texte.reserve(static_cast<qsizetype>(entiers.size() + decimales.size()) + 2);
+    const bool nul = decimal.chiffres.find_first_not_of('0') == std::string::npos;
+    if (decimal.negatif && !nul) texte += QLatin1Char('-');
+    texte += QLatin1String(entiers.data(), static_cast<qsizetype>(entiers.size()));
+    if (motif.point) texte += regional.separateur;
+    texte += QLatin1String(decimales.data(), static_cast<qsizetype>(decimales.size()));
+    return texte;
 }
 
-std::string PartieDecimale(const Chiffres& chiffres, const Motif& motif) {
-    std::string decimale;
-    for (int i = chiffres.avant; i < chiffres.avant + motif.decimales; ++i)
-        decimale += i >= 0 && static_cast<std::size_t>(i) < chiffres.texte.size()
-                        ? chiffres.texte[static_cast<std::size_t>(i)]
-                        : '0';
-    while (static_cast<int>(decimale.size()) > motif.decimalesMin && decimale.back() == '0')
-        decimale.pop_back();
-    return decimale;
-}
-
-bool ADesChiffres(const std::string& texte) {
-    return texte.find_first_not_of('0') != std::string::npos;
+// Three places the long way, for numbers near a tie and large ones.
+double ArrondiParChiffres(double valeur) {
+    Decimal decimal = Developper(valeur);
+    Arrondir(decimal, 3, false);
+    std::string texte = decimal.negatif ? "-" : "";
+    texte.append(decimal.chiffres, 0, static_cast<std::size_t>(decimal.entiers)).append(".");
+    texte.append(decimal.chiffres, static_cast<std::size_t>(decimal.entiers));
+    double arrondi = 0;
+    std::from_chars(texte.data(), texte.data() + texte.size(), arrondi);
+    return arrondi + 0.0;
 }
 
 }  // namespace
 
-QString Format(double valeur, std::string_view motifTexte, const Regional& regional) {
-    const Motif motif = Lire(motifTexte);
-    Chiffres chiffres = Decomposer(std::fabs(valeur));
-    Arrondir(chiffres, motif.decimales);
-    const std::string entiere = PartieEntiere(chiffres, motif.entiers);
-    const std::string decimale = PartieDecimale(chiffres, motif);
-    QString texte;
-    if (valeur < 0 && (ADesChiffres(entiere) || ADesChiffres(decimale))) texte += QLatin1Char('-');
-    texte += QString::fromLatin1(entiere.data(), static_cast<qsizetype>(entiere.size()));
-    if (motif.separateur) texte += regional.separateur;
-    texte += QString::fromLatin1(decimale.data(), static_cast<qsizetype>(decimale.size()));
-    return texte;
+QString Format(double valeur, std::string_view motif, const Regional& regional) {
+    // Erased memory can hold what has no digits.
+    if (!std::isfinite(valeur)) return TexteGeneral(valeur, regional);
+    const Motif places(motif);
+    Decimal decimal = Developper(valeur);
+    Arrondir(decimal, places.decimalesMax, !places.point);
+    return Ecrire(decimal, places, regional);
 }
 
 double ArrondiTroisDecimales(double valeur) {
-    // Far from a tie the decimal text cannot round otherwise than the number does; near one, and
-    // for numbers whose 15 digits do not reach three places, the text decides.
-    constexpr double limite = 1e8;
-    constexpr double voisinage = 1e-5;
-    const double milliemes = std::fabs(valeur) * 1000;
-    if (milliemes < limite) {
+    constexpr double limite = 1E9;
+    constexpr double ecartSur = 1E-3;
+    if (!std::isfinite(valeur)) LeverFaute(numero_faute::typeIncompatible);
+    if (std::abs(valeur) < limite) {
+        // Below the limit neither the product nor the cut to 15 digits moves the thousandths by
+        // more than half of `ecartSur`: away from ties, plain rounding finds the same thousandth,
+        // and the quotient is the double nearest to it, as reading its text gives.
+        const double milliemes = valeur * 1000;
         const double bas = std::floor(milliemes);
-        const double ecart = milliemes - bas - 0.5;
-        if (std::fabs(ecart) > voisinage) {
-            const double n = ecart > 0 ? bas + 1 : bas;
-            return n == 0 ? 0 : std::copysign(n / 1000, valeur);
-        }
+        const double reste = milliemes - bas;
+        if (std::abs(reste - 0.5) > ecartSur) return (reste > 0.5 ? bas + 1 : bas) / 1000 + 0.0;
     }
-    const QString texte = Format(valeur, "###0.000", Regional{});
-    return texte.toDouble();
+    return ArrondiParChiffres(valeur);
 }
 
 }  // namespace bornika

@@ -7,17 +7,22 @@ namespace bornika {
 
 namespace {
 
-TraitementFaute traitementInstalle;
+TraitementFaute& Traitement() {
+    static TraitementFaute traitement;
+    return traitement;
+}
 
 }  // namespace
 
 void InstallerTraitementFaute(TraitementFaute traitement) {
-    traitementInstalle = std::move(traitement);
+    Traitement() = std::move(traitement);
 }
 
 void SignalerFaute(const FauteExecution& faute) {
-    if (traitementInstalle) {
-        traitementInstalle(faute);
+    // A copy, so that a handler may install another one.
+    const TraitementFaute traitement = Traitement();
+    if (traitement) {
+        traitement(faute);
         return;
     }
     std::fprintf(stderr, "Run-time error '%d': %s\n", faute.numero(), faute.what());

@@ -1,10 +1,10 @@
 #include "platform/numbers.h"
 
+#include <QVarLengthArray>
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <limits>
-#include <string>
-#include <system_error>
 
 #include "platform/fault.h"
 
@@ -12,121 +12,107 @@ namespace bornika {
 
 namespace {
 
-constexpr int chiffresSignificatifs = 15;
+using Ascii = QVarLengthArray<char, 64>;
 
-// The text that to_chars made, with the locale's separator and a capital E.
-QString EnTexte(const char* debut, const char* fin, const Regional& regional) {
-    QString texte;
-    texte.reserve(fin - debut);
-    for (const char* c = debut; c != fin; ++c) {
-        if (*c == '.')
-            texte += regional.separateur;
-        else
-            texte += QLatin1Char(*c == 'e' ? 'E' : *c);
-    }
+bool EstChiffre(QChar signe) {
+    return signe >= QLatin1Char('0') && signe <= QLatin1Char('9');
+}
+
+// What `std::to_chars` wrote, with a capital "E" and the separator of the locale.
+QString Habiller(char* debut, char* fin, const Regional& regional) {
+    QString texte = QString::fromLatin1(debut, fin - debut);
+    texte.replace(QLatin1Char('e'), QLatin1Char('E'));
+    if (regional.separateur != QLatin1String("."))
+        texte.replace(QLatin1Char('.'), regional.separateur);
     return texte;
 }
 
-bool EstChiffre(QChar c) {
-    return c >= QLatin1Char('0') && c <= QLatin1Char('9');
+// Neither infinity nor an undefined value has digits; erased memory can hold both.
+QString TexteNonFini(double valeur) {
+    if (std::isnan(valeur)) return QStringLiteral("NaN");
+    return valeur < 0 ? QStringLiteral("-INF") : QStringLiteral("INF");
 }
 
-/// Takes a number apart, character by character, and keeps it with a point as separator.
-class Lecteur {
-  public:
-    Lecteur(QStringView texte, QStringView separateur) : texte_(texte), separateur_(separateur) {}
+qsizetype PrendreChiffres(QStringView texte, qsizetype i, Ascii& nombre) {
+    for (; i < texte.size() && EstChiffre(texte[i]); ++i)
+        nombre.append(static_cast<char>(texte[i].unicode()));
+    return i;
+}
 
-    // Sign, digits with at most one separator, then an exponent if it is complete. False without a
-    // digit.
-    bool LireNombre() {
-        if (Est(u'-') || Est(u'+')) {
-            if (texte_[position_] == u'-') nombre_ += '-';
-            ++position_;
-        }
-        const int entiers = LireChiffres();
-        int decimales = 0;
-        if (texte_.sliced(position_).startsWith(separateur_) && !separateur_.isEmpty()) {
-            position_ += separateur_.size();
-            nombre_ += '.';
-            decimales = LireChiffres();
-        }
-        if (entiers + decimales == 0) return false;
-        LireExposant();
-        return true;
+// Takes the exponent at `i` when digits stand behind its sign; returns where it ends.
+qsizetype PrendreExposant(QStringView texte, qsizetype i, Ascii& nombre) {
+    if (i >= texte.size() || texte[i].toUpper() != QLatin1Char('E')) return i;
+    qsizetype j = i + 1;
+    Ascii exposant;
+    exposant.append('e');
+    if (j < texte.size() && (texte[j] == QLatin1Char('-') || texte[j] == QLatin1Char('+')))
+        exposant.append(static_cast<char>(texte[j++].unicode()));
+    const qsizetype fin = PrendreChiffres(texte, j, exposant);
+    if (fin == j) return i;
+    nombre.append(exposant.constData(), exposant.size());
+    return fin;
+}
+
+// Takes the longest leading number of the text into `nombre`, with a point. Returns where it ends,
+// 0 when there is none.
+qsizetype PrendreNombre(QStringView texte, QStringView separateur, Ascii& nombre) {
+    qsizetype i = 0;
+    if (!texte.isEmpty() && (texte[0] == QLatin1Char('-') || texte[0] == QLatin1Char('+'))) {
+        if (texte[0] == QLatin1Char('-')) nombre.append('-');
+        i = 1;
     }
-
-    void PasserBlancs(bool finsDeLigne) {
-        while (position_ < texte_.size() &&
-               (finsDeLigne ? texte_[position_].isSpace() : texte_[position_] == u' '))
-            ++position_;
+    const qsizetype debut = i;
+    i = PrendreChiffres(texte, i, nombre);
+    qsizetype chiffres = i - debut;
+    if (!separateur.isEmpty() && texte.sliced(i).startsWith(separateur)) {
+        nombre.append('.');
+        const qsizetype fraction = i + separateur.size();
+        i = PrendreChiffres(texte, fraction, nombre);
+        chiffres += i - fraction;
     }
-    bool EstFin() const { return position_ == texte_.size(); }
+    return chiffres > 0 ? PrendreExposant(texte, i, nombre) : 0;
+}
 
-    double Valeur() const {
-        double valeur = 0;
-        const char* debut = nombre_.data();
-        const char* fin = debut + nombre_.size();
-        const auto [suite, erreur] = std::from_chars(debut, fin, valeur);
-        if (erreur == std::errc::result_out_of_range) LeverFaute(numero_faute::depassement);
-        return valeur;
-    }
+// The value of such a number; infinite when no double holds it.
+double Convertir(const Ascii& nombre) {
+    double valeur = 0;
+    const char* fin = nombre.constData() + nombre.size();
+    if (std::from_chars(nombre.constData(), fin, valeur).ec == std::errc()) return valeur;
+    // Out of range: too large gives an infinity, too small 0.
+    return QByteArrayView(nombre.constData(), nombre.size()).toDouble();
+}
 
-  private:
-    bool Est(char16_t c) const { return position_ < texte_.size() && texte_[position_] == c; }
-
-    int LireChiffres() {
-        int nombre = 0;
-        for (; position_ < texte_.size() && EstChiffre(texte_[position_]); ++position_, ++nombre)
-            nombre_ += static_cast<char>(texte_[position_].unicode());
-        return nombre;
-    }
-
-    void LireExposant() {
-        if (!Est(u'E') && !Est(u'e')) return;
-        const qsizetype retour = position_;
-        std::string avant = nombre_;
-        ++position_;
-        nombre_ += 'e';
-        if (Est(u'-') || Est(u'+')) {
-            nombre_ += static_cast<char>(texte_[position_].unicode());
-            ++position_;
-        }
-        if (LireChiffres() == 0) {
-            position_ = retour;
-            nombre_ = std::move(avant);
-        }
-    }
-
-    QStringView texte_;
-    QStringView separateur_;
-    qsizetype position_ = 0;
-    std::string nombre_;
-};
+QStringView SansBlancs(QStringView texte) {
+    while (texte.startsWith(QLatin1Char(' ')))
+        texte = texte.sliced(1);
+    while (texte.endsWith(QLatin1Char(' ')))
+        texte.chop(1);
+    return texte;
+}
 
 template <class Entier>
-Entier Borner(double valeur) {
-    const double arrondi = ArrondiPair(valeur);
-    if (!(arrondi >= static_cast<double>(std::numeric_limits<Entier>::min()) &&
-          arrondi <= static_cast<double>(std::numeric_limits<Entier>::max())))
+Entier EnEntier(double valeur) {
+    const double rond = std::nearbyint(valeur);
+    if (!(rond >= std::numeric_limits<Entier>::min() && rond <= std::numeric_limits<Entier>::max()))
         LeverFaute(numero_faute::depassement);
-    return static_cast<Entier>(arrondi);
+    return static_cast<Entier>(rond);
 }
 
 }  // namespace
 
 QString TexteGeneral(double valeur, const Regional& regional) {
-    char tampon[32];
-    if (valeur == 0) valeur = 0;  // no "-0"
-    const auto fin = std::to_chars(tampon, tampon + sizeof tampon, valeur,
-                                   std::chars_format::general, chiffresSignificatifs);
-    return EnTexte(tampon, fin.ptr, regional);
+    if (!std::isfinite(valeur)) return TexteNonFini(valeur);
+    if (valeur == 0) return QStringLiteral("0");
+    char texte[32];
+    const auto fin = std::to_chars(texte, std::end(texte), valeur, std::chars_format::general, 15);
+    return Habiller(texte, fin.ptr, regional);
 }
 
 QString TexteCourt(float valeur, const Regional& regional) {
-    char tampon[32];
-    const auto fin =
-        std::to_chars(tampon, tampon + sizeof tampon, valeur, std::chars_format::general);
-    return EnTexte(tampon, fin.ptr, regional);
+    if (!std::isfinite(valeur)) return TexteNonFini(static_cast<double>(valeur));
+    if (valeur == 0) return QStringLiteral("0");
+    char texte[64];
+    return Habiller(texte, std::to_chars(texte, std::end(texte), valeur).ptr, regional);
 }
 
 QString TexteBooleen(bool valeur) {
@@ -134,41 +120,45 @@ QString TexteBooleen(bool valeur) {
 }
 
 double ValeurDebut(QStringView texte) {
-    Lecteur lecteur(texte, u".");
-    lecteur.PasserBlancs(true);
-    return lecteur.LireNombre() ? lecteur.Valeur() : 0;
+    while (!texte.isEmpty() && texte.front().isSpace())
+        texte = texte.sliced(1);
+    Ascii nombre;
+    if (PrendreNombre(texte, u".", nombre) == 0) return 0;
+    const double valeur = Convertir(nombre);
+    if (std::isinf(valeur)) LeverFaute(numero_faute::depassement);
+    return valeur;
 }
 
 bool EstNumerique(QStringView texte, const Regional& regional) {
-    Lecteur lecteur(texte, regional.separateur);
-    lecteur.PasserBlancs(false);
-    if (!lecteur.LireNombre()) return false;
-    lecteur.PasserBlancs(false);
-    return lecteur.EstFin();
+    texte = SansBlancs(texte);
+    Ascii nombre;
+    const qsizetype fin = PrendreNombre(texte, regional.separateur, nombre);
+    // A number that no variable can hold would only end the program one step later.
+    return fin > 0 && fin == texte.size() && std::isfinite(Convertir(nombre));
 }
 
 double EnDouble(QStringView texte, const Regional& regional) {
-    Lecteur lecteur(texte, regional.separateur);
-    lecteur.PasserBlancs(true);
-    if (!lecteur.LireNombre()) LeverFaute(numero_faute::typeIncompatible);
-    lecteur.PasserBlancs(true);
-    if (!lecteur.EstFin()) LeverFaute(numero_faute::typeIncompatible);
-    return lecteur.Valeur();
+    texte = texte.trimmed();
+    Ascii nombre;
+    const qsizetype fin = PrendreNombre(texte, regional.separateur, nombre);
+    if (fin == 0 || fin != texte.size()) LeverFaute(numero_faute::typeIncompatible);
+    const double valeur = Convertir(nombre);
+    if (std::isinf(valeur)) LeverFaute(numero_faute::depassement);
+    return valeur;
 }
 
-// The rounding mode of the processor is "to nearest, ties to even" from the start and stays so.
 double ArrondiPair(double valeur) {
     return std::nearbyint(valeur);
 }
 
 std::int16_t EnEntier16(double valeur) {
-    return Borner<std::int16_t>(valeur);
+    return EnEntier<std::int16_t>(valeur);
 }
 std::int32_t EnEntier32(double valeur) {
-    return Borner<std::int32_t>(valeur);
+    return EnEntier<std::int32_t>(valeur);
 }
 std::uint8_t EnOctet(double valeur) {
-    return Borner<std::uint8_t>(valeur);
+    return EnEntier<std::uint8_t>(valeur);
 }
 
 std::int16_t EnEntier16(QStringView texte, const Regional& regional) {

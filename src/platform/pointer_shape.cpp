@@ -1,32 +1,30 @@
 #include "platform/pointer_shape.h"
 
-#include <QVariant>
+#include <QCursor>
 #include <QWidget>
+
+#include "platform/fault.h"
 
 namespace bornika {
 
-namespace {
-
-constexpr char propriete[] = "formePointeur";
-
-}  // namespace
-
 int PointeurSouris(const QWidget& fiche) {
-    return fiche.property(propriete).toInt();
+    if (!fiche.testAttribute(Qt::WA_SetCursor)) return pointeur::defaut;
+    return fiche.cursor().shape() == Qt::WaitCursor ? pointeur::sablier : pointeur::fleche;
 }
 
 void FixerPointeurSouris(QWidget& fiche, int forme) {
-    fiche.setProperty(propriete, forme);
     switch (forme) {
         case pointeur::defaut:
             fiche.unsetCursor();
-            break;
+            return;
+        case pointeur::fleche:
+            fiche.setCursor(Qt::ArrowCursor);
+            return;
         case pointeur::sablier:
             fiche.setCursor(Qt::WaitCursor);
-            break;
+            return;
         default:
-            fiche.setCursor(Qt::ArrowCursor);
-            break;
+            LeverFaute(numero_faute::valeurInvalide);
     }
 }
 

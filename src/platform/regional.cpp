@@ -4,34 +4,39 @@ namespace bornika {
 
 namespace {
 
-// Every run of one letter as the widest numeric form: months as numbers, years with four digits.
-QString EnNombres(const QString& motif) {
-    QString resultat;
-    for (qsizetype i = 0; i < motif.size();) {
-        const QChar lettre = motif[i];
-        qsizetype fin = i;
-        while (fin < motif.size() && motif[fin] == lettre)
+// Years in four digits and months as numbers; quoted literals stay as they are.
+QString PatronChiffre(const QString& patron) {
+    QString chiffre;
+    bool entreApostrophes = false;
+    for (qsizetype i = 0; i < patron.size();) {
+        const QChar signe = patron[i];
+        qsizetype fin = i + 1;
+        while (fin < patron.size() && patron[fin] == signe)
             ++fin;
-        const qsizetype longueur = fin - i;
-        if (lettre == QLatin1Char('y'))
-            resultat += QStringLiteral("yyyy");
-        else if (lettre == QLatin1Char('M') && longueur > 2)
-            resultat += QStringLiteral("MM");
-        else
-            resultat += motif.mid(i, longueur);
+        qsizetype longueur = fin - i;
+        if (signe == QLatin1Char('\'')) {
+            if (longueur % 2 == 1) entreApostrophes = !entreApostrophes;
+        } else if (!entreApostrophes && signe == QLatin1Char('y')) {
+            longueur = 4;
+        } else if (!entreApostrophes && signe == QLatin1Char('M')) {
+            longueur = qMin<qsizetype>(longueur, 2);
+        }
+        chiffre += QString(longueur, signe);
         i = fin;
     }
-    return resultat;
+    return chiffre;
 }
 
 }  // namespace
 
 Regional Regional::Pour(const QLocale& locale) {
-    // The C locale's "d MMM yyyy" has no numeric form of its own.
-    const QString motif = locale.language() == QLocale::C
-                              ? QStringLiteral("dd/MM/yyyy")
-                              : EnNombres(locale.dateFormat(QLocale::ShortFormat));
-    return {locale.decimalPoint(), motif};
+    Regional regional;
+    regional.separateur = locale.decimalPoint();
+    const QString patron = locale.dateFormat(QLocale::ShortFormat);
+    // A machine without a locale has a pattern with the month in English letters: not a short date.
+    if (!patron.isEmpty() && patron != QLocale::c().dateFormat(QLocale::ShortFormat))
+        regional.dateCourte = PatronChiffre(patron);
+    return regional;
 }
 
 Regional Regional::DuSysteme() {

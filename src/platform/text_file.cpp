@@ -1,7 +1,10 @@
 #include "platform/text_file.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <algorithm>
+#include <climits>
+#include <cstring>
 #include <vector>
 
 #include "platform/code_page.h"
@@ -11,38 +14,40 @@ namespace bornika {
 
 namespace {
 
-constexpr qsizetype tailleTampon = 64 * 1024;
-constexpr std::chrono::seconds intervalleVidage{1};
+constexpr qsizetype tailleTampon = 1 << 16;
+constexpr std::chrono::seconds delaiVidage{1};
 
-// Every file being written: what the program still holds goes to the disk before it is ended.
+// The files being written now. They live in the thread of the interface, as the program does.
 std::vector<FichierTexteEcrit*>& Ouverts() {
-    static std::vector<FichierTexteEcrit*> liste;
-    return liste;
+    static std::vector<FichierTexteEcrit*> ouverts;
+    return ouverts;
 }
 
-[[noreturn]] void LeverEchec(const QFile& fichier, int numero) {
-    throw FauteExecution(numero, fichier.errorString());
+int NumeroOuverture(const QFile& fichier) {
+    const QString chemin = fichier.fileName();
+    if (chemin.isEmpty() || chemin.contains(QChar(u'\0'))) return numero_faute::nomDeFichier;
+    const QFileInfo infos(chemin);
+    if (!infos.dir().exists()) return numero_faute::cheminIntrouvable;
+    if (QFile::encodeName(infos.fileName()).size() > NAME_MAX) return numero_faute::nomDeFichier;
+    if (fichier.error() == QFileDevice::ResourceError) return numero_faute::disquePlein;
+    return numero_faute::accesRefuse;
 }
 
 }  // namespace
 
 FichierTexteEcrit::FichierTexteEcrit(const QString& chemin, ModeEcriture mode)
     : fichier_(chemin), dernierVidage_(std::chrono::steady_clock::now()) {
-    if (chemin.isEmpty() || chemin.contains(QChar(0))) LeverFaute(numero_faute::nomDeFichier);
-    if (!QFileInfo(QFileInfo(chemin).absolutePath()).isDir())
-        LeverFaute(numero_faute::cheminIntrouvable);
-    const QIODevice::OpenMode ouverture = mode == ModeEcriture::Ajouter
-                                              ? QIODevice::WriteOnly | QIODevice::Append
-                                              : QIODevice::WriteOnly | QIODevice::Truncate;
-    if (!fichier_.open(ouverture | QIODevice::Unbuffered))
-        LeverEchec(fichier_, numero_faute::accesRefuse);
-    tampon_.reserve(tailleTampon + 1024);
+    const auto sens = mode == ModeEcriture::Ajouter ? QIODevice::Append : QIODevice::Truncate;
+    if (!fichier_.open(QIODevice::WriteOnly | QIODevice::Unbuffered | sens))
+        LeverFaute(NumeroOuverture(fichier_));
+    tampon_.reserve(tailleTampon + tailleTampon / 8);
     Ouverts().push_back(this);
 }
 
 FichierTexteEcrit::~FichierTexteEcrit() {
-    if (fichier_.isOpen()) ignorer([this] { Fermer(); });
     std::erase(Ouverts(), this);
+    // Whoever wants to know about the last lines closes by hand.
+    ignorer([this] { Fermer(); });
 }
 
 void FichierTexteEcrit::EcrireLigne(QStringView texte) {
@@ -71,13 +76,13 @@ void FichierTexteEcrit::Fermer() {
 
 void FichierTexteEcrit::ViderTous() noexcept {
     for (FichierTexteEcrit* fichier : Ouverts())
-        if (fichier->fichier_.isOpen()) ignorer([fichier] { fichier->Vider(); });
+        ignorer([fichier] { fichier->Vider(); });
 }
 
 void FichierTexteEcrit::Deposer(QByteArrayView octets) {
     tampon_.append(octets);
     if (tampon_.size() >= tailleTampon ||
-        std::chrono::steady_clock::now() - dernierVidage_ >= intervalleVidage)
+        std::chrono::steady_clock::now() - dernierVidage_ >= delaiVidage)
         Vider();
 }
 
@@ -85,23 +90,28 @@ void FichierTexteEcrit::Vider() {
     qsizetype ecrits = 0;
     while (ecrits < tampon_.size()) {
         const qint64 n = fichier_.write(tampon_.constData() + ecrits, tampon_.size() - ecrits);
-        if (n <= 0) {
-            // What did not go out is dropped, or the same fault would come again at the closing.
-            tampon_.clear();
-            LeverEchec(fichier_, numero_faute::disquePlein);
-        }
+        if (n <= 0) break;
         ecrits += n;
     }
-    tampon_.resize(0);
+    const bool entier = ecrits == tampon_.size();
+    // What is left waits for the next attempt, so that no line is written twice or cut in the
+    // middle.
+    tampon_.remove(0, ecrits);
     dernierVidage_ = std::chrono::steady_clock::now();
+    if (entier) return;
+    const bool plein = fichier_.error() == QFileDevice::ResourceError;
+    throw FauteExecution(plein ? numero_faute::disquePlein : numero_faute::accesRefuse,
+                         fichier_.errorString());
 }
 
-FichierTexteLu::FichierTexteLu(const QString& chemin) : fichier_(chemin) {
-    if (!QFileInfo(chemin).isFile()) LeverFaute(numero_faute::fichierIntrouvable);
-    if (!fichier_.open(QIODevice::ReadOnly)) LeverEchec(fichier_, numero_faute::accesRefuse);
-    lu_ = fichier_.readAll();
-    if (fichier_.error() != QFileDevice::NoError) LeverEchec(fichier_, numero_faute::accesRefuse);
-    contenu_ = lu_;
+FichierTexteLu::FichierTexteLu(const QString& chemin) {
+    // Read whole, not mapped: the file may be written anew while the interface runs in between.
+    QFile fichier(chemin);
+    if (!fichier.open(QIODevice::ReadOnly))
+        LeverFaute(QFileInfo::exists(chemin) ? numero_faute::accesRefuse
+                                             : numero_faute::fichierIntrouvable);
+    contenu_ = fichier.readAll();
+    if (fichier.error() != QFileDevice::NoError) LeverFaute(numero_faute::accesRefuse);
     taille_ = contenu_.size();
 }
 
@@ -110,12 +120,12 @@ bool FichierTexteLu::EstFinDeLigne() const {
 }
 
 QByteArrayView FichierTexteLu::LireLigne() {
-    const char* debut = contenu_.data() + position_;
-    const char* fin = contenu_.data() + contenu_.size();
-    const char* coupe = std::find(debut, fin, '\n');
-    position_ = (coupe - contenu_.data()) + (coupe != fin ? 1 : 0);
-    qsizetype longueur = coupe - debut;
-    if (coupe != fin && longueur > 0 && debut[longueur - 1] == '\r') --longueur;
+    const char* debut = contenu_.constData() + position_;
+    const auto reste = static_cast<std::size_t>(contenu_.size() - position_);
+    const auto* fin = static_cast<const char*>(std::memchr(debut, '\n', reste));
+    qsizetype longueur = fin ? fin - debut : static_cast<qsizetype>(reste);
+    position_ += fin ? longueur + 1 : longueur;
+    if (fin && longueur > 0 && debut[longueur - 1] == '\r') --longueur;
     return QByteArrayView(debut, longueur);
 }
 

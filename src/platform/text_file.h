@@ -8,12 +8,6 @@
 /// reading.
 namespace bornika {
 
-/// What went wrong with a file, for the operator: "<reason of the platform>".
-/// A line that cannot be written raises this fault with number 70 (disk full: 61).
-namespace numero_faute {
-inline constexpr int disquePlein = 61;
-}
-
 enum class ModeEcriture { Remplacer, Ajouter };
 
 /// A text file being written in place. Lines reach the disk at least once a second, so that what
@@ -26,8 +20,8 @@ class FichierTexteEcrit {
     FichierTexteEcrit(const FichierTexteEcrit&) = delete;
     FichierTexteEcrit& operator=(const FichierTexteEcrit&) = delete;
 
-    /// Writes the text, then CR LF. A write that fails raises a fault whose text is the platform's
-    /// reason.
+    /// Writes the text, then CR LF. A write that fails raises a fault, 61 for a full disk and 70
+    /// otherwise, whose text is the platform's reason.
     void EcrireLigne(QStringView texte);
     /// The same for a line that is 8-bit already.
     void EcrireLigneOctets(QByteArrayView octets);
@@ -65,9 +59,7 @@ class FichierTexteLu {
     QByteArrayView LireLigne();
 
   private:
-    QFile fichier_;
-    QByteArray lu_;
-    QByteArrayView contenu_;
+    QByteArray contenu_;
     qint64 taille_ = 0;
     qsizetype position_ = 0;
 };

@@ -9,8 +9,9 @@ Respiration::Respiration()
 
 bool Respiration::Ceder() {
     if (!EstDue()) return false;
+    // Noted before as well: a loop started by one of the events starts with its own full step.
+    dernier_ = std::chrono::steady_clock::now();
     evenements_();
-    // Measured from the end: a long repaint must not starve the loop that yields.
     dernier_ = std::chrono::steady_clock::now();
     return true;
 }
