@@ -1,0 +1,13 @@
+# Runs the guided tour and puts its pictures into docs/pictures: the target `pictures`.
+execute_process(COMMAND ${TOUR} OUTPUT_VARIABLE story COMMAND_ERROR_IS_FATAL ANY)
+if(NOT story MATCHES "pictures are in ([^\n]+)")
+    message(FATAL_ERROR "The tour named no folder:\n${story}")
+endif()
+set(folder ${CMAKE_MATCH_1})
+file(GLOB pictures ${folder}/*.png)
+foreach(picture IN LISTS pictures)
+    get_filename_component(name ${picture} NAME)
+    string(REGEX REPLACE "^[0-9]+-" "" name ${name})
+    file(COPY_FILE ${picture} ${DOCS}/${name})
+endforeach()
+message("Look at the pictures in ${DOCS} before they are committed.")
