@@ -86,13 +86,16 @@ class Reseau {
     double Pression(double demande) {
         // About eight hammers a day.
         if (hasard_.Fraction() < 8.0 * reseau_.periode / secondesParJour) {
-            coup_.Frapper(hasard_.Fraction() < 0.5 ? 1.6 : -1.3);
+            const double force = 0.5 + 0.8 * hasard_.Fraction();
+            coup_.Frapper(hasard_.Fraction() < 0.5 ? 1.6 * force : -1.4 * force);
         }
         // The pump answers the demand with a step, and hesitates between on and off.
         if (demande > 0.55) pompe_ = true;
         if (demande < 0.35) pompe_ = false;
         const double statique = 5.75 - 1.25 * demande + (pompe_ ? 0.35 : 0.0);
-        return statique + coup_.Avancer(reseau_.periode) + 0.03 * hasard_.Bruit();
+        // The neighbouring districts pull now more, now less.
+        derive_ = 0.995 * derive_ + 0.02 * hasard_.Bruit();
+        return statique + derive_ + coup_.Avancer(reseau_.periode) + 0.04 * hasard_.Bruit();
     }
 
     static int Points(double pression) {
@@ -115,6 +118,7 @@ class Reseau {
     Hasard hasard_;
     Coup coup_;
     bool pompe_ = false;
+    double derive_ = 0;
     double tour_ = 0;
     std::vector<MesureEnFlash> mesures_;
 };
