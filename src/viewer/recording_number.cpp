@@ -68,8 +68,9 @@ bool LireSimple(QByteArrayView champ, char separateur, char autre, NombreLu& nom
     const double signe = negatif && chiffres != 0 ? -1 : 1;
     nombre.numerique = true;
     nombre.valeur = signe * Quotient(chiffres, decimales);
-    nombre.arrondie =
-        decimales <= decimalesAffichees ? nombre.valeur : signe * Arrondir(chiffres, decimales);
+    // The sum with 0 turns a negative number that was rounded away into a plain 0.
+    nombre.arrondie = decimales <= decimalesAffichees ? nombre.valeur
+                                                      : signe * Arrondir(chiffres, decimales) + 0.0;
     return true;
 }
 
