@@ -116,35 +116,35 @@ pugi::xml_node DocumentConfiguration::Charger(const QString& chemin) {
     codage_ = Reconnaitre(octets_);
     marque_ = octets_.startsWith("\xEF\xBB\xBF") || codage_ == Codage::Utf16Petit ||
               codage_ == Codage::Utf16Grand;
-    pugi::xml_encoding codage = pugi::encoding_auto;
-    if (codage_ == Codage::Utf8) codage = pugi::encoding_utf8;
-    if (codage_ == Codage::Latin1) codage = pugi::encoding_latin1;
-    if (codage_ == Codage::Windows1252) {
-        octets_ = Depuis8Bits(octets_).toUtf8();
-        codage = pugi::encoding_utf8;
-    }
-    char* debut = octets_.data();
-    auto taille = static_cast<std::size_t>(octets_.size());
-    if (codage == pugi::encoding_utf8 && marque_) {
-        debut += 3;
-        taille -= 3;
-    }
-    if (!document_.load_buffer_inplace(debut, taille, lecture, codage) || !BienForme(document_)) {
+    if (codage_ == Codage::Latin1) octets_ = QString::fromLatin1(octets_).toUtf8();
+    if (codage_ == Codage::Windows1252) octets_ = Depuis8Bits(octets_).toUtf8();
+    if (!Analyser() || !BienForme(document_)) {
         document_.reset();
         LeverFaute(numero_faute::objetAbsent);
     }
     return document_.document_element();
 }
 
+bool DocumentConfiguration::Analyser() {
+    char* const debut = octets_.data();
+    const auto taille = static_cast<std::size_t>(octets_.size());
+    if (codage_ == Codage::Utf16Petit || codage_ == Codage::Utf16Grand)
+        return document_.load_buffer_inplace(debut, taille, lecture, pugi::encoding_auto);
+    // The final zero goes with the bytes: the parser would overwrite the last one otherwise.
+    const std::size_t marque = marque_ ? 3 : 0;
+    return document_.load_buffer_inplace(debut + marque, taille - marque + 1, lecture,
+                                         pugi::encoding_utf8);
+}
+
 void DocumentConfiguration::Enregistrer() const {
     pugi::xml_encoding codage = pugi::encoding_utf8;
-    if (codage_ == Codage::Latin1) codage = pugi::encoding_latin1;
     if (codage_ == Codage::Utf16Petit) codage = pugi::encoding_utf16_le;
     if (codage_ == Codage::Utf16Grand) codage = pugi::encoding_utf16_be;
     const unsigned forme =
         pugi::format_raw | pugi::format_no_declaration | (marque_ ? pugi::format_write_bom : 0u);
     Ecrivain ecrivain;
     document_.save(ecrivain, "", forme, codage);
+    if (codage_ == Codage::Latin1) ecrivain.octets = QString::fromUtf8(ecrivain.octets).toLatin1();
     if (codage_ == Codage::Windows1252)
         ecrivain.octets = Vers8Bits(QString::fromUtf8(ecrivain.octets));
     RemplacerFichier(chemin_, ecrivain.octets);

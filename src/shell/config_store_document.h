@@ -39,6 +39,7 @@ class DocumentConfiguration {
     enum class Codage { Utf8, Latin1, Windows1252, Utf16Petit, Utf16Grand };
 
     static Codage Reconnaitre(QByteArrayView octets);
+    bool Analyser();
 
     pugi::xml_document document_;
     // The document is parsed in place: its texts point into these bytes.
