@@ -1,0 +1,40 @@
+#include "shell/main_screen.h"
+
+#include <QCloseEvent>
+
+#include "shell/captions.h"
+#include "shell/text_catalogue.h"
+#include "ui_main_screen.h"
+
+namespace bornika {
+
+MainScreen::MainScreen(Systeme& leSysteme, QWidget* parent)
+    : QMainWindow(parent),
+      ui(std::make_unique<Ui::MainScreen>()),
+      systeme(leSysteme),
+      configuration(leSysteme.dossier) {
+    ui->setupUi(this);
+    RetenirCaptions(*this);
+}
+
+MainScreen::~MainScreen() = default;
+
+QString MainScreen::Texte(const QString& cle) {
+    return Texte(cle, {});
+}
+
+QString MainScreen::Texte(const QString& cle, const QString& defaut) {
+    return Message(configuration, systeme.dossier, Langue(), cle, etat.TypekPod, defaut);
+}
+
+QString MainScreen::Langue() const {
+    return ui->ListeLangues->Texte();
+}
+
+void MainScreen::closeEvent(QCloseEvent* evenement) {
+    etat.EnFermeture = true;
+    Q_EMIT Fermeture();
+    evenement->accept();
+}
+
+}  // namespace bornika
