@@ -25,6 +25,12 @@ function(bornika_room name)
                                                       ${PROJECT_SOURCE_DIR})
     target_link_libraries(bornika_${name} PUBLIC Qt6::Widgets ${ROOM_LINKS})
     target_compile_options(bornika_${name} PRIVATE -Wconversion)
+    # Only a room that holds forms runs the form compiler; the others include what it has made.
+    if(ROOM_SOURCES MATCHES "[.]ui(;|$)")
+        set_target_properties(bornika_${name} PROPERTIES AUTOUIC ON)
+        target_include_directories(bornika_${name}
+            PUBLIC ${CMAKE_CURRENT_BINARY_DIR}/bornika_${name}_autogen/include)
+    endif()
     bornika_options(bornika_${name})
 endfunction()
 
