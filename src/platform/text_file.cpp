@@ -1,10 +1,15 @@
 #include "platform/text_file.h"
 
-#include <QDir>
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <QFile>
 #include <QFileInfo>
 #include <algorithm>
+#include <cerrno>
 #include <climits>
 #include <cstring>
+#include <utility>
 #include <vector>
 
 #include "platform/code_page.h"
@@ -23,23 +28,32 @@ std::vector<FichierTexteEcrit*>& Ouverts() {
     return ouverts;
 }
 
-int NumeroOuverture(const QFile& fichier) {
-    const QString chemin = fichier.fileName();
-    if (chemin.isEmpty() || chemin.contains(QChar(u'\0'))) return numero_faute::nomDeFichier;
-    const QFileInfo infos(chemin);
-    if (!infos.dir().exists()) return numero_faute::cheminIntrouvable;
-    if (QFile::encodeName(infos.fileName()).size() > NAME_MAX) return numero_faute::nomDeFichier;
-    if (fichier.error() == QFileDevice::ResourceError) return numero_faute::disquePlein;
+bool EstDisquePlein(int erreur) {
+    return erreur == ENOSPC || erreur == EDQUOT;
+}
+
+int NumeroOuverture(int erreur) {
+    if (EstDisquePlein(erreur)) return numero_faute::disquePlein;
+    if (erreur == ENOENT || erreur == ENOTDIR) return numero_faute::cheminIntrouvable;
+    if (erreur == ENAMETOOLONG) return numero_faute::nomDeFichier;
     return numero_faute::accesRefuse;
+}
+
+[[noreturn]] void Echouer(int erreur) {
+    throw FauteExecution(
+        EstDisquePlein(erreur) ? numero_faute::disquePlein : numero_faute::accesRefuse,
+        qt_error_string(erreur));
 }
 
 }  // namespace
 
 FichierTexteEcrit::FichierTexteEcrit(const QString& chemin, ModeEcriture mode)
-    : fichier_(chemin), dernierVidage_(std::chrono::steady_clock::now()) {
-    const auto sens = mode == ModeEcriture::Ajouter ? QIODevice::Append : QIODevice::Truncate;
-    if (!fichier_.open(QIODevice::WriteOnly | QIODevice::Unbuffered | sens))
-        LeverFaute(NumeroOuverture(fichier_));
+    : chemin_(chemin), dernierVidage_(std::chrono::steady_clock::now()) {
+    if (chemin.isEmpty() || chemin.contains(QChar(u'\0'))) LeverFaute(numero_faute::nomDeFichier);
+    const int sens = mode == ModeEcriture::Ajouter ? O_APPEND : O_TRUNC;
+    descripteur_ =
+        ::open(QFile::encodeName(chemin).constData(), O_WRONLY | O_CREAT | O_CLOEXEC | sens, 0666);
+    if (descripteur_ < 0) LeverFaute(NumeroOuverture(errno));
     tampon_.reserve(tailleTampon + tailleTampon / 8);
     Ouverts().push_back(this);
 }
@@ -64,14 +78,17 @@ void FichierTexteEcrit::Ecrire(QStringView texte) {
 }
 
 void FichierTexteEcrit::Fermer() {
-    if (!fichier_.isOpen()) return;
+    if (descripteur_ < 0) return;
+    const auto fermer = [this] { return ::close(std::exchange(descripteur_, -1)); };
     try {
         Vider();
+        // Some file systems tell of a full disk only here. What is no disk file cannot be asked.
+        if (::fsync(descripteur_) != 0 && errno != EINVAL && errno != EROFS) Echouer(errno);
     } catch (const FauteExecution&) {
-        fichier_.close();
+        fermer();
         throw;
     }
-    fichier_.close();
+    if (fermer() != 0) Echouer(errno);
 }
 
 void FichierTexteEcrit::ViderTous() noexcept {
@@ -87,21 +104,20 @@ void FichierTexteEcrit::Deposer(QByteArrayView octets) {
 }
 
 void FichierTexteEcrit::Vider() {
+    dernierVidage_ = std::chrono::steady_clock::now();
     qsizetype ecrits = 0;
-    while (ecrits < tampon_.size()) {
-        const qint64 n = fichier_.write(tampon_.constData() + ecrits, tampon_.size() - ecrits);
-        if (n <= 0) break;
-        ecrits += n;
+    int erreur = 0;
+    while (ecrits < tampon_.size() && erreur == 0) {
+        // The toolkit's own unbuffered write does not tell why it failed.
+        const ssize_t n = ::write(descripteur_, tampon_.constData() + ecrits,
+                                  static_cast<std::size_t>(tampon_.size() - ecrits));
+        if (n > 0) ecrits += n;
+        if (n < 0 && errno != EINTR) erreur = errno;
     }
-    const bool entier = ecrits == tampon_.size();
     // What is left waits for the next attempt, so that no line is written twice or cut in the
     // middle.
     tampon_.remove(0, ecrits);
-    dernierVidage_ = std::chrono::steady_clock::now();
-    if (entier) return;
-    const bool plein = fichier_.error() == QFileDevice::ResourceError;
-    throw FauteExecution(plein ? numero_faute::disquePlein : numero_faute::accesRefuse,
-                         fichier_.errorString());
+    if (erreur != 0) Echouer(erreur);
 }
 
 FichierTexteLu::FichierTexteLu(const QString& chemin) {

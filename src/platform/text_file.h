@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QFile>
+#include <QByteArray>
 #include <QString>
 #include <chrono>
 
@@ -14,7 +14,8 @@ enum class ModeEcriture { Remplacer, Ajouter };
 /// was interrupted keeps what it had.
 class FichierTexteEcrit {
   public:
-    /// Creates the file (or opens it to append). Fault 70, 76 or 52 when that cannot be.
+    /// Creates the file (or opens it to append). Fault 76 for a missing folder, 52 for a name that
+    /// cannot be, 61 for a full disk, else 70.
     FichierTexteEcrit(const QString& chemin, ModeEcriture mode);
     ~FichierTexteEcrit();
     FichierTexteEcrit(const FichierTexteEcrit&) = delete;
@@ -30,7 +31,7 @@ class FichierTexteEcrit {
     /// Brings everything to the disk and closes. Raises the same fault as a write.
     void Fermer();
 
-    QString Chemin() const { return fichier_.fileName(); }
+    const QString& Chemin() const { return chemin_; }
 
     /// Flushes every open file of this kind: the last act before the program is ended by a fault.
     static void ViderTous() noexcept;
@@ -39,7 +40,8 @@ class FichierTexteEcrit {
     void Deposer(QByteArrayView octets);
     void Vider();
 
-    QFile fichier_;
+    QString chemin_;
+    int descripteur_ = -1;
     QByteArray tampon_;
     std::chrono::steady_clock::time_point dernierVidage_;
 };
