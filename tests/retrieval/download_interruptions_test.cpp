@@ -1,0 +1,130 @@
+// What the operator does while a download runs.
+
+#include <gtest/gtest.h>
+
+#include "platform/pointer_shape.h"
+#include "retrieval_bench.h"
+
+using namespace bornika;
+using namespace bornika::essai;
+using simulateur::MesurePeriodique;
+
+namespace {
+
+struct BancLong : BancLecture {
+    BancLong() {
+        for (std::uint32_t i = 0; i < 100; ++i)
+            Stocker({MesurePeriodique(t0 + i, static_cast<int>(i))});
+    }
+};
+
+}  // namespace
+
+TEST(DownloadCancelled, ByASecondClickEndsAsACompleteRecording) {
+    BancLong banc;
+    banc.AuTour(10, [&] { banc.Cliquer(); });
+    banc.Cliquer();
+    EXPECT_EQ(banc.tours, 10);
+    // The answer that is here already is still decoded.
+    EXPECT_EQ(banc.NombreLignes(), 10);
+    EXPECT_TRUE(banc.Mesures().endsWith("\r\n"));
+    EXPECT_TRUE(banc.Rejets().endsWith("End Parity Control"));
+    ASSERT_EQ(banc.etabli.dialogues.boites.size(), 1U);
+    EXPECT_EQ(banc.etabli.dialogues.boites[0].icone, Icone::Information);
+    EXPECT_EQ(banc.montres.size(), 1U);
+    EXPECT_EQ(banc.Bouton(), Clair(banc.ecran.Texte(QStringLiteral("Lire les valeurs"))));
+    EXPECT_EQ(banc.PoigneesOuvertes(), 0);
+}
+
+TEST(DownloadCancelled, TheClickAsksForTheVersionInBetween) {
+    BancLong banc;
+    banc.AuTour(10, [&] { banc.Cliquer(); });
+    banc.Cliquer();
+    const std::vector<int> codes = banc.enregistreur.journal.Codes();
+    EXPECT_EQ(codes.back(), 9);
+    EXPECT_EQ(codes[codes.size() - 2], 10);
+    EXPECT_EQ(banc.enregistreur.journal.Nombre(10), 10);
+}
+
+TEST(DownloadCancelled, ALoggerSilentAtTheClickLosesTheAnswerOfThatRound) {
+    BancLong banc;
+    banc.AuTour(10, [&] {
+        banc.enregistreur.pannes.Ordonner({.code = 9, .genre = simulateur::GenrePanne::silence});
+        banc.Cliquer();
+    });
+    banc.Cliquer();
+    EXPECT_EQ(banc.NombreLignes(), 9);
+    EXPECT_EQ(banc.montres.size(), 1U);
+}
+
+TEST(DownloadCancelled, BetweenTwoMeasuresOfAGroupLosesTheOpenGroup) {
+    BancLecture banc;
+    banc.Stocker({MesurePeriodique(t0, 1), MesurePeriodique(t0 + 1, 2), MesurePeriodique(t0 + 1, 3),
+                  MesurePeriodique(t0 + 1, 4), MesurePeriodique(t0 + 2, 5),
+                  MesurePeriodique(t0 + 3, 6)});
+    banc.AuTour(4, [&] { banc.Cliquer(); });
+    banc.Cliquer();
+    EXPECT_EQ(banc.NombreLignes(), 2);
+}
+
+TEST(DownloadCancelled, AnotherPartOfTheProgramCanClearTheFlag) {
+    BancLong banc;
+    banc.AuTour(5, [&] { banc.ecran.etat.EnLecture = false; });
+    banc.Cliquer();
+    EXPECT_EQ(banc.tours, 5);
+    EXPECT_EQ(banc.montres.size(), 1U);
+}
+
+TEST(LectureValeurs, WhileADownloadRunsOnlyClearsTheFlag) {
+    BancLong banc;
+    banc.ecran.etat.EnLecture = true;
+    LectureValeurs(banc.poste, banc.suite);
+    EXPECT_FALSE(banc.ecran.etat.EnLecture);
+    EXPECT_EQ(banc.enregistreur.journal.Total(), 0);
+    EXPECT_TRUE(banc.etabli.dialogues.boites.empty());
+}
+
+TEST(DownloadCancelled, CanBeRunAgainAtOnce) {
+    BancLong banc;
+    banc.AuTour(10, [&] { banc.Cliquer(); });
+    banc.Cliquer();
+    banc.Cliquer();
+    EXPECT_EQ(banc.NombreLignes(), 99);
+    EXPECT_EQ(banc.montres.size(), 2U);
+}
+
+TEST(DownloadClosed, ClosingTheFormLeavesWithoutBoxesAndViewer) {
+    BancLong banc;
+    banc.AuTour(10, [&] { banc.ecran.close(); });
+    banc.Cliquer();
+    EXPECT_EQ(banc.tours, 10);
+    EXPECT_TRUE(banc.ecran.etat.EnFermeture);
+    EXPECT_TRUE(banc.etabli.dialogues.boites.empty());
+    EXPECT_TRUE(banc.montres.empty());
+    EXPECT_TRUE(banc.commentaires.empty());
+    EXPECT_EQ(banc.PoigneesOuvertes(), 0);
+    EXPECT_FALSE(banc.ecran.etat.EnLecture);
+    // What was received stays.
+    EXPECT_EQ(banc.NombreLignes(), 9);
+}
+
+TEST(DownloadClosed, ClosingTheFormWhileTheLastBoxStandsSkipsTheViewer) {
+    BancLong banc;
+    banc.etabli.dialogues.pendantBoite = [&](const auto&) { banc.ecran.close(); };
+    banc.Cliquer();
+    EXPECT_EQ(banc.NombreLignes(), 99);
+    EXPECT_TRUE(banc.montres.empty());
+}
+
+TEST(DownloadDisturbed, AUnitChosenMeanwhileCountsFromTheNextLineOn) {
+    BancLong banc;
+    banc.AuTour(10, [&] {
+        banc.ui.ListeUnites->Choisir(banc.ui.ListeUnites->findText(QStringLiteral("mbar")));
+    });
+    banc.Cliquer();
+    const QList<QByteArray> lignes = banc.Mesures().split('\n');
+    EXPECT_EQ(Clair(lignes[9].split(';').at(3)), "0.125");
+    EXPECT_EQ(Clair(lignes[10].split(';').at(3)), "140.625");
+    // The header keeps the unit of the start.
+    EXPECT_EQ(Clair(lignes[0] + '\n'), Clair(entete));
+}
