@@ -1,0 +1,77 @@
+#include "viewer/chart_view_legend.h"
+
+#include <QFontMetrics>
+
+namespace bornika {
+
+namespace {
+
+constexpr int longueurTrait = 22;
+constexpr int ecart = 6;
+
+}  // namespace
+
+ElementLegende::ElementLegende(QCPLegend* legende, int serie)
+    : QCPAbstractLegendItem(legende), serie_(serie) {
+    setMargins(QMargins(2, 1, 8, 1));
+}
+
+bool ElementLegende::Regler(const QString& titre, const QColor& couleur, bool actif) {
+    if (titre == titre_ && couleur == couleur_ && actif == actif_) return false;
+    titre_ = titre;
+    couleur_ = couleur;
+    actif_ = actif;
+    return true;
+}
+
+int ElementLegende::Cote() const {
+    return qMax(11, QFontMetrics(mFont).ascent());
+}
+
+QSize ElementLegende::minimumOuterSizeHint() const {
+    const QFontMetrics mesures(mFont);
+    return {Cote() + longueurTrait + 3 * ecart + mesures.horizontalAdvance(titre_) +
+                mMargins.left() + mMargins.right(),
+            qMax(Cote() + 2, mesures.height()) + mMargins.top() + mMargins.bottom()};
+}
+
+void ElementLegende::draw(QCPPainter* peintre) {
+    const QRect zone = mRect;
+    const int cote = Cote();
+    const QRect boite(zone.left() + 1, zone.center().y() - cote / 2, cote, cote);
+    QColor texte = mTextColor;
+    if (!actif_) texte.setAlphaF(0.65F);
+
+    peintre->setPen(QPen(texte, 1));
+    peintre->setBrush(Qt::NoBrush);
+    peintre->drawRect(boite);
+    if (actif_) {
+        peintre->setAntialiasing(true);
+        peintre->setPen(QPen(mTextColor, 2));
+        const QPointF coche[] = {QPointF(boite.left() + cote * 0.2, boite.top() + cote * 0.55),
+                                 QPointF(boite.left() + cote * 0.42, boite.top() + cote * 0.78),
+                                 QPointF(boite.left() + cote * 0.85, boite.top() + cote * 0.25)};
+        peintre->drawPolyline(coche, 3);
+        peintre->setAntialiasing(false);
+    }
+    const int debut = boite.right() + ecart;
+    QColor trait = couleur_;
+    if (!actif_) trait.setAlphaF(0.5F);
+    peintre->setPen(QPen(trait, 3));
+    const QPointF depart(debut, zone.center().y());
+    peintre->drawLine(depart, depart + QPointF(longueurTrait, 0));
+    peintre->setPen(texte);
+    peintre->setFont(mFont);
+    peintre->drawText(zone.adjusted(debut + longueurTrait + ecart - zone.left(), 0, 0, 0),
+                      Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip, titre_);
+}
+
+int SerieSousLegende(const QCPLegend& legende, QPointF position) {
+    if (!legende.realVisibility() || !legende.outerRect().contains(position.toPoint())) return -1;
+    for (int i = 0; i < legende.itemCount(); ++i)
+        if (auto* element = qobject_cast<ElementLegende*>(legende.item(i)))
+            if (element->outerRect().contains(position.toPoint())) return element->Serie();
+    return -1;
+}
+
+}  // namespace bornika

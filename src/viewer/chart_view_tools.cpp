@@ -1,0 +1,62 @@
+#include "viewer/chart_view_tools.h"
+
+namespace bornika {
+
+namespace {
+
+void AccorderLigne(QCustomPlot& dessin, QCPItemStraightLine& ligne, const OutilGraphe& outil) {
+    QCPAxis* axe = outil.axe == OutilGraphe::AxeLigne::Gauche ? dessin.yAxis : dessin.yAxis2;
+    int abscisse = 0;
+    for (QCPItemPosition* position : {ligne.point1, ligne.point2}) {
+        position->setAxes(dessin.xAxis, axe);
+        position->setTypeX(QCPItemPosition::ptAxisRectRatio);
+        position->setTypeY(QCPItemPosition::ptPlotCoords);
+        position->setCoords(abscisse++, outil.valeur);
+    }
+    ligne.setPen(QPen(VersQColor(outil.crayon), 1));
+    ligne.setVisible(outil.actif && outil.crayonVisible);
+}
+
+void AccorderAnnotation(QCPItemText& texte, const OutilGraphe& outil, const Apparence& apparence) {
+    texte.setPositionAlignment(Qt::AlignLeft | Qt::AlignTop);
+    texte.position->setType(QCPItemPosition::ptAxisRectRatio);
+    texte.position->setCoords(0.01, 0.02);
+    texte.setText(outil.texte);
+    texte.setColor(apparence.titre);
+    texte.setVisible(outil.actif && !outil.texte.isEmpty());
+}
+
+}  // namespace
+
+QCPAbstractItem* OutilsGraphe::Faire(OutilGraphe::Genre genre) {
+    QCPAbstractItem* element = nullptr;
+    if (genre == OutilGraphe::Genre::LigneCouleur) element = new QCPItemStraightLine(&dessin_);
+    if (genre == OutilGraphe::Genre::Annotation) element = new QCPItemText(&dessin_);
+    if (element) element->setSelectable(false);
+    return element;
+}
+
+void OutilsGraphe::Accorder(const ModeleGraphe& modele, const Apparence& apparence) {
+    const auto nombre = static_cast<std::size_t>(modele.NombreOutils());
+    bool pareils = dessines_.size() == nombre;
+    for (std::size_t i = 0; pareils && i < nombre; ++i)
+        pareils = dessines_[i].genre == modele.Outil(static_cast<int>(i)).genre;
+    if (!pareils) {
+        for (const Dessine& dessine : dessines_)
+            if (dessine.element) dessin_.removeItem(dessine.element);
+        dessines_.clear();
+        for (std::size_t i = 0; i < nombre; ++i) {
+            const OutilGraphe::Genre genre = modele.Outil(static_cast<int>(i)).genre;
+            dessines_.push_back({genre, Faire(genre)});
+        }
+    }
+    for (std::size_t i = 0; i < nombre; ++i) {
+        const OutilGraphe& outil = modele.Outil(static_cast<int>(i));
+        if (auto* ligne = qobject_cast<QCPItemStraightLine*>(dessines_[i].element))
+            AccorderLigne(dessin_, *ligne, outil);
+        if (auto* texte = qobject_cast<QCPItemText*>(dessines_[i].element))
+            AccorderAnnotation(*texte, outil, apparence);
+    }
+}
+
+}  // namespace bornika
