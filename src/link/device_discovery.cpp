@@ -1,0 +1,135 @@
+#include "link/device_discovery.h"
+
+#include "link/connect_form.h"
+#include "link/device_identity.h"
+#include "link/frames.h"
+#include "link/modal.h"
+#include "link/products.h"
+#include "link/selection_form.h"
+#include "platform/numbers.h"
+#include "platform/pointer_shape.h"
+#include "shell/text_catalogue.h"
+#include "ui_connect_form.h"
+#include "ui_main_screen.h"
+
+namespace bornika {
+
+namespace {
+
+constexpr int longueurIdentite = 6;
+constexpr int roleIdentifiant = Qt::UserRole;
+
+/// The form has to stand in front of the main form once that is there.
+QWidget* Parent(MainScreen& ecran) {
+    return ecran.isVisible() ? &ecran : nullptr;
+}
+
+bool Drapeau(const MainScreen& ecran) {
+    return DrapeauProduit(ecran.systeme.dossier);
+}
+
+/// Asks the logger `UsbID` who it is and shows its version on the main form.
+bool LireIdentite(Poste& poste) {
+    bool ok = false;
+    poste.ecran.ui->Version->setText(LitVersionKpod(poste, ok));
+    poste.ecran.etat.TypekPod = EnEntier32(ValeurDebut(LitTypeKpod(poste)));
+    return ok;
+}
+
+void AjouterLigne(frmConnect& fiche, int index, const QString& numero, IdentifiantUsb ancienID) {
+    QString texte = fiche.poste.ecran.ui->Version->text();
+    if (!numero.isEmpty()) texte += QLatin1String("-->") + numero;
+    auto* ligne = new QListWidgetItem(texte, fiche.ui->Listekrow);
+    const IdentifiantUsb id = fiche.poste.ecran.systeme.usb.Identifiant(index);
+    ligne->setData(roleIdentifiant, id);
+    if (id == ancienID) fiche.ui->Listekrow->setCurrentItem(ligne);
+}
+
+void Sonder(frmConnect& fiche, int index, bool voirTout, IdentifiantUsb ancienID) {
+    Poste& poste = fiche.poste;
+    EtatApplication& etat = poste.ecran.etat;
+    etat.UsbID = poste.ecran.systeme.usb.Identifiant(index);
+    etat.TimeOut = false;
+    poste.ecran.ui->Version->clear();
+    QString numero;
+    const bool ok = LireIdentite(poste);
+    if (!etat.TimeOut && ok) numero = LitNumeroSerieKpod(poste);
+    if (!etat.TimeOut && (voirTout || ok)) AjouterLigne(fiche, index, numero, ancienID);
+}
+
+}  // namespace
+
+void MontrerConnexion(Poste& poste) {
+    frmConnect fiche(poste, Parent(poste.ecran));
+    fiche.Charger();
+    MontrerModal(fiche);
+}
+
+void MontrerSelection(Poste& poste) {
+    FormSelection fiche(poste.ecran, Parent(poste.ecran));
+    fiche.Charger();
+    MontrerModal(fiche);
+}
+
+void Enumere(frmConnect& fiche, bool voirTout) {
+    EtatApplication& etat = fiche.poste.ecran.etat;
+    fiche.ui->Listekrow->clear();
+    const int forme = PointeurSouris(fiche);
+    FixerPointeurSouris(fiche, pointeur::sablier);
+    const IdentifiantUsb ancienID = etat.UsbID;
+    fiche.NbDevices = fiche.poste.ecran.systeme.usb.Compte();
+    for (int i = 0; i < fiche.NbDevices; ++i)
+        Sonder(fiche, i, voirTout, ancienID);
+    // Without an earlier choice the identifier of the last logger asked stays.
+    if (ancienID != 0) etat.UsbID = ancienID;
+    FixerPointeurSouris(fiche, forme);
+}
+
+void ViewAll_Click(frmConnect& fiche) {
+    fiche.Chargement = true;
+    Enumere(fiche, fiche.ui->ViewAll->isChecked());
+    fiche.Chargement = false;
+}
+
+void Listekrow_Click(frmConnect& fiche) {
+    const QListWidgetItem* ligne = fiche.ui->Listekrow->currentItem();
+    if (!ligne || fiche.ui->ViewAll->isChecked() || fiche.Chargement) return;
+    Poste& poste = fiche.poste;
+    EtatApplication& etat = poste.ecran.etat;
+    etat.UsbID = ligne->data(roleIdentifiant).toInt();
+    if (etat.UsbID == 0) return;
+    LireIdentite(poste);
+    etat.NomKpod = NomProduit(etat.TypekPod, Drapeau(poste.ecran));
+    etat.Connected = true;
+    fiche.accept();
+}
+
+void ExitEtalonnage_Click(frmConnect& fiche) {
+    fiche.reject();
+}
+
+void TypekPod_Click(FormSelection& fiche, int index) {
+    EtatApplication& etat = fiche.ecran.etat;
+    etat.TypekPod = index % 2 == 0 ? 1 : 20;
+    etat.NomKpod = NomProduit(etat.TypekPod, index < 2);
+}
+
+void Selection_Click(FormSelection& fiche) {
+    fiche.accept();
+}
+
+void LitVersion(Poste& poste, IdentifiantUsb id, bool& estKpod, QString& texte) {
+    poste.lien.OuvreUSB(id);
+    poste.lien.UsbWrite(TrameIdentifie(), longueurTrameIdentifie);
+    const Octets r = poste.lien.UsbRead(longueurIdentite, QString(), false, true, QString());
+    poste.lien.FermeUSB();
+    texte = QStringLiteral("%1 ( %2) %3.%4%5")
+                .arg(NomProduit(r[2], Drapeau(poste.ecran)))
+                .arg(r[2])
+                .arg(r[1])
+                .arg(r[4])
+                .arg(r[3]);
+    estKpod = EstKpod(r[2]);
+}
+
+}  // namespace bornika

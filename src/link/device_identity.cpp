@@ -1,0 +1,70 @@
+#include "link/device_identity.h"
+
+#include "link/command_exchange.h"
+#include "link/command_table.h"
+#include "link/products.h"
+#include "platform/fault.h"
+#include "platform/format_pattern.h"
+#include "platform/numbers.h"
+#include "shell/text_catalogue.h"
+
+namespace bornika {
+
+namespace {
+
+constexpr int longueurNumeroSerie = 8;
+constexpr int longueurVersion = 9;
+
+/// One command in a conversation of its own. A silent logger leaves the reply all zero.
+Tampon Interroger(Poste& poste, int code, int combien) {
+    Tampon buffer{};
+    poste.lien.OuvreUSB(poste.ecran.etat.UsbID);
+    Envoi_Entete(poste, code, buffer, combien, false);
+    poste.lien.FermeUSB();
+    return buffer;
+}
+
+/// Version as a number: the decimal texts of both parts joined, in thousandths. 2 and 110 are 2.11,
+/// 2 and 89 are 0.289.
+double NumeroVersion(int haut, int bas) {
+    const QString texte = QString::number(haut) + QString::number(bas);
+    return ArrondiTroisDecimales(ValeurDebut(texte) / 1000);
+}
+
+}  // namespace
+
+QString LitNumeroSerieKpod(Poste& poste) {
+    const Tampon buffer = Interroger(poste, CMD_LIT_NUMERO_SERIE, longueurNumeroSerie);
+    QString numero;
+    if (buffer[1] != CMD_LIT_NUMERO_SERIE) return numero;
+    ignorer([&] {
+        numero = QString::number(EnEntier32(buffer[4] * 16777216.0 + buffer[5] * 65536.0 +
+                                            buffer[6] * 256.0 + buffer[7]));
+    });
+    return numero;
+}
+
+QString LitVersionKpod(Poste& poste, bool& ok) {
+    EtatApplication& etat = poste.ecran.etat;
+    etat.TimeOut = false;
+    const Tampon buffer = Interroger(poste, CMD_LIT_VERSION, longueurVersion);
+    if (buffer[1] != CMD_LIT_VERSION) return {};
+    const int type = buffer[2];
+    const int haut = buffer[3];
+    const int bas = buffer[5];
+    ok = true;
+    etat.VersionLogiciel = NumeroVersion(haut, bas);
+    return QStringLiteral("%1 = %2 %3-%4")
+        .arg(NomProduit(type, DrapeauProduit(poste.ecran.systeme.dossier)))
+        .arg(type)
+        .arg(haut)
+        .arg(bas);
+}
+
+QString LitTypeKpod(Poste& poste, bool /*sansEffet*/) {
+    poste.ecran.etat.TimeOut = false;
+    const Tampon buffer = Interroger(poste, CMD_LIT_VERSION, longueurVersion);
+    return buffer[1] == CMD_LIT_VERSION ? QString::number(buffer[2]) : QString();
+}
+
+}  // namespace bornika
