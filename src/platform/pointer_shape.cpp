@@ -16,6 +16,8 @@ void FixerPointeurSouris(QWidget& fiche, int forme) {
     switch (forme) {
         case pointeur::defaut:
             fiche.unsetCursor();
+            // The toolkit leaves this mark on windows.
+            fiche.setAttribute(Qt::WA_SetCursor, false);
             return;
         case pointeur::fleche:
             fiche.setCursor(Qt::ArrowCursor);

@@ -1,0 +1,141 @@
+#include "platform/atomic_file.h"
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <csignal>
+
+#include "platform/fault.h"
+#include "platform/program_folder.h"
+
+namespace bornika {
+namespace {
+
+class FichierRemplace : public testing::Test {
+  protected:
+    QString Chemin(const char* nom) const { return dossier.filePath(QString::fromLatin1(nom)); }
+    static QByteArray Lire(const QString& chemin) {
+        QFile fichier(chemin);
+        return fichier.open(QIODevice::ReadOnly) ? fichier.readAll() : QByteArray("missing");
+    }
+    static void Poser(const QString& chemin, const QByteArray& contenu) {
+        QFile fichier(chemin);
+        ASSERT_TRUE(fichier.open(QIODevice::WriteOnly));
+        fichier.write(contenu);
+    }
+    static int NumeroDe(const QString& chemin, const QByteArray& contenu) {
+        try {
+            RemplacerFichier(chemin, contenu);
+        } catch (const FauteExecution& faute) {
+            return faute.numero();
+        }
+        return 0;
+    }
+    QStringList Fichiers() const {
+        return QDir(dossier.path()).entryList(QDir::Files | QDir::Hidden | QDir::System);
+    }
+
+    QTemporaryDir dossier;
+};
+
+TEST_F(FichierRemplace, TakesThePlaceOfTheOldOneAndLeavesNothingBeside) {
+    Poser(Chemin("a.xml"), "ancien et plus long");
+    RemplacerFichier(Chemin("a.xml"), "neuf");
+    EXPECT_EQ(Lire(Chemin("a.xml")), "neuf");
+    EXPECT_EQ(Fichiers(), QStringList{"a.xml"});
+}
+
+TEST_F(FichierRemplace, IsMadeWhenThereWasNone) {
+    RemplacerFichier(Chemin("a.xml"), "neuf");
+    EXPECT_EQ(Lire(Chemin("a.xml")), "neuf");
+    EXPECT_EQ(Fichiers(), QStringList{"a.xml"});
+}
+
+TEST_F(FichierRemplace, IsAnotherFileSoThatHalfAWriteIsNeverSeen) {
+    Poser(Chemin("a.xml"), "ancien");
+    QFile ouvert(Chemin("a.xml"));
+    ASSERT_TRUE(ouvert.open(QIODevice::ReadOnly));
+    RemplacerFichier(Chemin("a.xml"), "neuf");
+    EXPECT_EQ(ouvert.readAll(), "ancien");
+}
+
+TEST_F(FichierRemplace, KeepsItsPermissions) {
+    Poser(Chemin("a.xml"), "ancien");
+    ASSERT_EQ(::chmod(QFile::encodeName(Chemin("a.xml")).constData(), 0640), 0);
+    RemplacerFichier(Chemin("a.xml"), "neuf");
+    struct stat infos {};
+    ASSERT_EQ(::stat(QFile::encodeName(Chemin("a.xml")).constData(), &infos), 0);
+    EXPECT_EQ(infos.st_mode & 07777, 0640U);
+}
+
+TEST_F(FichierRemplace, IsTheTargetOfALink) {
+    ASSERT_TRUE(QDir(dossier.path()).mkdir(QStringLiteral("vrai")));
+    Poser(Chemin("vrai/a.xml"), "ancien");
+    ASSERT_TRUE(QFile::link(Chemin("vrai/a.xml"), Chemin("milieu.xml")));
+    ASSERT_TRUE(QFile::link(Chemin("milieu.xml"), Chemin("a.xml")));
+    RemplacerFichier(Chemin("a.xml"), "neuf");
+    EXPECT_EQ(Lire(Chemin("vrai/a.xml")), "neuf");
+    EXPECT_TRUE(QFileInfo(Chemin("a.xml")).isSymLink());
+    EXPECT_TRUE(QFileInfo(Chemin("milieu.xml")).isSymLink());
+}
+
+TEST_F(FichierRemplace, StandsUntouchedWhenTheNewOneCannotBeWritten) {
+    std::signal(SIGXFSZ, SIG_IGN);
+    Poser(Chemin("a.xml"), "ancien");
+    rlimit ancienne{};
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &ancienne), 0);
+    const rlimit etroite{100, ancienne.rlim_max};
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &etroite), 0);
+    const int numero = NumeroDe(Chemin("a.xml"), QByteArray(1000, 'x'));
+    setrlimit(RLIMIT_FSIZE, &ancienne);
+    EXPECT_EQ(numero, 70);
+    EXPECT_EQ(Lire(Chemin("a.xml")), "ancien");
+    EXPECT_EQ(Fichiers(), QStringList{"a.xml"});
+}
+
+TEST_F(FichierRemplace, FaultsInAFolderThatIsNotThere) {
+    EXPECT_EQ(NumeroDe(Chemin("absent/a.xml"), "neuf"), 70);
+}
+
+TEST_F(FichierRemplace, IsNoFolder) {
+    ASSERT_TRUE(QDir(dossier.path()).mkdir(QStringLiteral("plat")));
+    EXPECT_EQ(NumeroDe(Chemin("plat"), "neuf"), 70);
+    EXPECT_TRUE(Fichiers().isEmpty());
+}
+
+TEST_F(FichierRemplace, IsNotReplacedWhenItIsProtected) {
+    if (::geteuid() == 0) GTEST_SKIP() << "the superuser may write everything";
+    Poser(Chemin("a.xml"), "ancien");
+    ASSERT_EQ(::chmod(QFile::encodeName(Chemin("a.xml")).constData(), 0444), 0);
+    EXPECT_EQ(NumeroDe(Chemin("a.xml"), "neuf"), 70);
+    EXPECT_EQ(Lire(Chemin("a.xml")), "ancien");
+}
+
+TEST_F(FichierRemplace, GetsPastWhatACutOffProcessLeft) {
+    Poser(Chemin(".bornika-") + QString::number(::getpid()) + QStringLiteral(".tmp"), "reste");
+    RemplacerFichier(Chemin("a.xml"), "neuf");
+    EXPECT_EQ(Fichiers(), QStringList{"a.xml"});
+}
+
+TEST(Dossier, OfTheProgramIsTheOneOfItsFile) {
+    EXPECT_TRUE(QFileInfo(DossierProgramme()).isDir());
+    EXPECT_TRUE(QFile::exists(DossierProgramme() + QStringLiteral("/test_platform")));
+}
+
+TEST(Dossier, IsTriedForWritingAndLeftAsItWas) {
+    QTemporaryDir dossier;
+    EXPECT_TRUE(DossierInscriptible(dossier.path()));
+    EXPECT_TRUE(QDir(dossier.path())
+                    .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot)
+                    .isEmpty());
+    EXPECT_FALSE(DossierInscriptible(dossier.filePath(QStringLiteral("absent"))));
+    EXPECT_FALSE(DossierInscriptible(QStringLiteral("/proc")));
+}
+
+}  // namespace
+}  // namespace bornika
