@@ -75,8 +75,7 @@ Suite LireDateEtalonnage(LectureParametres& lecture) {
     QString capteur = texteDate;
     if (date != 0) {
         texteDate = EpochVersTexte(date, ecran.systeme.regional);
-        capteur =
-            ecran.ui->ListeEchelles->TexteA(static_cast<int>(ArrondiPair(lecture.Octet(5) / 16.0)));
+        capteur = ecran.ui->ListeEchelles->TexteA(EchelleDeOctet(lecture.Octet(5)));
     }
     AjouteRapport(ecran, QStringLiteral("LabelDateEtalonnage"), texteDate);
     AjouteRapport(ecran, QStringLiteral("LabelCapteurEtalonnage"), capteur);

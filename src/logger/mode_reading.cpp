@@ -5,21 +5,11 @@
 #include "logger/parameter_report.h"
 #include "logger/pressure_scale.h"
 #include "platform/format_pattern.h"
-#include "platform/numbers.h"
 #include "ui_main_screen.h"
 
 namespace bornika {
 
 namespace {
-
-namespace bit_mode {
-constexpr int unSeuil = 1;
-constexpr int deuxSeuils = 2;
-constexpr int auDessus = 4;
-constexpr int bufferTournant = 8;
-constexpr int oneShot = 16;
-constexpr int pressionAbsolue = 128;
-}  // namespace bit_mode
 
 const auto superieur = QStringLiteral(" > ");
 const auto inferieur = QStringLiteral(" < ");
@@ -28,8 +18,8 @@ void MontrerEchelleEtUnite(LectureParametres& lecture) {
     MainScreen& ecran = lecture.ecran;
     const auto& ui = ecran.ui;
     const int code = lecture.Octet(6);
-    afficher([&] { ui->ListeEchelles->Choisir(static_cast<int>(ArrondiPair(code / 16.0))); });
-    afficher([&] { ui->ListeUnites->Choisir(code & 15); });
+    afficher([&] { ui->ListeEchelles->Choisir(EchelleDeOctet(code)); });
+    afficher([&] { ui->ListeUnites->Choisir(UniteDeOctet(code)); });
     AjouteRapport(ecran, QStringLiteral("Label1"), ui->ListeEchelles->Texte());
     AjouteRapport(ecran, QStringLiteral("Label3"), ui->ListeUnites->Texte());
 }
@@ -41,34 +31,34 @@ void MontrerSeuil(MainScreen& ecran, QLineEdit& boite, int points, bool absolue)
     });
 }
 
-void MontrerSeuils(LectureParametres& lecture, int mode) {
+void MontrerSeuils(LectureParametres& lecture, int octetMode) {
     MainScreen& ecran = lecture.ecran;
     const auto& ui = ecran.ui;
-    const bool absolue = (mode & bit_mode::pressionAbsolue) != 0;
+    const bool absolue = (octetMode & mode::pressionAbsolue) != 0;
     afficher([&] { ui->PressionAbsolue->setChecked(absolue); });
     if (absolue) AjouteRapport(ecran, QStringLiteral("PressionAbsolue"), {});
     MontrerSeuil(ecran, *ui->Seuil1, lecture.Mot(2), absolue);
     MontrerSeuil(ecran, *ui->Seuil2, lecture.Mot(4), absolue);
 }
 
-void MontrerSens(MainScreen& ecran, int mode) {
-    const bool dessus = (mode & bit_mode::auDessus) != 0;
+void MontrerSens(MainScreen& ecran, int octetMode) {
+    const bool dessus = (octetMode & mode::auDessus) != 0;
     QRadioButton& option = dessus ? *ecran.ui->AuDessus : *ecran.ui->AuDessous;
     afficher([&] { option.setChecked(true); });
 }
 
 /// The signs of the two thresholds are those of the band: inside it, or outside.
-void MontrerNombreSeuils(MainScreen& ecran, int mode) {
+void MontrerNombreSeuils(MainScreen& ecran, int octetMode) {
     const auto& ui = ecran.ui;
-    const bool dessous = (mode & bit_mode::auDessus) == 0;
-    if ((mode & bit_mode::deuxSeuils) != 0) {
+    const bool dessous = (octetMode & mode::auDessus) == 0;
+    if ((octetMode & mode::deuxSeuils) != 0) {
         afficher([&] { ui->DeuxSeuils->setChecked(true); });
         AjouteRapport(ecran, QStringLiteral("DeuxSeuils"), {});
         AjouteRapport(ecran, QStringLiteral("LabelSeuil1"),
                       (dessous ? superieur : inferieur) + ui->Seuil1->text());
         AjouteRapport(ecran, QStringLiteral("LabelSeuil2"),
                       (dessous ? inferieur : superieur) + ui->Seuil2->text());
-    } else if ((mode & bit_mode::unSeuil) != 0) {
+    } else if ((octetMode & mode::unSeuil) != 0) {
         afficher([&] { ui->UnSeuil->setChecked(true); });
         AjouteRapport(ecran, QStringLiteral("UnSeuil"), {});
         AjouteRapport(ecran, QStringLiteral("LabelSeuil1"),
@@ -79,9 +69,9 @@ void MontrerNombreSeuils(MainScreen& ecran, int mode) {
     }
 }
 
-void MontrerGestionMemoire(MainScreen& ecran, int mode) {
+void MontrerGestionMemoire(MainScreen& ecran, int octetMode) {
     const auto& ui = ecran.ui;
-    if ((mode & bit_mode::bufferTournant) != 0) {
+    if ((octetMode & mode::bufferTournant) != 0) {
         afficher([&] { ui->BufferTournant->setChecked(true); });
         AjouteRapport(ecran, QStringLiteral("BufferTournant"), {});
     } else {
@@ -91,8 +81,8 @@ void MontrerGestionMemoire(MainScreen& ecran, int mode) {
 }
 
 /// A clear bit leaves the box as it is: the logger tells of a one-shot that is set only.
-void MontrerMonoCoup(MainScreen& ecran, int mode) {
-    if ((mode & bit_mode::oneShot) == 0) return;
+void MontrerMonoCoup(MainScreen& ecran, int octetMode) {
+    if ((octetMode & mode::oneShot) == 0) return;
     afficher([&] { ecran.ui->OneShot->setChecked(true); });
     AjouteRapport(ecran, QStringLiteral("OneShot"), {});
 }
@@ -104,13 +94,13 @@ Suite LireMode(LectureParametres& lecture) {
     if (lecture.Octet(0) != CMD_LIT_MODE) return Suite::Continuer;
     MainScreen& ecran = lecture.ecran;
     const auto& ui = ecran.ui;
-    const int mode = lecture.Octet(1);
+    const int octetMode = lecture.Octet(1);
     MontrerEchelleEtUnite(lecture);
-    MontrerSeuils(lecture, mode);
-    MontrerSens(ecran, mode);
-    MontrerNombreSeuils(ecran, mode);
-    MontrerGestionMemoire(ecran, mode);
-    MontrerMonoCoup(ecran, mode);
+    MontrerSeuils(lecture, octetMode);
+    MontrerSens(ecran, octetMode);
+    MontrerNombreSeuils(ecran, octetMode);
+    MontrerGestionMemoire(ecran, octetMode);
+    MontrerMonoCoup(ecran, octetMode);
     ui->Frame1->setVisible(ui->Check_advanced->isChecked() && !ui->PasDeSeuil->isChecked());
     return Suite::Continuer;
 }

@@ -6,6 +6,7 @@
 #include "logger/threshold_labels.h"
 #include "platform/fault.h"
 #include "platform/numbers.h"
+#include "shell/captions.h"
 #include "shell/main_screen.h"
 #include "ui_main_screen.h"
 
@@ -79,8 +80,8 @@ void UnSeuil_Click(MainScreen& ecran) {
     ui->Seuil2->setVisible(false);
     ecran.textes.TexteSeuil = ecran.Texte(QStringLiteral("Valeur du seuil"));
     MontrerTexteSeuil(ecran);
-    ui->AuDessous->setText(ecran.textes.TexteAuDessous);
-    ui->AuDessus->setText(ecran.textes.TexteAuDessus);
+    FixerCaption(*ui->AuDessous, ecran.textes.TexteAuDessous);
+    FixerCaption(*ui->AuDessus, ecran.textes.TexteAuDessus);
     Donne_Resume(ecran);
     DonnerFocus(*ui->Seuil1);
 }
@@ -93,8 +94,8 @@ void DeuxSeuils_Click(MainScreen& ecran) {
     ignorer([&] { ChercherTextesLimites(ecran); });
     MontrerTextesLimites(ecran);
     // Above means outside the band here, below inside it: only the captions change.
-    ui->AuDessous->setText(ecran.textes.TexteEnDedans);
-    ui->AuDessus->setText(ecran.textes.TexteEnDehors);
+    FixerCaption(*ui->AuDessous, ecran.textes.TexteEnDedans);
+    FixerCaption(*ui->AuDessus, ecran.textes.TexteEnDehors);
     ignorer([&] { Donne_Resume(ecran); });
     DonnerFocus(*ui->Seuil2);
 }
