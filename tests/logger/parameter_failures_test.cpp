@@ -237,6 +237,52 @@ TEST(MauvaisEcho, OfTheVersionCountsAsNewFirmware) {
     EXPECT_EQ(banc.enregistreur.journal.Nombre(26), 2);
 }
 
+TEST(ReponseInsensee, OfEveryCommandEndsTheReadingWithoutFault) {
+    BancTemoin banc;
+    banc.enregistreur.pannes.Ordonner(
+        {simulateur::toutesCommandes, GenrePanne::bruit, 1, simulateur::sansFin});
+    Lire(banc.poste);
+    EXPECT_TRUE(banc.etabli.fautes.empty());
+    EXPECT_TRUE(banc.etabli.dialogues.boites.empty());
+    EXPECT_TRUE(banc.EstAncien(QStringLiteral("NumeroSerie")));
+    EXPECT_EQ(banc.ui.Commentaire->text().size(), 14);
+}
+
+TEST(ReponseInsensee, ShortRepliesAreFilledWithZeros) {
+    BancTemoin banc;
+    banc.enregistreur.pannes.Ordonner(
+        {simulateur::toutesCommandes, GenrePanne::reponseCourte, 1, simulateur::sansFin, 1});
+    Lire(banc.poste);
+    EXPECT_TRUE(banc.etabli.fautes.empty());
+    EXPECT_TRUE(banc.etabli.dialogues.boites.empty());
+    EXPECT_FALSE(banc.ecran.etat.TimeOut);
+    EXPECT_EQ(Clair(banc.ui.Version->text()), "(0) 0.0");
+    EXPECT_EQ(Clair(banc.ui.TensionPile->text()), ".00 V.");
+    EXPECT_EQ(Clair(banc.ui.NumeroSerie->text()), "0");
+    EXPECT_EQ(Clair(banc.ui.ProchaineMesure->text()), "01/01/1970 00:00:00");
+    EXPECT_EQ(banc.ui.DTPicker1->date(), QDate(1970, 1, 1));
+    EXPECT_EQ(banc.ecran.etat.CapaciteMemoire, 540606);
+}
+
+TEST(ReponseInsensee, AnErasedMemoryIsReadToTheEnd) {
+    BancTemoin banc;
+    for (int ou = 0; ou < simulateur::MemoireInterne::taille; ++ou) {
+        // In calibration only as long as its own byte says so.
+        if (ou != simulateur::adresse::modeEtalonnage) {
+            banc.enregistreur.memoire.EcrireOctet(ou, 0xFF);
+        }
+    }
+    Lire(banc.poste);
+    EXPECT_TRUE(banc.etabli.fautes.empty());
+    EXPECT_FALSE(banc.ecran.etat.TimeOut);
+    EXPECT_EQ(Clair(banc.ui.NumeroSerie->text()), "4294967295");
+    EXPECT_TRUE(banc.ui.DeuxSeuils->isChecked());
+    EXPECT_TRUE(banc.ui.BufferTournant->isChecked());
+    EXPECT_EQ(banc.ui.Commentaire->text(), QString(14, QChar(0xFF)));
+    EXPECT_EQ(Clair(banc.ui.ValeurCorrection_0->text()), "-1");
+    EXPECT_FALSE(banc.EstAncien(QStringLiteral("PageLecture")));
+}
+
 TEST(EtalonnageEnCours, SaysSoAndLeavesTheLinkOpen) {
     for (const int point : {1, 2}) {
         SCOPED_TRACE(point);

@@ -129,6 +129,20 @@ TEST_F(ResumeFrancais, UnknownKeysGiveBlanksFirstAndTextsNext) {
     EXPECT_EQ(Clair(ui.ResumeSeuil->text()), "  Acquisition immédiate");
 }
 
+TEST_F(ResumeFrancais, AUnitChangeWritesItOnce) {
+    RetirerTextes(banc.etabli);
+    ui.ListeUnites->Choisir(0);
+    // A second run would have found the text that the first one has added.
+    EXPECT_EQ(Clair(ui.ResumeSeuil->text()), " ");
+}
+
+TEST_F(ResumeFrancais, APeriodChangeWritesItTwice) {
+    RetirerTextes(banc.etabli);
+    // The period after the trigger is chosen anew, which is a click of its own.
+    ui.ListePeriodeEchantillonage->Choisir(4);
+    EXPECT_EQ(Clair(ui.ResumeSeuil->text()), "  Acquisition immédiate");
+}
+
 TEST_F(ResumeFrancais, LabelsAreWrittenInTheirOrder) {
     RetirerTextes(banc.etabli);
     Donne_Resume(ecran);
