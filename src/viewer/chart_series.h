@@ -6,7 +6,6 @@
 #include <memory>
 #include <optional>
 #include <span>
-#include <string>
 #include <vector>
 
 #include "platform/colour.h"
@@ -24,11 +23,11 @@ class MagasinEtiquettes {
     /// Keeps a text that holds no line feed and returns its place. Beyond what a place can tell,
     /// the empty text stands for it.
     Place Ajouter(QByteArrayView texte) {
-        if (octets_.size() + static_cast<std::size_t>(texte.size()) >= UINT32_MAX) return vide;
-        const auto place = static_cast<Place>(octets_.size());
-        octets_.append(texte.data(), static_cast<std::size_t>(texte.size()));
+        const auto place = octets_.size();
+        if (place + static_cast<std::size_t>(texte.size()) >= UINT32_MAX) return vide;
+        octets_.insert(octets_.end(), texte.begin(), texte.end());
         octets_.push_back(fin);
-        return place;
+        return static_cast<Place>(place);
     }
     /// The bytes of the text at a place; valid until the next `Ajouter`.
     QByteArrayView Lire(Place place) const;
@@ -39,7 +38,7 @@ class MagasinEtiquettes {
 
   private:
     static constexpr char fin = '\n';
-    std::string octets_;
+    std::vector<char> octets_;
 };
 
 /// One curve: its looks and its points. A function series has no points of its own: it derives them

@@ -1,7 +1,5 @@
 #include "viewer/line_stream.h"
 
-#include <cstring>
-
 #include "platform/fault.h"
 
 namespace bornika {
@@ -38,44 +36,20 @@ bool FluxLignes::Charger() {
     return lus > 0;
 }
 
-bool FluxLignes::EstFin() {
-    return debut_ == fin_ && !Charger();
-}
-
 bool FluxLignes::EstFinDeLigne() {
     return EstFin() || *debut_ == '\r' || *debut_ == '\n';
 }
 
-QByteArrayView FluxLignes::Lire() {
-    if (EstFin()) return {};
-    ++numero_;
-    std::size_t vus = 0;
-    const char* finLigne = nullptr;
+QByteArrayView FluxLignes::LireACheval() {
     while (true) {
-        const auto reste = static_cast<std::size_t>(fin_ - debut_);
-        finLigne = static_cast<const char*>(std::memchr(debut_ + vus, '\n', reste - vus));
-        if (finLigne) break;
-        vus = reste;
-        if (!Charger()) {
-            const QByteArrayView derniere(debut_, fin_);
-            debut_ = fin_;
-            return derniere;
-        }
+        const std::ptrdiff_t vus = fin_ - debut_;
+        if (!Charger()) break;
+        if (const char* finLigne = Chercher('\n', debut_ + vus)) return Couper(finLigne);
     }
-    const char* debutLigne = debut_;
-    debut_ = finLigne + 1;
-    if (finLigne > debutLigne && finLigne[-1] == '\r') --finLigne;
-    return {debutLigne, finLigne};
-}
-
-bool FluxLignes::PeutContenirT(QByteArrayView ligne) {
-    if (!prochainT_ || prochainT_ < ligne.data()) {
-        const char* debut = ligne.data();
-        prochainT_ = static_cast<const char*>(
-            std::memchr(debut, 'T', static_cast<std::size_t>(fin_ - debut)));
-        if (!prochainT_) prochainT_ = fin_;
-    }
-    return prochainT_ < ligne.data() + ligne.size();
+    const QByteArrayView derniere(debut_, fin_);
+    if (!derniere.isEmpty()) ++numero_;
+    debut_ = fin_;
+    return derniere;
 }
 
 }  // namespace bornika

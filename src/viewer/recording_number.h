@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QByteArrayView>
-#include <cstdint>
 
 #include "platform/regional.h"
 
@@ -16,25 +15,28 @@ struct NombreLu {
     double arrondie = 0;
 };
 
-/// Reads the numbers of a recording in the user's locale. Plain ones, that is nearly all, are read
-/// from the bytes as they stand; the others go through the conversions of the platform and give the
-/// same numbers, only slower.
+/// Reads the numbers of a recording in the user's locale, in place. Plain ones, that is nearly all,
+/// are read from the bytes as they stand; the others go through the conversions of the platform and
+/// give the same numbers, only slower.
+///
+/// Each operation takes the start of a field, which ends at ";" or at `fin`, and moves it to that
+/// end.
 class LecteurNombres {
   public:
     explicit LecteurNombres(const Regional& regional);
 
-    /// A time stamp: the separator of the locale, and no other. No number: `numerique` is false.
-    NombreLu LireTemps(QByteArrayView champ) const;
+    /// A time stamp: the separator of the locale, and no other.
+    NombreLu LireTemps(const char*& place, const char* fin) const;
     /// A value: "." and "," both count as the separator of the locale, "--" as "-". In a locale
     /// with a third separator nothing is a number.
-    NombreLu LireValeur(QByteArrayView champ) const;
+    NombreLu LireValeur(const char*& place, const char* fin) const;
 
   private:
     NombreLu LireLentement(const QString& texte) const;
 
     Regional regional_;
-    char separateur_ = 0;
-    char autre_ = 0;
+    char separateur_;
+    char autre_;
 };
 
 }  // namespace bornika

@@ -1,6 +1,5 @@
 #include "viewer/recording_reader.h"
 
-#include <array>
 #include <cstring>
 
 #include "platform/code_page.h"
@@ -9,28 +8,19 @@ namespace bornika {
 
 namespace {
 
-constexpr std::size_t champsNecessaires = 6;
+constexpr char finChamp = ';';
 
-struct Decoupe {
-    std::array<QByteArrayView, champsNecessaires> champs;
-    /// Fields found, counted up to seven: what lies behind is not looked at.
-    std::size_t nombre = 0;
-};
+/// Goes over the rest of a field that is not looked at; most are shorter than a call.
+void PasserChamp(const char*& place, const char* fin) {
+    while (place != fin && *place != finChamp)
+        ++place;
+}
 
-Decoupe Decouper(QByteArrayView ligne) {
-    Decoupe decoupe;
-    const char* debut = ligne.data();
-    const char* fin = debut + ligne.size();
-    while (decoupe.nombre < champsNecessaires) {
-        const char* separateur = static_cast<const char*>(
-            debut == fin ? nullptr
-                         : std::memchr(debut, ';', static_cast<std::size_t>(fin - debut)));
-        decoupe.champs[decoupe.nombre++] = {debut, separateur ? separateur : fin};
-        if (!separateur) return decoupe;
-        debut = separateur + 1;
-    }
-    ++decoupe.nombre;
-    return decoupe;
+/// Goes from the end of a field to the start of the next; false at the end of the line.
+bool Suivre(const char*& place, const char* fin) {
+    if (place == fin) return false;
+    ++place;
+    return true;
 }
 
 }  // namespace
@@ -53,15 +43,10 @@ void LecteurEnregistrement::PasserLignes() {
     aPasser_ = 0;
 }
 
-bool LecteurEnregistrement::EstFin() {
-    PasserLignes();
-    return flux_.EstFin();
-}
-
 /// Passes over lines that hold the word anywhere, as the header of a recording joined behind
 /// another one does. False when the file ended there.
 bool LecteurEnregistrement::PasserEntetes(QByteArrayView& ligne, const char* mot) {
-    while (flux_.PeutContenirT(ligne) && ligne.indexOf(mot) >= 0) {
+    while (ligne.indexOf(mot) >= 0) {
         if (flux_.EstFin()) return false;
         ligne = flux_.Lire();
     }
@@ -73,18 +58,34 @@ bool LecteurEnregistrement::Suivante(LigneMesure& ligne) {
     QByteArrayView octets = flux_.Lire();
     // One word after the other: what follows a passed "Time" line is not looked at for "Temps"
     // again.
-    if (!PasserEntetes(octets, "Temps") || !PasserEntetes(octets, "Time"))
+    if (flux_.PeutContenirT(octets) &&
+        (!PasserEntetes(octets, "Temps") || !PasserEntetes(octets, "Time")))
         return Terminer(IssueLecture::Raison::FinDuFichier);
     if (pas_ > 1) aPasser_ = pas_;
-    const Decoupe decoupe = Decouper(octets);
-    if (decoupe.nombre < champsNecessaires) return Terminer(IssueLecture::Raison::ChampsManquants);
-    ligne.temps = nombres_.LireTemps(decoupe.champs[0]);
-    ligne.etiquette = decoupe.champs[1];
-    ligne.pression = nombres_.LireValeur(decoupe.champs[3]);
-    ligne.debit = decoupe.nombre > champsNecessaires;
-    ligne.comptage = ligne.debit ? nombres_.LireValeur(decoupe.champs[5]) : NombreLu{};
-    ligne.longueur = octets.size();
     issue_.ligne = flux_.Numero();
+    ligne.longueur = octets.size();
+    return Decouper(octets, ligne) || Terminer(IssueLecture::Raison::ChampsManquants);
+}
+
+bool LecteurEnregistrement::Decouper(QByteArrayView octets, LigneMesure& ligne) const {
+    const char* place = octets.data();
+    const char* const fin = place + octets.size();
+    ligne.temps = nombres_.LireTemps(place, fin);
+    if (!Suivre(place, fin)) return false;
+    const char* const debutEtiquette = place;
+    const void* finEtiquette = std::memchr(place, finChamp, static_cast<std::size_t>(fin - place));
+    if (!finEtiquette) return false;
+    place = static_cast<const char*>(finEtiquette);
+    ligne.etiquette = {debutEtiquette, place};
+    Suivre(place, fin);
+    PasserChamp(place, fin);
+    if (!Suivre(place, fin)) return false;
+    ligne.pression = nombres_.LireValeur(place, fin);
+    if (!Suivre(place, fin)) return false;
+    PasserChamp(place, fin);
+    if (!Suivre(place, fin)) return false;
+    ligne.comptage = nombres_.LireValeur(place, fin);
+    ligne.debit = place != fin;
     return true;
 }
 

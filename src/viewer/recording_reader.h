@@ -40,7 +40,10 @@ class LecteurEnregistrement {
     /// Fields of the first line. To be called once, before the first measure.
     QStringList LireEntete();
     /// Nothing is left to read.
-    bool EstFin();
+    bool EstFin() {
+        if (aPasser_ > 0) PasserLignes();
+        return flux_.EstFin();
+    }
     /// Reads the next measure line. False when there is none, or when it has fewer than six fields:
     /// `Issue` tells.
     bool Suivante(LigneMesure& ligne);
@@ -49,6 +52,7 @@ class LecteurEnregistrement {
   private:
     bool PasserEntetes(QByteArrayView& ligne, const char* mot);
     void PasserLignes();
+    bool Decouper(QByteArrayView octets, LigneMesure& ligne) const;
     bool Terminer(IssueLecture::Raison raison);
 
     FluxLignes flux_;

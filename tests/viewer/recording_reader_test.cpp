@@ -18,6 +18,18 @@ const Regional point{QStringLiteral("."), QStringLiteral("dd/MM/yyyy")};
 const Regional virgule{QStringLiteral(","), QStringLiteral("dd/MM/yyyy")};
 const Regional arabe{QString(QChar(0x066B)), QStringLiteral("dd/MM/yyyy")};
 
+NombreLu LireValeur(const Regional& regional, const QByteArray& champ) {
+    const char* place = champ.data();
+    const NombreLu nombre = LecteurNombres(regional).LireValeur(place, champ.data() + champ.size());
+    EXPECT_TRUE(place == champ.data() + champ.size()) << champ.toStdString();
+    return nombre;
+}
+
+NombreLu LireTemps(const Regional& regional, const QByteArray& champ) {
+    const char* place = champ.data();
+    return LecteurNombres(regional).LireTemps(place, champ.data() + champ.size());
+}
+
 struct Lecture {
     QStringList entete;
     std::vector<LigneMesure> lignes;
@@ -156,52 +168,65 @@ TEST(LecteurEnregistrement, LinesLongerThanAnyPieceAndAcrossPiecesAreReadWhole) 
 TEST(LecteurNombres, BothSeparatorsAreReadInBothLocales) {
     for (const Regional& regional : {point, virgule})
         for (const char* texte : {"1.25", "1,25"}) {
-            const NombreLu nombre = LecteurNombres(regional).LireValeur(texte);
+            const NombreLu nombre = LireValeur(regional, texte);
             EXPECT_TRUE(nombre.numerique);
             EXPECT_DOUBLE_EQ(nombre.valeur, 1.25);
         }
 }
 
 TEST(LecteurNombres, TimeStampTakesTheSeparatorOfTheLocaleOnly) {
-    EXPECT_DOUBLE_EQ(LecteurNombres(point).LireTemps("12.5").valeur, 12.5);
-    EXPECT_FALSE(LecteurNombres(point).LireTemps("12,5").numerique);
-    EXPECT_DOUBLE_EQ(LecteurNombres(virgule).LireTemps("12,5").valeur, 12.5);
-    EXPECT_FALSE(LecteurNombres(virgule).LireTemps("12.5").numerique);
-    EXPECT_DOUBLE_EQ(LecteurNombres(arabe).LireTemps("12").valeur, 12);
-    EXPECT_FALSE(LecteurNombres(arabe).LireTemps("1 2").numerique);
-    EXPECT_FALSE(LecteurNombres(point).LireTemps("").numerique);
-    EXPECT_FALSE(LecteurNombres(point).LireTemps("abc").numerique);
+    EXPECT_DOUBLE_EQ(LireTemps(point, "12.5").valeur, 12.5);
+    EXPECT_FALSE(LireTemps(point, "12,5").numerique);
+    EXPECT_DOUBLE_EQ(LireTemps(virgule, "12,5").valeur, 12.5);
+    EXPECT_FALSE(LireTemps(virgule, "12.5").numerique);
+    EXPECT_DOUBLE_EQ(LireTemps(arabe, "12").valeur, 12);
+    EXPECT_FALSE(LireTemps(arabe, "1 2").numerique);
+    EXPECT_FALSE(LireTemps(point, "").numerique);
+    EXPECT_FALSE(LireTemps(point, "abc").numerique);
 }
 
 TEST(LecteurNombres, ThirdSeparatorLosesEveryValue) {
-    EXPECT_FALSE(LecteurNombres(arabe).LireValeur("1.5").numerique);
-    EXPECT_FALSE(LecteurNombres(arabe).LireValeur("1").numerique);
+    EXPECT_FALSE(LireValeur(arabe, "1.5").numerique);
+    EXPECT_FALSE(LireValeur(arabe, "1").numerique);
 }
 
 TEST(LecteurNombres, DoubledMinusIsOne) {
-    EXPECT_DOUBLE_EQ(LecteurNombres(point).LireValeur("--1.5").valeur, -1.5);
-    EXPECT_DOUBLE_EQ(LecteurNombres(virgule).LireValeur("--1.5").valeur, -1.5);
-    EXPECT_DOUBLE_EQ(LecteurNombres(point).LireValeur("1E--2").valeur, 0.01);
-    EXPECT_FALSE(LecteurNombres(point).LireValeur("---1").numerique);
+    EXPECT_DOUBLE_EQ(LireValeur(point, "--1.5").valeur, -1.5);
+    EXPECT_DOUBLE_EQ(LireValeur(virgule, "--1.5").valeur, -1.5);
+    EXPECT_DOUBLE_EQ(LireValeur(point, "1E--2").valeur, 0.01);
+    EXPECT_FALSE(LireValeur(point, "---1").numerique);
+}
+
+TEST(LecteurNombres, FieldEndsAtTheSeparator) {
+    for (const QByteArray champs : {"12.5;7", "+12.5;7", " 12.5 ;7"}) {
+        const char* place = champs.data();
+        const NombreLu nombre =
+            LecteurNombres(point).LireValeur(place, champs.data() + champs.size());
+        EXPECT_DOUBLE_EQ(nombre.valeur, 12.5);
+        EXPECT_STREQ(place, ";7");
+    }
+}
+
+TEST(LecteurNombres, NumberThatNoDoubleHoldsIsNone) {
+    EXPECT_FALSE(LireValeur(point, "1E999").numerique);
+    EXPECT_FALSE(LireTemps(point, "1E999").numerique);
 }
 
 TEST(LecteurNombres, WhatIsNoNumber) {
-    for (const char* texte : {"", " ", "-", ".", "abc", "1 2", "1.2.3", "1,2.3", "5-", "1;", "$5"})
-        EXPECT_FALSE(LecteurNombres(point).LireValeur(texte).numerique) << texte;
+    for (const char* texte : {"", " ", "-", ".", "abc", "1 2", "1.2.3", "1,2.3", "5-", "$5"})
+        EXPECT_FALSE(LireValeur(point, texte).numerique) << texte;
 }
 
 TEST(LecteurNombres, PressureIsRoundedToFivePlacesHalfAway) {
-    const LecteurNombres nombres(point);
-    EXPECT_EQ(nombres.LireValeur("1.000005").arrondie, 1.00001);
-    EXPECT_EQ(nombres.LireValeur("-1.000005").arrondie, -1.00001);
-    EXPECT_EQ(nombres.LireValeur("1.0000049").arrondie, 1.0);
-    EXPECT_EQ(nombres.LireValeur("0.000004").arrondie, 0.0);
-    EXPECT_FALSE(std::signbit(nombres.LireValeur("-0.000004").arrondie));
-    EXPECT_EQ(nombres.LireValeur("3.12345678901234567").arrondie, 3.12346);
+    EXPECT_EQ(LireValeur(point, "1.000005").arrondie, 1.00001);
+    EXPECT_EQ(LireValeur(point, "-1.000005").arrondie, -1.00001);
+    EXPECT_EQ(LireValeur(point, "1.0000049").arrondie, 1.0);
+    EXPECT_EQ(LireValeur(point, "0.000004").arrondie, 0.0);
+    EXPECT_FALSE(std::signbit(LireValeur(point, "-0.000004").arrondie));
+    EXPECT_EQ(LireValeur(point, "3.12345678901234567").arrondie, 3.12346);
 }
 
 TEST(LecteurNombres, FastRoadGivesWhatTheConversionsOfThePlatformGive) {
-    const LecteurNombres nombres(point);
     std::mt19937_64 tirage(11);
     for (int essai = 0; essai < 20'000; ++essai) {
         const auto chiffres = static_cast<qint64>(tirage() >> (tirage() % 60 + 1));
@@ -211,7 +236,7 @@ TEST(LecteurNombres, FastRoadGivesWhatTheConversionsOfThePlatformGive) {
         if (tirage() % 3 == 0) texte.prepend('-');
         if (tirage() % 3 == 0) texte.append(' ');
         const QString ecrit = TraiteSeparateur(QString::fromLatin1(texte), point);
-        const NombreLu nombre = nombres.LireValeur(texte);
+        const NombreLu nombre = LireValeur(point, texte);
         ASSERT_EQ(nombre.numerique, EstNumerique(ecrit, point)) << texte.toStdString();
         const double valeur = EnDouble(ecrit, point);
         ASSERT_EQ(nombre.valeur, valeur) << texte.toStdString();
