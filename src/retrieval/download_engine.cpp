@@ -128,15 +128,19 @@ bool Telechargement::SurvivreAuSilence() {
         return true;
     }
     if (nbEchecs_ > echecsMuets) return false;
+    // The logger may be gone for good: what it gave is on the disk before anything waits.
+    if (nbEchecs_ == 0) FichierTexteEcrit::ViderTous();
     ++nbEchecs_;
     poste_.lien.OuvreUSB(ecran_.etat.UsbID);
     ecran_.etat.TimeOut = false;
     return true;
 }
 
+/// Lets the interface run when it is due, with the displays brought up to date just before.
 void Telechargement::Respirer() {
     Respiration& respiration = ecran_.systeme.respiration;
-    if (respiration.EstDue()) avancement_.Montrer();
+    if (!respiration.EstDue()) return;
+    avancement_.Montrer();
     respiration.Ceder();
 }
 

@@ -23,7 +23,9 @@ QString LigneEntete(const QString& unite);
 /// next one is built.
 class RedacteurLignes {
   public:
-    explicit RedacteurLignes(const Regional& regional) : regional_(regional) {}
+    explicit RedacteurLignes(const Regional& regional) : regional_(regional) {
+        ligne_.reserve(128);
+    }
 
     /// Line of a periodic measure at `secondes` and `millisecondes` (three digits in both fields).
     QByteArrayView Periodique(std::int32_t secondes, int millisecondes, double points,

@@ -92,6 +92,15 @@ TEST(Download, ASuccessStartsTheCountOfFailuresAgain) {
     EXPECT_EQ(banc.montres.size(), 1U);
 }
 
+TEST(Download, WhatWasReceivedIsOnTheDiskWhenTheLoggerIsFirstSilent) {
+    BancPlein banc;
+    banc.Panne(GenrePanne::silence, 12);
+    int lignes = 0;
+    banc.AuTour(12, [&] { lignes = banc.NombreLignes(); });
+    banc.Cliquer();
+    EXPECT_EQ(lignes, 11);
+}
+
 TEST(Download, EachFailureOpensTheLinkAgain) {
     BancPlein banc;
     banc.Panne(GenrePanne::silence, 4, 3);

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "logger/parameter_reading.h"
 #include "platform/pointer_shape.h"
 #include "retrieval_bench.h"
 
@@ -127,4 +128,22 @@ TEST(DownloadDisturbed, AUnitChosenMeanwhileCountsFromTheNextLineOn) {
     EXPECT_EQ(Clair(lignes[10].split(';').at(3)), "140.625");
     // The header keeps the unit of the start.
     EXPECT_EQ(Clair(lignes[0] + '\n'), Clair(entete));
+}
+
+TEST(DownloadDisturbed, ReadingTheParametersMeanwhileTakesTheLinkAwayAndNothingIsLost) {
+    BancLong banc;
+    banc.AuTour(10, [&] { Lire_Parametres(banc.poste); });
+    banc.Cliquer();
+    EXPECT_EQ(banc.NombreLignes(), 99);
+    EXPECT_EQ(banc.etabli.dialogues.boites.size(), 1U);
+    EXPECT_EQ(banc.montres.size(), 1U);
+}
+
+TEST(DownloadDisturbed, ALoggerInCalibrationSaysSoAndIsDownloaded) {
+    BancLong banc;
+    banc.enregistreur.memoire.EcrireOctet(simulateur::adresse::modeEtalonnage, 1);
+    banc.Cliquer();
+    EXPECT_EQ(banc.etabli.dialogues.boites.size(), 2U);
+    EXPECT_EQ(banc.NombreLignes(), 99);
+    EXPECT_EQ(banc.PoigneesOuvertes(), 0);
 }
