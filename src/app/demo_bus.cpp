@@ -13,7 +13,9 @@ std::unique_ptr<BusSimule> BusDeDemonstration(Horloge& horloge, Allure allure) {
         static_cast<std::uint32_t>(DateVersEpoch(VersDateOrdinateur(horloge.Maintenant())));
     auto bus = std::make_unique<BusSimule>();
     for (auto& enregistreur : simulateur::FamilleDemo(maintenant))
-        bus->Brancher(std::move(enregistreur));
+        bus->Brancher(std::move(enregistreur)).BrancherHorloge([&horloge] {
+            return horloge.Maintenant().toSecsSinceEpoch();
+        });
     bus->TaireJournaux();
     if (allure == Allure::CelleDuCable) bus->ReglerCadence(simulateur::cadenceDemo);
     return bus;

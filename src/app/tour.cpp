@@ -13,6 +13,7 @@
 #include "app/program.h"
 #include "link/device_discovery.h"
 #include "ui_main_screen.h"
+#include "ui_trace_form.h"
 #include "viewer/trace_form.h"
 
 namespace bornika {
@@ -36,9 +37,8 @@ void EnvoyerClic(QWidget& cible, const QPoint& ou) {
 class Technicien : public QObject {
   public:
     Technicien(Programme& programme, const Recit& recit) : programme_(programme), recit_(recit) {
-        connect(&regard_, &QTimer::timeout, this, [this] { Regarder(); });
-        regard_.start(pasMs);
         duree_.start();
+        Prevoir();
     }
 
     bool AFini() const { return etape_ == Etape::Fini; }
@@ -46,13 +46,19 @@ class Technicien : public QObject {
   private:
     enum class Etape { Choisir, Ouvrir, Lire, Telecharger, AttendreCourbe, Zoomer, Fini };
 
+    // The next look is planned before anything is done: a click may return only when a download or
+    // a box has ended, and the hand has to go on meanwhile.
+    void Prevoir() {
+        if (etape_ != Etape::Fini) QTimer::singleShot(pasMs, this, [this] { Regarder(); });
+    }
+
     void Regarder() {
         if (duree_.elapsed() > dureeMaximaleMs) {
             recit_(QStringLiteral("The road took too long; stopped."));
-            regard_.stop();
             QCoreApplication::exit(1);
             return;
         }
+        Prevoir();
         if (QWidget* modale = QApplication::activeModalWidget()) {
             Repondre(*modale);
             return;
@@ -137,7 +143,6 @@ class Technicien : public QObject {
         Photographier(*programme_.trace.Presente(), QStringLiteral("zoom"));
         recit_(QStringLiteral("Done."));
         etape_ = Etape::Fini;
-        regard_.stop();
         Cliquer(programme_.ecran.ui->Sortir, "Leaving the program.");
     }
 
@@ -168,7 +173,6 @@ class Technicien : public QObject {
 
     Programme& programme_;
     const Recit& recit_;
-    QTimer regard_;
     QElapsedTimer duree_;
     Etape etape_ = Etape::Choisir;
     bool photoTelechargement_ = false;

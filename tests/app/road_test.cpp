@@ -1,0 +1,139 @@
+// The whole road of a technician, with real clicks on the real forms: choose, read, download, look.
+
+#include <gtest/gtest.h>
+
+#include <QPlainTextEdit>
+
+#include "app/program_bench.h"
+#include "app/tour.h"
+#include "ui_trace_form.h"
+#include "viewer/trace_form.h"
+
+namespace bornika {
+namespace {
+
+using essai::BancProgramme;
+using essai::maintenantSimule;
+
+const QString base = QStringLiteral("2026-03-05-14-07-09");
+
+struct Road : testing::Test {
+    BancProgramme banc;
+    EnregistreurSimule& pod = banc.bus.Brancher(simulateur::KPodReseauEau(maintenantSimule));
+
+    void SetUp() override {
+        // Let the interface run as in the program, or tens of thousands of repaints would be made.
+        banc.etabli.respiration.ReglerPas(std::chrono::milliseconds(5));
+        ASSERT_TRUE(banc.Demarrer());
+    }
+
+    int Lignes(const QString& nom) { return static_cast<int>(banc.etabli.Lire(nom).count("\r\n")); }
+    QStringList Boites() {
+        QStringList textes;
+        for (const auto& boite : banc.etabli.dialogues.boites)
+            textes << boite.texte;
+        return textes;
+    }
+};
+
+TEST_F(Road, ChooseReadDownloadAndSeeTheCurve) {
+    BancProgramme::Cliquer(banc.ui().Lire);
+    EXPECT_EQ(banc.ui().Version->text(), QStringLiteral("(1) 2.100"));
+    EXPECT_EQ(banc.ui().TensionPile->text(), QStringLiteral("4.00 V."));
+
+    BancProgramme::Cliquer(banc.ui().LireValeurs);
+    EXPECT_GT(Lignes(base + QStringLiteral(".txt")), 20'000);
+    EXPECT_TRUE(banc.etabli.Lire(base + QStringLiteral(".err")).endsWith("End Parity Control"));
+    EXPECT_TRUE(banc.etabli.Fichiers().contains(base + QStringLiteral(".cmt")));
+    EXPECT_EQ(Boites(), QStringList({QStringLiteral("Valeurs stockées dans le fichier ") + base +
+                                     QStringLiteral(".txt")}));
+    EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);
+
+    Trace* trace = banc.programme->trace.Presente();
+    ASSERT_NE(trace, nullptr);
+    EXPECT_TRUE(trace->isVisible());
+    EXPECT_FALSE(trace->ui->TChart1->isHidden());
+    EXPECT_EQ(trace->modele.NombreSeries(), 4);
+    EXPECT_EQ(trace->modele.Serie(0).Nombre(), Lignes(base + QStringLiteral(".txt")) - 1);
+    EXPECT_EQ(banc.ui().LireValeurs->text(), QStringLiteral("Lire les valeurs"));
+}
+
+TEST_F(Road, ASecondClickCancelsAndLeavesACompleteFileWithItsCurve) {
+    int tours = 0;
+    banc.etabli.respiration.ReglerPas(std::chrono::milliseconds(0));
+    banc.etabli.respiration.ReglerEvenements([&] {
+        if (++tours == 500) BancProgramme::Cliquer(banc.ui().LireValeurs);
+    });
+    BancProgramme::Cliquer(banc.ui().LireValeurs);
+    const int lignes = Lignes(base + QStringLiteral(".txt"));
+    EXPECT_GT(lignes, 100);
+    EXPECT_LT(lignes, 600);
+    EXPECT_FALSE(banc.ecran().etat.EnLecture);
+    ASSERT_NE(banc.programme->trace.Presente(), nullptr);
+    EXPECT_EQ(banc.programme->trace.Presente()->modele.Serie(0).Nombre(), lignes - 1);
+    EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);
+}
+
+TEST_F(Road, ALoggerPulledOutKeepsWhatWasReceivedAndSaysSo) {
+    int tours = 0;
+    banc.etabli.respiration.ReglerPas(std::chrono::milliseconds(0));
+    banc.etabli.respiration.ReglerEvenements([&] {
+        if (++tours == 500) banc.bus.Debrancher(banc.ecran().etat.UsbID);
+    });
+    BancProgramme::Cliquer(banc.ui().LireValeurs);
+    EXPECT_GT(Lignes(base + QStringLiteral(".txt")), 100);
+    EXPECT_EQ(Boites(), QStringList({QStringLiteral("k-Pod absent")}));
+    EXPECT_EQ(banc.programme->trace.Presente(), nullptr);
+    EXPECT_FALSE(banc.ecran().etat.EnLecture);
+    EXPECT_TRUE(banc.sorties.empty());
+
+    // Plugged in again, the next download works.
+    banc.etabli.respiration.ReglerEvenements([] {});
+    banc.bus.Rebrancher(banc.ecran().etat.UsbID);
+    banc.etabli.horloge.instant = banc.etabli.horloge.instant.addSecs(60);
+    BancProgramme::Cliquer(banc.ui().LireValeurs);
+    EXPECT_GT(Lignes(QStringLiteral("2026-03-05-14-08-09.txt")), 20'000);
+}
+
+TEST_F(Road, ClosingTheMainFormInADownloadLeavesWithoutBoxesAndViewer) {
+    int tours = 0;
+    banc.etabli.respiration.ReglerPas(std::chrono::milliseconds(0));
+    banc.etabli.respiration.ReglerEvenements([&] {
+        if (++tours == 300) banc.ecran().close();
+    });
+    BancProgramme::Cliquer(banc.ui().LireValeurs);
+    EXPECT_TRUE(Boites().isEmpty());
+    EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);
+    EXPECT_GT(Lignes(base + QStringLiteral(".txt")), 100);
+    EXPECT_TRUE(banc.programme->trace.Presente() == nullptr ||
+                !banc.programme->trace.Presente()->isVisible());
+}
+
+TEST_F(Road, ADiskThatFillsUpIsToldOnceAndNothingReceivedIsLost) {
+    ASSERT_TRUE(QFile::link(QStringLiteral("/dev/full"),
+                            banc.etabli.Chemin(base + QStringLiteral(".txt"))));
+    BancProgramme::Cliquer(banc.ui().LireValeurs);
+    ASSERT_EQ(banc.etabli.dialogues.boites.size(), 1U);
+    EXPECT_EQ(banc.etabli.dialogues.boites.front().icone, Icone::Critique);
+    EXPECT_TRUE(banc.etabli.dialogues.boites.front().texte.contains(base));
+    EXPECT_TRUE(banc.sorties.empty());
+    EXPECT_FALSE(banc.ecran().etat.EnLecture);
+    EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);
+}
+
+TEST_F(Road, TheViewerOpensEmptyFromItsOwnButtonAndAgainAfterItWasClosed) {
+    BancProgramme::Cliquer(banc.ui().VoirLesValeurs);
+    Trace* trace = banc.programme->trace.Presente();
+    ASSERT_NE(trace, nullptr);
+    EXPECT_TRUE(trace->isVisible());
+    EXPECT_TRUE(trace->ui->TChart1->isHidden());
+    BancProgramme::Cliquer(trace->ui->Sortir);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(banc.programme->trace.Presente(), nullptr);
+    BancProgramme::Cliquer(banc.ui().VoirLesValeurs);
+    ASSERT_NE(banc.programme->trace.Presente(), nullptr);
+    EXPECT_TRUE(banc.programme->trace.Presente()->NomFichierCourant.isEmpty());
+}
+
+}  // namespace
+}  // namespace bornika
