@@ -1,0 +1,57 @@
+#include "viewer/file_commands.h"
+
+#include <gtest/gtest.h>
+
+#include "viewer/viewer_bench.h"
+
+namespace bornika {
+namespace {
+
+using essai::Visionneuse;
+
+TEST(CommandOpen, AsksForOneOrSeveralTextFilesOfTheProgramsFolder) {
+    Visionneuse v;
+    v.Ui().CommandOpen->click();
+    ASSERT_EQ(v.etabli.dialogues.demandes.size(), 1U);
+    const DemandeFichier& demande = v.etabli.dialogues.demandes[0];
+    EXPECT_EQ(demande.nom, QString());
+    EXPECT_EQ(demande.suffixe, "*.txt");
+    EXPECT_EQ(demande.filtre, "txt (*.txt)|*.txt");
+    EXPECT_EQ(demande.dossier, v.etabli.systeme.dossier);
+    EXPECT_TRUE(demande.plusieurs);
+}
+
+TEST(CommandOpen, LoadsThePickedFileAndNamesTheFormAfterIt) {
+    Visionneuse v;
+    v.EcrireEnregistrement("a.txt");
+    v.Fiche().show();
+    v.Ouvrir("a.txt");
+    EXPECT_EQ(v.Fiche().windowTitle(), v.etabli.Chemin("a.txt"));
+    EXPECT_EQ(v.Fiche().NomFichierCourant, v.etabli.Chemin("a.txt"));
+    EXPECT_EQ(v.Fiche().NomDialogue, v.etabli.Chemin("a.txt"));
+    EXPECT_EQ(v.Modele().Serie(0).Nombre(), 300);
+}
+
+TEST(CommandOpen, CancelledKeepsWhatIsOnTheScreenAndEmptiesTheDialogsName) {
+    Visionneuse v;
+    v.EcrireEnregistrement("a.txt");
+    v.Fiche().show();
+    v.Ouvrir("a.txt");
+    const std::uint64_t revision = v.Modele().RevisionSeries();
+    v.etabli.dialogues.fichiers = {std::nullopt};
+    v.Ui().CommandOpen->click();
+    EXPECT_EQ(v.Fiche().NomFichierCourant, v.etabli.Chemin("a.txt"));
+    EXPECT_EQ(v.Fiche().NomDialogue, QString());
+    EXPECT_EQ(v.Modele().RevisionSeries(), revision);
+}
+
+TEST(CommandOpen, FindsUpperCaseNames) {
+    Visionneuse v;
+    v.EcrireEnregistrement("REC.TXT");
+    v.Fiche().show();
+    v.Ouvrir("REC.TXT");
+    EXPECT_EQ(v.Modele().Serie(0).Nombre(), 300);
+}
+
+}  // namespace
+}  // namespace bornika
