@@ -5,6 +5,7 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <string_view>
 
 #include "platform/fault.h"
 
@@ -73,13 +74,18 @@ qsizetype PrendreNombre(QStringView texte, QStringView separateur, Ascii& nombre
     return chiffres > 0 ? PrendreExposant(texte, i, nombre) : 0;
 }
 
-// The value of such a number; infinite when no double holds it.
+// The value of such a number; 0 when it is too small and infinite when it is too large for a
+// double.
 double Convertir(const Ascii& nombre) {
     double valeur = 0;
-    const char* fin = nombre.constData() + nombre.size();
-    if (std::from_chars(nombre.constData(), fin, valeur).ec == std::errc()) return valeur;
-    // Out of range: too large gives an infinity, too small 0.
-    return QByteArrayView(nombre.constData(), nombre.size()).toDouble();
+    const char* debut = nombre.constData();
+    const char* fin = debut + nombre.size();
+    if (std::from_chars(debut, fin, valeur).ec == std::errc()) return valeur;
+    const std::string_view texte(debut, static_cast<std::size_t>(nombre.size()));
+    const auto exposant = texte.find('e');
+    if (exposant == std::string_view::npos)
+        return texte.find_first_of("123456789") > texte.find('.') ? 0 : HUGE_VAL;
+    return texte[exposant + 1] == '-' ? 0 : HUGE_VAL;
 }
 
 QStringView SansBlancs(QStringView texte) {

@@ -130,6 +130,7 @@ TEST(EstNumerique, RefusesWhatNoVariableCanHold) {
     EXPECT_FALSE(EstNumerique(u"1E400", point));
     EXPECT_FALSE(EstNumerique(QString(400, u'9'), point));
     EXPECT_TRUE(EstNumerique(u"1E-400", point));
+    EXPECT_TRUE(EstNumerique(QStringLiteral("0.") + QString(400, u'0') + QLatin1Char('1'), point));
 }
 
 TEST(EnDouble, ReadsWithTheSeparatorOfTheLocale) {

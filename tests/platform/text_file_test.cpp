@@ -181,7 +181,7 @@ TEST_F(FichierTexte, FaultsWithTheStandardTextWhenItCannotBeCreated) {
 TEST_F(FichierTexte, ReadsLinesOfBothEnds) {
     Poser(Chemin("a.txt"), "un\r\ndeux\n\r\ntr\rois\r\r\nfin");
     FichierTexteLu fichier(Chemin("a.txt"));
-    EXPECT_EQ(fichier.Taille(), 24);
+    EXPECT_EQ(fichier.Taille(), 23);
     EXPECT_EQ(fichier.LireLigne(), "un");
     EXPECT_EQ(fichier.LireLigne(), "deux");
     EXPECT_EQ(fichier.LireLigne(), "");
@@ -243,8 +243,8 @@ TEST(PageDeCode, GivesEveryByteBack) {
 }
 
 TEST(PageDeCode, KnowsTheSignsBetweenControlsAndLetters) {
-    EXPECT_EQ(Depuis8Bits("\x80\x99\x9C\xB0\xE9\xFF"), QStringLiteral("€’œ°éÿ"));
-    EXPECT_EQ(Vers8Bits(u"€’œ°éÿŸ"), "\x80\x99\x9C\xB0\xE9\xFF\x9F");
+    EXPECT_EQ(Depuis8Bits("\x80\x99\x9C\xB0\xE9\xFF"), QStringLiteral("€™œ°éÿ"));
+    EXPECT_EQ(Vers8Bits(u"€™œ°éÿŸ"), "\x80\x99\x9C\xB0\xE9\xFF\x9F");
 }
 
 TEST(PageDeCode, LeavesTheFiveUndefinedBytesAsControls) {

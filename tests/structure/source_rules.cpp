@@ -1,0 +1,171 @@
+#include "structure/source_rules.h"
+
+#include <algorithm>
+#include <functional>
+#include <map>
+#include <set>
+
+namespace bornika::essai {
+
+namespace {
+
+using Ensemble = std::set<std::string>;
+
+// Room, or leaf of one, → what it may include besides itself. A leaf leans on almost nothing, so
+// that others may use it from above.
+const std::map<std::string, Ensemble> appuis = {
+    {"platform", {}},
+    {"simulator", {"platform"}},
+    {"link/products", {"platform"}},
+    {"shell", {"platform", "link/products"}},
+    {"link", {"platform", "shell", "link/products"}},
+    {"retrieval/memory_access", {"platform", "shell", "link", "link/products"}},
+    {"service/pulse_parameters",
+     {"platform", "shell", "link", "link/products", "retrieval/memory_access"}},
+    {"logger",
+     {"platform", "shell", "link", "link/products", "retrieval/memory_access",
+      "service/pulse_parameters"}},
+    {"calibration",
+     {"platform", "shell", "link", "link/products", "logger", "retrieval/memory_access"}},
+    {"viewer", {"platform", "shell"}},
+    {"retrieval",
+     {"platform", "shell", "link", "link/products", "logger", "viewer", "retrieval/memory_access",
+      "service/pulse_parameters"}},
+    {"service",
+     {"platform", "shell", "link", "link/products", "logger", "retrieval/memory_access",
+      "service/pulse_parameters"}},
+    {"app",
+     {"platform", "shell", "link", "link/products", "logger", "calibration", "viewer", "retrieval",
+      "retrieval/memory_access", "service", "service/pulse_parameters", "simulator"}}};
+
+// The leaf that a file belongs to, else its room.
+std::string Place(const std::string& chemin) {
+    const std::string sujet = SujetDe(chemin);
+    return appuis.contains(sujet) ? sujet : PieceDe(chemin);
+}
+
+// Words that may stand in some files only.
+struct Reserve {
+    std::vector<std::string> inclus;
+    std::vector<std::string> mots;
+    std::vector<std::string> places;
+    std::vector<std::string> exceptions;
+};
+
+const std::vector<Reserve> reserves = {
+    {{"qcustomplot.h"},
+     {"QCustomPlot", "QCP"},
+     {"src/viewer/chart_"},
+     {"src/viewer/chart_model", "src/viewer/chart_series", "src/viewer/chart_template"}},
+    {{"pugixml.hpp"}, {"pugi"}, {"src/shell/config_store", "src/viewer/chart_template"}, {}},
+    {{"libusb.h", "libusb-1.0/libusb.h"}, {"libusb_"}, {"src/platform/usb_"}, {}},
+    // The tour shows none: it presses their buttons, as an operator would.
+    {{"QMessageBox", "QFileDialog", "QColorDialog"},
+     {"QMessageBox", "QFileDialog", "QColorDialog"},
+     {"src/platform/dialogs.cpp", "src/app/tour.cpp"},
+     {}},
+    {{"unistd.h", "fcntl.h", "sys/", "spawn.h", "dlfcn.h"}, {}, {"src/platform/"}, {}}};
+
+bool CommenceParUn(const std::string& chemin, const std::vector<std::string>& debuts) {
+    return std::any_of(debuts.begin(), debuts.end(),
+                       [&](const std::string& debut) { return chemin.starts_with(debut); });
+}
+
+bool Nomme(const Reserve& reserve, const std::string& texte) {
+    for (const std::string& nom : NomsInclus(texte))
+        if (CommenceParUn(nom, reserve.inclus)) return true;
+    const std::string nu = SansCommentaires(texte);
+    return std::any_of(reserve.mots.begin(), reserve.mots.end(),
+                       [&](const std::string& mot) { return Contient(nu, mot, true); });
+}
+
+// Walks the includes from one file; `chemin_` is the way from the start to where it stands.
+class Promenade {
+  public:
+    explicit Promenade(const Sources& sources) : sources_(sources) {}
+
+    void Visiter(const std::string& fichier) {
+        const auto deja = std::find(chemin_.begin(), chemin_.end(), fichier);
+        if (deja != chemin_.end()) {
+            std::string cercle;
+            for (auto i = deja; i != chemin_.end(); ++i)
+                cercle += *i + " -> ";
+            cercles_.push_back(cercle + fichier);
+            return;
+        }
+        if (!vus_.insert(fichier).second) return;
+        chemin_.push_back(fichier);
+        for (const std::string& suivant : Inclusions(sources_, fichier))
+            Visiter(suivant);
+        chemin_.pop_back();
+    }
+
+    const Manquements& Resultat() const { return cercles_; }
+
+  private:
+    const Sources& sources_;
+    std::vector<std::string> chemin_;
+    Ensemble vus_;
+    Manquements cercles_;
+};
+
+}  // namespace
+
+Manquements PiecesMelees(const Sources& sources) {
+    Manquements manquements;
+    for (const auto& [chemin, texte] : sources) {
+        const std::string ici = Place(chemin);
+        const auto permis = appuis.find(ici);
+        if (permis == appuis.end()) {
+            manquements.push_back(chemin + " lies in no known room");
+            continue;
+        }
+        for (const std::string& inclus : Inclusions(sources, chemin)) {
+            const std::string la = Place(inclus);
+            if (la != ici && !permis->second.contains(la))
+                manquements.push_back(chemin + " leans on " + inclus);
+        }
+    }
+    return manquements;
+}
+
+Manquements Cercles(const Sources& sources) {
+    Promenade promenade(sources);
+    for (const auto& [chemin, texte] : sources)
+        promenade.Visiter(chemin);
+    return promenade.Resultat();
+}
+
+Manquements BibliothequesHorsDeLeurPlace(const Sources& sources) {
+    Manquements manquements;
+    for (const auto& [chemin, texte] : sources) {
+        if (chemin.ends_with(".ui")) continue;
+        for (const Reserve& reserve : reserves) {
+            const bool permis =
+                CommenceParUn(chemin, reserve.places) && !CommenceParUn(chemin, reserve.exceptions);
+            if (!permis && Nomme(reserve, texte))
+                manquements.push_back(chemin + " names " + reserve.inclus.front());
+        }
+    }
+    return manquements;
+}
+
+Manquements EspacesOuverts(const Sources& sources) {
+    Manquements manquements;
+    for (const auto& [chemin, texte] : sources)
+        if (chemin.ends_with(".h") && Contient(SansCommentaires(texte), "using namespace"))
+            manquements.push_back(chemin + " opens a namespace");
+    return manquements;
+}
+
+Manquements FichiersTropLongs(const Sources& sources, int lignes) {
+    Manquements manquements;
+    for (const auto& [chemin, texte] : sources) {
+        const auto longueur = std::count(texte.begin(), texte.end(), '\n');
+        if (!chemin.ends_with(".ui") && longueur > lignes)
+            manquements.push_back(chemin + " has " + std::to_string(longueur) + " lines");
+    }
+    return manquements;
+}
+
+}  // namespace bornika::essai
