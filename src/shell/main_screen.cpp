@@ -1,20 +1,41 @@
 #include "shell/main_screen.h"
 
 #include <QCloseEvent>
+#include <QPixmap>
 
 #include "shell/captions.h"
+#include "shell/images.h"
 #include "shell/text_catalogue.h"
+#include "shell/window_width.h"
 #include "ui_main_screen.h"
 
 namespace bornika {
+
+namespace {
+
+// Controls that come and go while one looks at the form keep their place.
+void GarderLaPlace(QWidget& controle) {
+    QSizePolicy regle = controle.sizePolicy();
+    regle.setRetainSizeWhenHidden(true);
+    controle.setSizePolicy(regle);
+}
+
+}  // namespace
 
 MainScreen::MainScreen(Systeme& leSysteme, QWidget* parent)
     : QMainWindow(parent),
       ui(std::make_unique<Ui::MainScreen>()),
       systeme(leSysteme),
       configuration(leSysteme.dossier) {
+    InitialiserImages();
     ui->setupUi(this);
+    ui->Image1->setPixmap(QPixmap(QStringLiteral(":/images/main.png")));
+    ui->DTPicker1->setDisplayFormat(systeme.regional.dateCourte);
+    GarderLaPlace(*ui->ProgressBar2);
+    GarderLaPlace(*ui->LireValeurs);
+    GarderLaPlace(*ui->LireSD);
     RetenirCaptions(*this);
+    FixerLargeur(*this, false);
 }
 
 MainScreen::~MainScreen() = default;

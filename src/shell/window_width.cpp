@@ -1,7 +1,6 @@
 #include "shell/window_width.h"
 
 #include <QLayout>
-#include <algorithm>
 
 #include "shell/main_screen.h"
 #include "ui_main_screen.h"
@@ -19,9 +18,13 @@ constexpr int largeurMaintenance = 957;
 void FixerLargeur(MainScreen& ecran, bool maintenance) {
     auto& ui = *ecran.ui;
     ui.PanneauService->setVisible(maintenance);
-    ui.ZoneEnregistreur->setFixedWidth(
-        std::max(largeurEtroite, ui.ZoneEnregistreur->minimumSizeHint().width()));
-    ui.ZoneCentrale->setMinimumWidth(maintenance ? largeurMaintenance : largeurEtroite);
+    // From the inside to the outside, or the form would keep room for frames hidden just before.
+    for (QWidget* zone : {ui.ZoneCadres, ui.ZoneEnregistreur})
+        zone->layout()->activate();
+    // Larger fonts ask for more; the values shown never do.
+    ui.ZoneEnregistreur->setMinimumWidth(largeurEtroite);
+    ui.PanneauService->setMinimumWidth(largeurMaintenance - largeurEtroite);
+    ui.ZoneCentrale->layout()->activate();
     // The form always has the size that its layout asks for, so it follows its frames.
     ecran.layout()->setSizeConstraint(QLayout::SetFixedSize);
     ecran.layout()->activate();
