@@ -8,8 +8,10 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
+#include <algorithm>
 #include <array>
 #include <cstdlib>
+#include <limits>
 
 #include "app/form_events.h"
 #include "logger/pressure_scale.h"
@@ -123,25 +125,25 @@ double Secondes(const QElapsedTimer& duree) {
 
 void Telechargement540606(benchmark::State& etat) {
     Banc banc;
-    double telechargement = 0;
-    double reference = 0;
+    // The fastest of each: what else runs on the machine only ever adds.
+    double telechargement = std::numeric_limits<double>::max();
+    double reference = telechargement;
     QElapsedTimer duree;
     for (auto _ : etat) {
         duree.start();
         LectureValeurs(banc.poste, banc.suite);
         const double ecoule = Secondes(duree);
         etat.SetIterationTime(ecoule);
-        telechargement += ecoule;
+        telechargement = std::min(telechargement, ecoule);
         duree.start();
         Reference(banc);
-        reference += Secondes(duree);
+        reference = std::min(reference, Secondes(duree));
     }
     const QFile fait(banc.systeme.Chemin(banc.ecran.etat.Nom_Fichier + QStringLiteral(".txt")));
     const QFile attendu(banc.systeme.Chemin(QStringLiteral("reference.txt")));
     if (fait.size() != attendu.size() || fait.size() < nombreMesures) std::abort();
-    const auto n = static_cast<double>(etat.iterations());
-    etat.counters["download_s"] = telechargement / n;
-    etat.counters["reference_s"] = reference / n;
+    etat.counters["download_s"] = telechargement;
+    etat.counters["reference_s"] = reference;
     etat.counters["ratio"] = telechargement / reference;
     etat.counters["bar"] = 1.5;
 }
