@@ -40,6 +40,8 @@ void AjouterLigne(frmConnect& fiche, int index, const QString& numero, Identifia
     QString texte = fiche.poste.ecran.ui->Version->text();
     if (!numero.isEmpty()) texte += QLatin1String("-->") + numero;
     auto* ligne = new QListWidgetItem(texte, fiche.ui->Listekrow);
+    const QFontMetrics police = fiche.ui->Listekrow->fontMetrics();
+    ligne->setSizeHint({police.horizontalAdvance(texte) + police.height(), 2 * police.height()});
     const IdentifiantUsb id = fiche.poste.ecran.systeme.usb.Identifiant(index);
     ligne->setData(roleIdentifiant, id);
     if (id == ancienID) fiche.ui->Listekrow->setCurrentItem(ligne);

@@ -109,6 +109,10 @@ QString Configuration::Chemin() const {
     return CheminDe({});
 }
 
+std::uint64_t Configuration::NombreChargements() const {
+    return document_->NombreChargements();
+}
+
 QString Configuration::CheminDe(const QString& fichier) const {
     return QDir(dossier_).filePath(fichier.isEmpty() ? QStringLiteral("config.xml") : fichier);
 }

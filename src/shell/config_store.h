@@ -22,6 +22,8 @@ class Configuration {
 
     /// Path of the file.
     QString Chemin() const;
+    /// How often a file was loaded since this object was made.
+    std::uint64_t NombreChargements() const;
 
     /// Text of the element at "//Configuration/" + `cle`, nothing when there is none. An element
     /// that is there and empty gives the empty text. `fichier` is empty for "config.xml".

@@ -110,6 +110,7 @@ DocumentConfiguration::Codage DocumentConfiguration::Reconnaitre(QByteArrayView 
 pugi::xml_node DocumentConfiguration::Charger(const QString& chemin) {
     document_.reset();
     chemin_ = chemin;
+    ++chargements_;
     QFile fichier(chemin);
     if (!fichier.open(QIODevice::ReadOnly)) LeverFaute(numero_faute::objetAbsent);
     octets_ = fichier.readAll();
@@ -126,6 +127,7 @@ pugi::xml_node DocumentConfiguration::Charger(const QString& chemin) {
 }
 
 bool DocumentConfiguration::Analyser() {
+    if (octets_.isEmpty()) return false;
     char* const debut = octets_.data();
     const auto taille = static_cast<std::size_t>(octets_.size());
     if (codage_ == Codage::Utf16Petit || codage_ == Codage::Utf16Grand)

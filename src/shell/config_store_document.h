@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <cstdint>
 #include <pugixml.hpp>
 
 namespace bornika {
@@ -29,6 +30,7 @@ class DocumentConfiguration {
     /// Reads the file anew. Returns its root element; fault 91 when the file is missing or
     /// malformed.
     pugi::xml_node Charger(const QString& chemin);
+    std::uint64_t NombreChargements() const { return chargements_; }
     /// Replaces the file that was read last.
     void Enregistrer() const;
     /// First element that an XPath expression selects, none when there is none. Fault 5 for an
@@ -45,6 +47,7 @@ class DocumentConfiguration {
     // The document is parsed in place: its texts point into these bytes.
     QByteArray octets_;
     QString chemin_;
+    std::uint64_t chargements_ = 0;
     Codage codage_ = Codage::Utf8;
     bool marque_ = false;
 };

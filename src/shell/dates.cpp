@@ -1,6 +1,7 @@
 #include "shell/dates.h"
 
 #include <cmath>
+#include <utility>
 
 #include "platform/numbers.h"
 
@@ -10,10 +11,15 @@ namespace {
 
 constexpr double jourZero = 25569;  // 1 January 1970
 constexpr std::int64_t secondesParJour = 86400;
-/// Last second of the year 9999: no date control and no text goes beyond.
+/// First second of the year 100 and last one of the year 9999: no date goes beyond.
+constexpr double premierInstant = -59011459200.0;
 constexpr double dernierInstant = 253402300799.0;
 
 const QDate origine(1970, 1, 1);
+
+bool EstPossible(double secondes) {
+    return secondes >= premierInstant && secondes <= dernierInstant;
+}
 
 QTime Heure(std::int64_t secondeDuJour) {
     return QTime::fromMSecsSinceStartOfDay(static_cast<int>(secondeDuJour) * 1000);
@@ -50,7 +56,7 @@ struct Decoupe {
 Decoupe Decouper(double secondes) {
     // What no calendar holds is shown as the origin: always some text.
     const double entier = std::floor(secondes);
-    const bool possible = std::abs(entier) <= dernierInstant;
+    const bool possible = EstPossible(entier);
     const auto total = possible ? static_cast<std::int64_t>(entier) : 0;
     std::int64_t jours = total / secondesParJour;
     std::int64_t reste = total % secondesParJour;
@@ -64,57 +70,68 @@ Decoupe Decouper(double secondes) {
     return {jours, reste, champs};
 }
 
-void AjouterNombre(QString& texte, int nombre, int chiffres) {
-    if (chiffres < 2 && nombre < 10) {
-        texte += QChar(u'0' + nombre);
-        return;
-    }
-    if (nombre < 100) {
-        texte += QChar(u'0' + nombre / 10);
-        texte += QChar(u'0' + nombre % 10);
-        return;
-    }
-    texte += QString::number(nombre).rightJustified(chiffres, u'0');
-}
+/// Writes into a text made long enough beforehand: a download asks for half a million of them.
+class Plume {
+  public:
+    explicit Plume(qsizetype capacite) : texte_(capacite, Qt::Uninitialized), ici_(texte_.data()) {}
 
-void AjouterAnnee(QString& texte, int annee, int longueur) {
-    if (longueur >= 4) AjouterNombre(texte, annee / 100, 2);
-    AjouterNombre(texte, annee % 100, 2);
-}
+    void Signe(QChar c) { *ici_++ = c; }
+    void DeuxChiffres(int nombre) {
+        Signe(QChar(u'0' + nombre / 10));
+        Signe(QChar(u'0' + nombre % 10));
+    }
+    void Nombre(int nombre, qsizetype chiffres) {
+        if (chiffres < 2 && nombre < 10)
+            Signe(QChar(u'0' + nombre));
+        else
+            DeuxChiffres(nombre);
+    }
+    void Annee(int annee, qsizetype chiffres) {
+        if (chiffres >= 4) DeuxChiffres(annee / 100);
+        DeuxChiffres(annee % 100);
+    }
+    void Heure(int heures, int minutes, int secondes) {
+        DeuxChiffres(heures);
+        Signe(u':');
+        DeuxChiffres(minutes);
+        Signe(u':');
+        DeuxChiffres(secondes);
+    }
+    QString Texte() {
+        texte_.truncate(ici_ - texte_.constData());
+        return std::move(texte_);
+    }
+
+  private:
+    QString texte_;
+    QChar* ici_;
+};
 
 /// Writes the fields through a pattern made of d, dd, M, MM, yy, yyyy and literals, quoted or not.
-void AjouterDate(QString& texte, const QString& motif, const Champs& champs) {
+void EcrireDate(Plume& plume, QStringView motif, const Champs& champs) {
     bool cite = false;
     for (qsizetype i = 0; i < motif.size();) {
         const QChar c = motif[i];
         qsizetype fin = i + 1;
         while (fin < motif.size() && motif[fin] == c)
             ++fin;
-        const int longueur = static_cast<int>(fin - i);
+        const qsizetype longueur = fin - i;
         if (c == u'\'') {
             if (longueur % 2) cite = !cite;
-            for (int k = 1; k < longueur; k += 2)
-                texte += c;
+            for (qsizetype k = 1; k < longueur; k += 2)
+                plume.Signe(c);
         } else if (!cite && c == u'd') {
-            AjouterNombre(texte, champs.jour, longueur);
+            plume.Nombre(champs.jour, longueur);
         } else if (!cite && c == u'M') {
-            AjouterNombre(texte, champs.mois, longueur);
+            plume.Nombre(champs.mois, longueur);
         } else if (!cite && c == u'y') {
-            AjouterAnnee(texte, champs.annee, longueur);
+            plume.Annee(champs.annee, longueur);
         } else {
-            for (int k = 0; k < longueur; ++k)
-                texte += c;
+            for (qsizetype k = 0; k < longueur; ++k)
+                plume.Signe(c);
         }
         i = fin;
     }
-}
-
-void AjouterHeure(QString& texte, int heures, int minutes, int secondes) {
-    AjouterNombre(texte, heures, 2);
-    texte += u':';
-    AjouterNombre(texte, minutes, 2);
-    texte += u':';
-    AjouterNombre(texte, secondes, 2);
 }
 
 }  // namespace
@@ -126,7 +143,7 @@ DateOrdinateur VersDateOrdinateur(const QDateTime& instant) {
 
 QDateTime DepuisDateOrdinateur(DateOrdinateur date) {
     const double secondes = std::round((date - jourZero) * static_cast<double>(secondesParJour));
-    const bool possible = std::abs(secondes) <= dernierInstant;
+    const bool possible = EstPossible(secondes);
     return QDateTime(origine, QTime(0, 0), Qt::UTC)
         .addSecs(possible ? static_cast<qint64>(secondes) : 0);
 }
@@ -146,12 +163,12 @@ std::int32_t DateVersEpoch(DateOrdinateur jour, DateOrdinateur heure) {
 QString EpochVersTexte(double secondes, const Regional& regional) {
     const Decoupe decoupe = Decouper(secondes);
     const auto seconde = static_cast<int>(decoupe.secondeDuJour);
-    QString texte;
-    texte.reserve(regional.dateCourte.size() + 12);
-    AjouterDate(texte, regional.dateCourte, decoupe.champs);
-    texte += u' ';
-    AjouterHeure(texte, seconde / 3600, seconde / 60 % 60, seconde % 60);
-    return texte;
+    // No field of a pattern takes more than twice its letters.
+    Plume plume(2 * regional.dateCourte.size() + 9);
+    EcrireDate(plume, regional.dateCourte, decoupe.champs);
+    plume.Signe(u' ');
+    plume.Heure(seconde / 3600, seconde / 60 % 60, seconde % 60);
+    return plume.Texte();
 }
 
 QDateTime EpochVersInstant(double secondes) {
@@ -168,9 +185,9 @@ QString DureeVersTexte(std::int32_t secondes, const QString& jours) {
 
 QString HeureLocale(int heures, int minutes, int secondes) {
     if (!QTime::isValid(heures, minutes, secondes)) return {};
-    QString texte;
-    AjouterHeure(texte, heures, minutes, secondes);
-    return texte;
+    Plume plume(8);
+    plume.Heure(heures, minutes, secondes);
+    return plume.Texte();
 }
 
 QString FormatDateCourt(const Regional& regional) {

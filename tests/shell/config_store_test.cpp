@@ -44,6 +44,27 @@ TEST(LitConfig, ChangeByHandIsSeenByTheNextOperation) {
     EXPECT_EQ(r.configuration.LitMessage(francais, q("k-Pod Absent"), {}), q("parti"));
 }
 
+TEST(Configuration, EveryOperationLoadsTheFileOnce) {
+    Reglages r;
+    Configuration& c = r.configuration;
+    ListeDeroulante liste;
+    double mini = 0;
+    double maxi = 0;
+    c.LitConfig(q("Langue"));
+    c.EcritConfig(q("COM2"), q("Port"));
+    c.LitSplash();
+    c.EcritSplash(true);
+    c.LitMaintenance();
+    c.LitMessage(francais, q("k-Pod Absent"), {});
+    c.LitMessage(francais, q("Inconnu"), {});
+    c.RemplitListe(francais, q("ListeUnites"), liste);
+    c.RemplitListeLangues(liste, francais);
+    c.LitEchelle(francais, 0, mini, maxi);
+    c.LitDureeSaisie(0);
+    c.EcritDureeSaisie(0, 5);
+    EXPECT_EQ(c.NombreChargements(), 12u);
+}
+
 TEST(EcritConfig, MissingKeyLeavesBytesAndTimeOfTheFile) {
     Reglages r;
     const QDateTime ancien = r.Vieillir();

@@ -90,7 +90,8 @@ TEST(EpochVersTexte, FractionsAreDropped) {
 }
 
 TEST(EpochVersTexte, AlwaysGivesSomeText) {
-    for (const double s : {-1.0, 1e18, -1e18, std::numeric_limits<double>::infinity(),
+    EXPECT_EQ(Retour(-1.0), "31/12/1969 23:59:59");
+    for (const double s : {-5e10, -6e10, 1e18, -1e18, std::numeric_limits<double>::infinity(),
                            std::numeric_limits<double>::quiet_NaN()})
         EXPECT_FALSE(EpochVersTexte(s, Regional{}).isEmpty());
 }
