@@ -75,6 +75,18 @@ TEST(Download, TheLastMeasureIsNeverWritten) {
     EXPECT_EQ(banc.NombreLignes(), 2);
 }
 
+TEST(Download, LinesMayShareATimeAndAreNotSorted) {
+    BancLecture banc;
+    banc.Stocker({MesureImpulsion(t0 + 5, 2, 1), MesureImpulsion(t0 + 5, 2, 2),
+                  MesureImpulsion(t0, 1, 3), MesurePeriodique(t0 + 9, 1)});
+    banc.Cliquer();
+    const QList<QByteArray> lignes = banc.Mesures().split('\n');
+    ASSERT_EQ(lignes.size(), 5);
+    EXPECT_TRUE(lignes[1].startsWith("1700000005250;"));
+    EXPECT_TRUE(lignes[2].startsWith("1700000005250;"));
+    EXPECT_TRUE(lignes[3].startsWith("1700000000125;"));
+}
+
 TEST(Download, AFreshlyErasedCellIsAPulseAndTheRunGoesOn) {
     BancLecture banc;
     banc.Stocker({MesurePeriodique(t0, 1), simulateur::CelluleEffacee(),
