@@ -2,6 +2,8 @@
 
 #include <QCoreApplication>
 
+#include "platform/vector_registers.h"
+
 namespace bornika {
 
 Respiration::Respiration()
@@ -12,6 +14,7 @@ bool Respiration::Ceder() {
     // Noted before as well: a loop started by one of the events starts with its own full step.
     dernier_ = std::chrono::steady_clock::now();
     evenements_();
+    LibererRegistresVectoriels();
     dernier_ = std::chrono::steady_clock::now();
     return true;
 }
