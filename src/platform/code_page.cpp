@@ -37,14 +37,15 @@ QString Depuis8Bits(QByteArrayView octets) {
 }
 
 QByteArray Vers8Bits(QStringView texte) {
-    QByteArray octets;
-    octets.reserve(texte.size());
+    QByteArray octets(texte.size(), Qt::Uninitialized);
+    char* sortie = octets.data();
     for (qsizetype i = 0; i < texte.size(); ++i) {
-        octets.append(Octet(texte[i].unicode()));
+        *sortie++ = Octet(texte[i].unicode());
         // A character of two units is one character, thus one "?".
         if (texte[i].isHighSurrogate() && i + 1 < texte.size() && texte[i + 1].isLowSurrogate())
             ++i;
     }
+    octets.truncate(sortie - octets.constData());
     return octets;
 }
 

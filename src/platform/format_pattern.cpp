@@ -73,7 +73,8 @@ void Arrondir(Decimal& decimal, int decimales, bool pair) {
         decimal.chiffres.insert(0, static_cast<std::size_t>(-decimal.entiers), '0');
         decimal.entiers = 0;
     }
-    const auto gardes = static_cast<std::size_t>(decimal.entiers + decimales);
+    const auto gardes =
+        static_cast<std::size_t>(decimal.entiers) + static_cast<std::size_t>(decimales);
     if (gardes >= decimal.chiffres.size()) {
         decimal.chiffres.resize(gardes, '0');
         return;

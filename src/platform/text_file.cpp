@@ -20,7 +20,6 @@ namespace bornika {
 namespace {
 
 constexpr qsizetype tailleTampon = 1 << 16;
-constexpr std::chrono::seconds delaiVidage{1};
 
 // The files being written now. They live in the thread of the interface, as the program does.
 std::vector<FichierTexteEcrit*>& Ouverts() {
@@ -47,8 +46,9 @@ int NumeroOuverture(int erreur) {
 
 }  // namespace
 
-FichierTexteEcrit::FichierTexteEcrit(const QString& chemin, ModeEcriture mode)
-    : chemin_(chemin), dernierVidage_(std::chrono::steady_clock::now()) {
+FichierTexteEcrit::FichierTexteEcrit(const QString& chemin, ModeEcriture mode,
+                                     std::chrono::milliseconds delai)
+    : chemin_(chemin), delai_(delai), dernierVidage_(std::chrono::steady_clock::now()) {
     if (chemin.isEmpty() || chemin.contains(QChar(u'\0'))) LeverFaute(numero_faute::nomDeFichier);
     const int sens = mode == ModeEcriture::Ajouter ? O_APPEND : O_TRUNC;
     descripteur_ =
@@ -99,7 +99,7 @@ void FichierTexteEcrit::ViderTous() noexcept {
 void FichierTexteEcrit::Deposer(QByteArrayView octets) {
     tampon_.append(octets);
     if (tampon_.size() >= tailleTampon ||
-        std::chrono::steady_clock::now() - dernierVidage_ >= delaiVidage)
+        std::chrono::steady_clock::now() - dernierVidage_ >= delai_)
         Vider();
 }
 

@@ -16,7 +16,9 @@ class FichierTexteEcrit {
   public:
     /// Creates the file (or opens it to append). Fault 76 for a missing folder, 52 for a name that
     /// cannot be, 61 for a full disk, else 70.
-    FichierTexteEcrit(const QString& chemin, ModeEcriture mode);
+    /// A line written when the last ones reached the disk `delai` ago brings all of them there.
+    FichierTexteEcrit(const QString& chemin, ModeEcriture mode,
+                      std::chrono::milliseconds delai = std::chrono::seconds(1));
     ~FichierTexteEcrit();
     FichierTexteEcrit(const FichierTexteEcrit&) = delete;
     FichierTexteEcrit& operator=(const FichierTexteEcrit&) = delete;
@@ -43,6 +45,7 @@ class FichierTexteEcrit {
     QString chemin_;
     int descripteur_ = -1;
     QByteArray tampon_;
+    std::chrono::milliseconds delai_;
     std::chrono::steady_clock::time_point dernierVidage_;
 };
 

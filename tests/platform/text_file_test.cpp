@@ -99,6 +99,15 @@ TEST_F(FichierTexte, ForgetsClosedFilesWhenAllAreFlushed) {
     EXPECT_EQ(Lire(Chemin("a.txt")), "1\r\n");
 }
 
+TEST_F(FichierTexte, BringsItsLinesToTheDiskWhenTheDelayIsOver) {
+    FichierTexteEcrit lent(Chemin("lent.txt"), ModeEcriture::Remplacer, std::chrono::hours(1));
+    lent.EcrireLigne(u"1");
+    EXPECT_EQ(Lire(Chemin("lent.txt")), "");
+    FichierTexteEcrit vif(Chemin("vif.txt"), ModeEcriture::Remplacer, std::chrono::seconds(0));
+    vif.EcrireLigne(u"1");
+    EXPECT_EQ(Lire(Chemin("vif.txt")), "1\r\n");
+}
+
 TEST_F(FichierTexte, WritesManyLinesWhole) {
     QByteArray attendu;
     FichierTexteEcrit fichier(Chemin("a.txt"), ModeEcriture::Remplacer);

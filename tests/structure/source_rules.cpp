@@ -1,7 +1,6 @@
 #include "structure/source_rules.h"
 
 #include <algorithm>
-#include <functional>
 #include <map>
 #include <set>
 
@@ -71,11 +70,12 @@ bool CommenceParUn(const std::string& chemin, const std::vector<std::string>& de
                        [&](const std::string& debut) { return chemin.starts_with(debut); });
 }
 
-bool Nomme(const Reserve& reserve, const std::string& texte) {
-    for (const std::string& nom : NomsInclus(texte))
-        if (CommenceParUn(nom, reserve.inclus)) return true;
-    const std::string nu = SansCommentaires(texte);
-    return std::any_of(reserve.mots.begin(), reserve.mots.end(),
+// `inclus` are the names that a file includes, `nu` is its text without comments.
+bool Nomme(const Reserve& reserve, const std::vector<std::string>& inclus, const std::string& nu) {
+    return std::any_of(
+               inclus.begin(), inclus.end(),
+               [&](const std::string& nom) { return CommenceParUn(nom, reserve.inclus); }) ||
+           std::any_of(reserve.mots.begin(), reserve.mots.end(),
                        [&](const std::string& mot) { return Contient(nu, mot, true); });
 }
 
@@ -140,10 +140,12 @@ Manquements BibliothequesHorsDeLeurPlace(const Sources& sources) {
     Manquements manquements;
     for (const auto& [chemin, texte] : sources) {
         if (chemin.ends_with(".ui")) continue;
+        const std::vector<std::string> inclus = NomsInclus(texte);
+        const std::string nu = SansCommentaires(texte);
         for (const Reserve& reserve : reserves) {
             const bool permis =
                 CommenceParUn(chemin, reserve.places) && !CommenceParUn(chemin, reserve.exceptions);
-            if (!permis && Nomme(reserve, texte))
+            if (!permis && Nomme(reserve, inclus, nu))
                 manquements.push_back(chemin + " names " + reserve.inclus.front());
         }
     }
