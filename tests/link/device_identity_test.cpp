@@ -47,6 +47,10 @@ struct CasVersion {
     double numero;
 };
 
+void PrintTo(const CasVersion& cas, std::ostream* sortie) {
+    *sortie << cas.haut << '-' << cas.bas;
+}
+
 class NumerosDeVersion : public testing::TestWithParam<CasVersion> {};
 
 TEST_P(NumerosDeVersion, JoinTheDecimalTextsInThousandths) {

@@ -11,6 +11,10 @@ struct Rangee {
     const char* nomZ907;
 };
 
+void PrintTo(const Rangee& rangee, std::ostream* sortie) {
+    *sortie << "type " << rangee.type;
+}
+
 class TableProduits : public testing::TestWithParam<Rangee> {};
 
 TEST_P(TableProduits, NamesTheTypeInBothEditions) {

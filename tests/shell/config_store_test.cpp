@@ -108,6 +108,10 @@ struct CasBooleen {
     bool valeur;
 };
 
+void PrintTo(const CasBooleen& cas, std::ostream* sortie) {
+    *sortie << '"' << cas.texte << '"';
+}
+
 class BooleenDuFichier : public testing::TestWithParam<CasBooleen> {};
 
 TEST_P(BooleenDuFichier, OfTheTextInAnyCaseAndOfNumbers) {
@@ -185,11 +189,20 @@ TEST(DureeSaisie, DurationThatDoesNotFitTenfoldIsAFaultAndIsNotStored) {
 
 // --- Files that are no configuration.
 
-class FichierMauvais : public testing::TestWithParam<const char*> {};
+struct CasMauvais {
+    const char* nom;
+    const char* contenu;
+};
+
+void PrintTo(const CasMauvais& cas, std::ostream* sortie) {
+    *sortie << cas.nom;
+}
+
+class FichierMauvais : public testing::TestWithParam<CasMauvais> {};
 
 TEST_P(FichierMauvais, IsFault91OfEveryOperationAndIsNotTouched) {
     Reglages r;
-    r.Ecrire(Reglages::nom(), GetParam());
+    r.Ecrire(Reglages::nom(), GetParam().contenu);
     Configuration& c = r.configuration;
     ListeDeroulante liste;
     double mini = 0;
@@ -210,14 +223,18 @@ TEST_P(FichierMauvais, IsFault91OfEveryOperationAndIsNotTouched) {
     int numero = 0;
     for (const auto& operation : operations)
         EXPECT_EQ(FauteDe(operation), numero_faute::objetAbsent) << "operation " << numero++;
-    EXPECT_EQ(r.Fichier(), GetParam());
+    EXPECT_EQ(r.Fichier(), GetParam().contenu);
 }
 
-INSTANTIATE_TEST_SUITE_P(Contenus, FichierMauvais,
-                         testing::Values("", "not XML at all", "<Configuration>",
-                                         "<Configuration><Langue></Configuration>",
-                                         "<Configuration/>rest", "<Configuration/><Second/>",
-                                         "<!-- only a comment -->"));
+INSTANTIATE_TEST_SUITE_P(
+    Contenus, FichierMauvais,
+    testing::Values(CasMauvais{"empty", ""}, CasMauvais{"no markup", "not XML at all"},
+                    CasMauvais{"cut off", "<Configuration>"},
+                    CasMauvais{"badly nested", "<Configuration><Langue></Configuration>"},
+                    CasMauvais{"text behind", "<Configuration/>rest"},
+                    CasMauvais{"two roots", "<Configuration/><Second/>"},
+                    CasMauvais{"no root", "<!-- only a comment -->"},
+                    CasMauvais{"byte order mark only", "\xEF\xBB\xBF"}));
 
 TEST(FichierAbsent, IsFault91AndTheProgramGoesOnOnceItIsBack) {
     Reglages r;

@@ -44,6 +44,10 @@ struct CasDate {
     const char* montre;
 };
 
+void PrintTo(const CasDate& cas, std::ostream* sortie) {
+    *sortie << cas.date;
+}
+
 class AnneesBissextiles : public testing::TestWithParam<CasDate> {};
 
 TEST_P(AnneesBissextiles, AreStoredADayLateAfterFebruaryAndShownRight) {
@@ -112,6 +116,10 @@ struct CasMotif {
     const char* motif;
     const char* texte;
 };
+
+void PrintTo(const CasMotif& cas, std::ostream* sortie) {
+    *sortie << cas.motif;
+}
 
 class MotifsDeDate : public testing::TestWithParam<CasMotif> {};
 
