@@ -128,6 +128,7 @@ void Configuration::EcritConfig(const QString& valeur, const QString& cle, const
     document_->Charger(CheminDe(fichier));
     const pugi::xml_node element = document_->Choisir("//Configuration/" + cle.toUtf8());
     if (!element) return;
+    document_->NoterChangement();
     FixerTexte(element, valeur);
     document_->Enregistrer();
 }
@@ -156,6 +157,7 @@ QString Configuration::LitMessage(const QString& langue, const QString& cle,
             trouvee = entree;
             return false;
         }
+        document_->NoterChangement();
         AjouterEntree(noeud, cle, defaut.isEmpty() ? cle : defaut);
         return true;
     });
@@ -223,6 +225,7 @@ void Configuration::EcritDureeSaisie(int index, std::int32_t duree) {
     document_->Charger(Chemin());
     const pugi::xml_node ligne = document_->Choisir(CheminLigne(index));
     if (!ligne) return;
+    document_->NoterChangement();
     FixerTexte(EnfantA(ligne, 2), QString::number(EnEntier32(duree * 10.0)));
     document_->Enregistrer();
 }

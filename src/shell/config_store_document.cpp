@@ -108,12 +108,17 @@ DocumentConfiguration::Codage DocumentConfiguration::Reconnaitre(QByteArrayView 
 }
 
 pugi::xml_node DocumentConfiguration::Charger(const QString& chemin) {
-    document_.reset();
-    chemin_ = chemin;
     ++chargements_;
     QFile fichier(chemin);
-    if (!fichier.open(QIODevice::ReadOnly)) LeverFaute(numero_faute::objetAbsent);
-    octets_ = fichier.readAll();
+    QByteArray lus;
+    if (fichier.open(QIODevice::ReadOnly)) lus = fichier.readAll();
+    if (!changee_ && chemin == chemin_ && lus == lus_ && document_.document_element())
+        return document_.document_element();
+    document_.reset();
+    chemin_ = chemin;
+    lus_ = lus;
+    changee_ = false;
+    octets_ = std::move(lus);
     codage_ = Reconnaitre(octets_);
     marque_ = octets_.startsWith("\xEF\xBB\xBF") || codage_ == Codage::Utf16Petit ||
               codage_ == Codage::Utf16Grand;
@@ -138,7 +143,8 @@ bool DocumentConfiguration::Analyser() {
                                          pugi::encoding_utf8);
 }
 
-void DocumentConfiguration::Enregistrer() const {
+void DocumentConfiguration::Enregistrer() {
+    changee_ = true;
     pugi::xml_encoding codage = pugi::encoding_utf8;
     if (codage_ == Codage::Utf16Petit) codage = pugi::encoding_utf16_le;
     if (codage_ == Codage::Utf16Grand) codage = pugi::encoding_utf16_be;

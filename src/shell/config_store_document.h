@@ -28,11 +28,14 @@ class CleRecherche {
 class DocumentConfiguration {
   public:
     /// Reads the file anew. Returns its root element; fault 91 when the file is missing or
-    /// malformed.
+    /// malformed. The bytes are parsed again only where one of them differs from the last reading:
+    /// a start makes hundreds of loads, and nobody can tell the difference.
     pugi::xml_node Charger(const QString& chemin);
     std::uint64_t NombreChargements() const { return chargements_; }
+    /// The caller changes the document and may not save it: the next load parses anew.
+    void NoterChangement() { changee_ = true; }
     /// Replaces the file that was read last.
-    void Enregistrer() const;
+    void Enregistrer();
     /// First element that an XPath expression selects, none when there is none. Fault 5 for an
     /// expression that is none.
     pugi::xml_node Choisir(const QByteArray& chemin) const;
@@ -46,6 +49,9 @@ class DocumentConfiguration {
     pugi::xml_document document_;
     // The document is parsed in place: its texts point into these bytes.
     QByteArray octets_;
+    // The file's bytes as they were read.
+    QByteArray lus_;
+    bool changee_ = false;
     QString chemin_;
     std::uint64_t chargements_ = 0;
     Codage codage_ = Codage::Utf8;
