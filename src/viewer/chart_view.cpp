@@ -37,7 +37,6 @@ VueGraphe::VueGraphe(QWidget* parent)
     setPlottingHint(QCP::phFastPolylines);
     PoserElements();
     FixerApparence(apparence_);
-    connect(this, &QCustomPlot::afterLayout, this, &VueGraphe::RefaireEtiquettes);
     connect(this, &QCustomPlot::afterReplot, this, [this] { garder([&] { Q_EMIT Redessin(); }); });
 }
 
@@ -123,12 +122,12 @@ void VueGraphe::Accorder() {
     AccorderPlage();
 }
 
-/// The toolkit chooses labels before it knows the room for them: after a change of size it does so
-/// again.
-void VueGraphe::RefaireEtiquettes() {
-    if (axisRect()->size() == tailleEtiquettes_) return;
-    tailleEtiquettes_ = axisRect()->size();
-    plotLayout()->update(QCPLayoutElement::upPreparation);
+void VueGraphe::updateLayout() {
+    QCustomPlot::updateLayout();
+    // Labels are chosen before the room for them is known: after a change of size once more.
+    if (axisRect()->size() == taillePosee_) return;
+    QCustomPlot::updateLayout();
+    taillePosee_ = axisRect()->size();
 }
 
 void VueGraphe::AccorderTitre() {

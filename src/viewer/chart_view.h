@@ -68,6 +68,7 @@ class VueGraphe : public QCustomPlot {
     void mouseReleaseEvent(QMouseEvent* evenement) override;
     void mouseDoubleClickEvent(QMouseEvent* evenement) override;
     void wheelEvent(QWheelEvent* evenement) override;
+    void updateLayout() override;
 
   private:
     void Accorder();
@@ -76,7 +77,6 @@ class VueGraphe : public QCustomPlot {
     void AccorderLegende();
     void AccorderPlage();
     void PoserElements();
-    void RefaireEtiquettes();
     Etendues EtenduesEntieres() const;
 
     ModeleGraphe* modele_ = nullptr;
@@ -87,8 +87,8 @@ class VueGraphe : public QCustomPlot {
     QCPTextElement* titre_ = nullptr;
     /// The vertical scales are those of a zoom or a scrolling, not automatic.
     bool echellesFixes_ = false;
-    /// Size of the frame for which the labels of the axes were chosen.
-    QSize tailleEtiquettes_;
+    /// Size of the frame at the last layout.
+    QSize taillePosee_;
 };
 
 }  // namespace bornika
