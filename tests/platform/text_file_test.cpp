@@ -137,6 +137,12 @@ TEST_F(FichierTexte, TellsOfAFullDiskWhileItWrites) {
     EXPECT_EQ(faute.numero(), 61);
 }
 
+TEST_F(FichierTexte, ClosesWhatIsNoFileOfADisk) {
+    FichierTexteEcrit fichier(QStringLiteral("/dev/null"), ModeEcriture::Remplacer);
+    fichier.EcrireLigne(u"nulle part");
+    EXPECT_NO_THROW(fichier.Fermer());
+}
+
 TEST_F(FichierTexte, ClosesQuietlyWhenNobodyAsks) {
     EXPECT_NO_THROW({
         FichierTexteEcrit fichier(QStringLiteral("/dev/full"), ModeEcriture::Remplacer);
