@@ -155,7 +155,8 @@ void DocumentConfiguration::Enregistrer() {
     if (codage_ == Codage::Latin1) ecrivain.octets = QString::fromUtf8(ecrivain.octets).toLatin1();
     if (codage_ == Codage::Windows1252)
         ecrivain.octets = Vers8Bits(QString::fromUtf8(ecrivain.octets));
-    RemplacerFichier(chemin_, ecrivain.octets);
+    // A setting stored as it was leaves the file alone: a start stores several of these.
+    if (ecrivain.octets != lus_) RemplacerFichier(chemin_, ecrivain.octets);
 }
 
 pugi::xml_node DocumentConfiguration::Choisir(const QByteArray& chemin) const {

@@ -34,7 +34,7 @@ class DocumentConfiguration {
     std::uint64_t NombreChargements() const { return chargements_; }
     /// The caller changes the document and may not save it: the next load parses anew.
     void NoterChangement() { changee_ = true; }
-    /// Replaces the file that was read last.
+    /// Replaces the file that was read last, unless its bytes would be the same.
     void Enregistrer();
     /// First element that an XPath expression selects, none when there is none. Fault 5 for an
     /// expression that is none.
