@@ -7,12 +7,8 @@
 namespace bornika::essai {
 namespace {
 
-class Duree : public testing::Test {
+class Duree : public SurFormulaire {
   protected:
-    BancEnregistreur banc;
-    MainScreen& ecran = banc.ecran;
-    Ui::MainScreen& ui = banc.ui;
-
     void Choisir(int index) { ui.ListePeriodeEchantillonage->Choisir(index); }
     void Saisir(const char* texte) { ui.DureeSaisie->setText(QString::fromLatin1(texte)); }
     std::string Saisie() { return Clair(ui.DureeSaisie->text()); }
@@ -45,6 +41,13 @@ TEST_F(Duree, NothingChosenIsADurationOfZero) {
     EXPECT_EQ(Clair(ui.DerniereMesure->text()), "05/03/2026 14:07:09");
     EXPECT_TRUE(ui.DureeSaisie->isHidden());
     EXPECT_TRUE(banc.etabli.fautes.empty());
+}
+
+TEST_F(Duree, APeriodOfZeroIsADurationOfZero) {
+    ui.ListePeriodeEchantillonage->FixerDonnee(5, 0);
+    Choisir(5);
+    EXPECT_EQ(Clair(ui.DureeEnregistrement->text()), "0 Jour(s) 0 H 0 Mn ");
+    EXPECT_EQ(Clair(ui.DerniereMesure->text()), "05/03/2026 14:07:09");
 }
 
 TEST_F(Duree, ADurationBeyond32BitsIsAnOverflow) {

@@ -7,12 +7,7 @@
 namespace bornika::essai {
 namespace {
 
-class RegleFormulaire : public testing::Test {
-  protected:
-    BancEnregistreur banc;
-    MainScreen& ecran = banc.ecran;
-    Ui::MainScreen& ui = banc.ui;
-};
+using RegleFormulaire = SurFormulaire;
 
 TEST_F(RegleFormulaire, TheNumberOfMeasuresFitsAByte) {
     struct {

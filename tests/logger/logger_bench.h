@@ -1,5 +1,7 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <string>
 
 #include "link/station.h"
@@ -36,6 +38,15 @@ class BancEnregistreur {
     Ui::MainScreen& ui;
     MULTIUSB lien;
     Poste poste;
+};
+
+/// A test on that form, in French.
+class SurFormulaire : public testing::Test {
+  protected:
+    BancEnregistreur banc;
+    EnregistreurSimule& enregistreur = banc.enregistreur;
+    MainScreen& ecran = banc.ecran;
+    Ui::MainScreen& ui = banc.ui;
 };
 
 /// A logger with something to say at every step of the reading, for golden values.

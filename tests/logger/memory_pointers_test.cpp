@@ -172,6 +172,14 @@ TEST(LecturePointeurs, FirmwareDecidesOnTheMemoryFrame) {
     }
 }
 
+TEST(LecturePointeurs, OldFirmwareHidesNoMemoryFrame) {
+    Pointeurs banc(2, 109);
+    banc.ui.Frame2->setVisible(true);
+    ASSERT_FALSE(banc.ui.Check_advanced->isChecked());
+    banc.LirePointeurs();
+    EXPECT_FALSE(banc.ui.Frame2->isHidden());
+}
+
 TEST(LecturePointeurs, CapacityKeepsItsNewCaptionForOlderFirmware) {
     Pointeurs banc;
     banc.LirePointeurs();
@@ -191,10 +199,13 @@ TEST(LecturePointeurs, SilenceIsToldAndTheDisplaysKeepTheirValues) {
     for (const int code : {21, 22}) {
         SCOPED_TRACE(code);
         Pointeurs banc;
+        banc.Placer({300, 257}, {299, 8});
         banc.enregistreur.pannes.Ordonner({code, GenrePanne::silence});
         banc.LirePointeurs();
         AttendreInchange(banc);
         EXPECT_TRUE(banc.ecran.etat.TimeOut);
+        EXPECT_EQ(Clair(banc.ui.PageEcriture->text()), code == 21 ? "" : "300");
+        EXPECT_EQ(Clair(banc.ui.PageLecture->text()), "");
         ASSERT_EQ(banc.etabli.dialogues.boites.size(), 1U);
         EXPECT_EQ(Clair(banc.etabli.dialogues.boites[0].texte), "k-Pod absent");
         EXPECT_EQ(Clair(banc.etabli.dialogues.boites[0].titre), "");

@@ -177,6 +177,18 @@ TEST(SilencePendantLaLecture, ALoggerPulledOutInTheMiddleIsToldOnce) {
     }
 }
 
+TEST(SilencePendantLaLecture, OfTheWholeLoggerEmptiesVersionAndType) {
+    BancTemoin banc;
+    banc.bus.Debrancher(banc.ecran.etat.UsbID);
+    Lire(banc.poste);
+    EXPECT_EQ(Clair(banc.ui.Version->text()), "");
+    EXPECT_EQ(banc.ecran.etat.TypekPod, 0);
+    EXPECT_EQ(banc.etabli.dialogues.boites.size(), 1U);
+    EXPECT_TRUE(banc.ui.Lire->isEnabled());
+    EXPECT_EQ(banc.ecran.focusWidget(), banc.ui.Lire);
+    EXPECT_TRUE(banc.ecran.etat.Connected);
+}
+
 TEST(SilencePendantLaLecture, NoLoggerAtAll) {
     BancTemoin banc;
     banc.bus.Debrancher(banc.ecran.etat.UsbID);
@@ -188,7 +200,7 @@ TEST(SilencePendantLaLecture, NoLoggerAtAll) {
 }
 
 TEST(MauvaisEcho, SkipsTheFieldsOfItsStepOnly) {
-    for (const std::size_t rang : {0U, 1U, 5U, 6U, 7U, 8U, 15U, 16U}) {
+    for (const std::size_t rang : {0U, 1U, 2U, 3U, 4U, 5U, 6U, 7U, 8U, 15U, 16U}) {
         SCOPED_TRACE(etapes[rang].code);
         BancTemoin banc;
         banc.enregistreur.pannes.Ordonner({etapes[rang].code, GenrePanne::mauvaisEcho});

@@ -11,13 +11,8 @@ namespace {
 
 namespace adresse = simulateur::adresse;
 
-class LectureComplete : public testing::Test {
+class LectureComplete : public SurFormulaire {
   protected:
-    BancEnregistreur banc;
-    EnregistreurSimule& enregistreur = banc.enregistreur;
-    MainScreen& ecran = banc.ecran;
-    Ui::MainScreen& ui = banc.ui;
-
     void SetUp() override { PreparerEnregistreur(enregistreur); }
     void Mode(int octet) { enregistreur.memoire.EcrireOctet(adresse::mode, octet); }
 };
@@ -32,6 +27,21 @@ TEST_F(LectureComplete, SendsItsCommandsInTheirOrder) {
     EXPECT_EQ(adresses, (std::vector<int>{116, 112, 117, 125}));
     EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);
     EXPECT_FALSE(ecran.etat.TimeOut);
+}
+
+TEST_F(LectureComplete, OpensTheLinkAgainBehindTheCalibrationDate) {
+    using simulateur::GenreAppel;
+    Lire_Parametres(banc.poste);
+    // Number of frames that had gone out at each opening of the pair of handles.
+    std::vector<int> ouvertures;
+    int ecrites = 0;
+    for (const simulateur::Appel& appel : banc.bus.Appels()) {
+        if (appel.genre == GenreAppel::ecrire) ++ecrites;
+        if (appel.genre != GenreAppel::ouvrir) continue;
+        if (ouvertures.empty() || ouvertures.back() != ecrites) ouvertures.push_back(ecrites);
+    }
+    // Start, calibration date (the third frame), four reads of the memory, pointers, version.
+    EXPECT_EQ(ouvertures, (std::vector<int>{0, 3, 11, 12, 13, 14, 15, 17}));
 }
 
 TEST_F(LectureComplete, ShowsWhoTheLoggerIs) {
@@ -178,6 +188,13 @@ TEST_F(LectureComplete, AFreePeriodWinsOverAnEntryOfTheSameNumber) {
     EXPECT_EQ(ui.ListePeriodeEchantillonage->Index(), 0);
 }
 
+TEST_F(LectureComplete, APeriodAfterTheTriggerThatIsNotOfferedLeavesTheLongestOne) {
+    enregistreur.memoire.EcrireMot(adresse::periodeTrigger, 481);
+    Lire_Parametres(banc.poste);
+    EXPECT_EQ(ui.PeriodeTrigger->Index(), ui.PeriodeTrigger->Nombre() - 1);
+    EXPECT_EQ(Clair(ui.PeriodeTrigger->Texte()), "1 minute");
+}
+
 TEST_F(LectureComplete, AnUnknownScaleOrUnitLeavesTheChoice) {
     Lire_Parametres(banc.poste);
     enregistreur.memoire.EcrireOctet(adresse::echelle, 0xFE);
@@ -209,6 +226,27 @@ TEST_F(LectureComplete, AbsoluteThresholdsAreLowerByOneAtmosphere) {
     Mode(1);
     Lire_Parametres(banc.poste);
     EXPECT_FALSE(ui.PressionAbsolue->isChecked());
+}
+
+TEST_F(LectureComplete, AnAbsoluteThresholdBelowOneAtmosphereIsNegative) {
+    Mode(128 + 1);
+    enregistreur.memoire.EcrireMot(adresse::seuil1, 0);
+    Lire_Parametres(banc.poste);
+    EXPECT_EQ(Clair(ui.Seuil1->text()), "-1.0");
+}
+
+TEST_F(LectureComplete, ABandThatStandsOnTheFormDragsTheThresholdsThatAreRead) {
+    enregistreur.memoire.EcrireMot(adresse::seuil1, 512);
+    enregistreur.memoire.EcrireMot(adresse::seuil2, 256);
+    ASSERT_TRUE(ui.PasDeSeuil->isChecked());
+    Lire_Parametres(banc.poste);
+    EXPECT_EQ(Clair(ui.Seuil1->text()), "3.0");
+    EXPECT_EQ(Clair(ui.Seuil2->text()), "1.5");
+    // The first reading has chosen the band: its rule now holds the boxes while they are filled.
+    ASSERT_TRUE(ui.DeuxSeuils->isChecked());
+    Lire_Parametres(banc.poste);
+    EXPECT_EQ(Clair(ui.Seuil1->text()), "1.5");
+    EXPECT_EQ(Clair(ui.Seuil2->text()), "1.5");
 }
 
 TEST_F(LectureComplete, ThresholdsAreUncorrected) {

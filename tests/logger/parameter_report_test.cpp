@@ -17,6 +17,13 @@ TEST(AjouteRapport, JoinsTextAndValueWithAColon) {
     EXPECT_EQ(Clair(banc.ecran.etat.Rapport), "Version : (1) 2.110\r\nPas de seuil\r\n");
 }
 
+TEST(AjouteRapport, NamesTheProductOfTheCardFamily) {
+    BancEnregistreur banc;
+    banc.ecran.etat.TypekPod = 19;
+    AjouteRapport(banc.ecran, QStringLiteral("k-Pod Absent"), {});
+    EXPECT_EQ(Clair(banc.ecran.etat.Rapport), "k-Pod 33 absent\r\n");
+}
+
 std::string RapportDe(const QString& langue,
                       const std::function<void(BancEnregistreur&)>& prepare) {
     BancEnregistreur banc(langue);

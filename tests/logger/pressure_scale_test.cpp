@@ -110,12 +110,7 @@ TEST(LimiteSeuil, HasOneDecimal) {
     EXPECT_EQ(LimiteSeuil(0.6, bar), 0.6);
 }
 
-class EchelleDuFormulaire : public testing::Test {
-  protected:
-    BancEnregistreur banc;
-    MainScreen& ecran = banc.ecran;
-    Ui::MainScreen& ui = banc.ui;
-};
+using EchelleDuFormulaire = SurFormulaire;
 
 TEST_F(EchelleDuFormulaire, ConversionsUseScaleUnitAndCalibrationOfTheForm) {
     EXPECT_EQ(Donne_Pression(ecran, 4, false, false), 0.063);

@@ -7,12 +7,8 @@
 namespace bornika::essai {
 namespace {
 
-class ResumeFrancais : public testing::Test {
+class ResumeFrancais : public SurFormulaire {
   protected:
-    BancEnregistreur banc;
-    MainScreen& ecran = banc.ecran;
-    Ui::MainScreen& ui = banc.ui;
-
     void Seuils(const char* seuil1, const char* seuil2) {
         ui.Seuil1->setText(QString::fromLatin1(seuil1));
         ui.Seuil2->setText(QString::fromLatin1(seuil2));
@@ -107,12 +103,15 @@ TEST_F(ResumeFrancais, OneShotIsToldWithAThresholdWhateverTheMode) {
     EXPECT_EQ(Clair(ui.ResumeMonoCoup->text()), "");
 }
 
-/// Takes the entries of the summary out of the catalogue.
+/// Takes entries of the summary out of the catalogue.
 void RetirerTextes(const Etabli& etabli) {
     QByteArray contenu = etabli.Lire(QStringLiteral("config.xml"));
-    for (const char* texte : {"Acquisition toutes les", "Les anciennes valeurs seront écrasées",
-                              "Acquisition immédiate"}) {
-        contenu.replace(QByteArray(">") + texte + "<", QByteArray(">retiré ") + texte + ".<");
+    int rang = 0;
+    for (const char* cle : {"Acquisition toutes les", "Les anciennes valeurs seront écrasées",
+                            "Acquisition immédiate", "Acquisition au dessus de",
+                            "Echantillonnage après trigger toutes les", "Mode mono coup armé"}) {
+        contenu.replace(QByteArray(">") + cle + "<",
+                        QByteArray(">retirée ") + QByteArray::number(++rang) + "<");
     }
     etabli.Ecrire(QStringLiteral("config.xml"), contenu);
 }
@@ -144,16 +143,22 @@ TEST_F(ResumeFrancais, APeriodChangeWritesItTwice) {
 }
 
 TEST_F(ResumeFrancais, LabelsAreWrittenInTheirOrder) {
+    ui.UnSeuil->setChecked(true);
+    ui.OneShot->setChecked(true);
+    ecran.etat.ModeAvance = true;
     RetirerTextes(banc.etabli);
     Donne_Resume(ecran);
     // Each first lookup has added its entry at the end of the catalogue.
     const QByteArray contenu = banc.etabli.Lire(QStringLiteral("config.xml"));
-    const auto acquisition = contenu.lastIndexOf("Acquisition toutes les<");
-    const auto buffer = contenu.lastIndexOf("Les anciennes valeurs seront écrasées<");
-    const auto seuil = contenu.lastIndexOf("Acquisition immédiate<");
-    ASSERT_GT(acquisition, 0);
-    EXPECT_LT(acquisition, buffer);
-    EXPECT_LT(buffer, seuil);
+    auto precedente = contenu.indexOf("Mode étalonnage en cours");
+    ASSERT_GT(precedente, 0);
+    for (const char* cle : {"Acquisition toutes les", "Les anciennes valeurs seront écrasées",
+                            "Acquisition au dessus de", "Echantillonnage après trigger toutes les",
+                            "Mode mono coup armé"}) {
+        const auto place = contenu.lastIndexOf(cle);
+        EXPECT_GT(place, precedente) << cle;
+        precedente = place;
+    }
 }
 
 TEST(ResumeAnglais, SentencesFollowTheLanguage) {

@@ -10,12 +10,8 @@
 namespace bornika::essai {
 namespace {
 
-class Seuils : public testing::Test {
+class Seuils : public SurFormulaire {
   protected:
-    BancEnregistreur banc;
-    MainScreen& ecran = banc.ecran;
-    Ui::MainScreen& ui = banc.ui;
-
     void Un(const char* texte) { ui.Seuil1->setText(QString::fromLatin1(texte)); }
     void Deux(const char* texte) { ui.Seuil2->setText(QString::fromLatin1(texte)); }
     std::string Un() { return Clair(ui.Seuil1->text()); }
@@ -193,16 +189,20 @@ TEST_F(Seuils, WithoutAUnitTheLimitIsZero) {
 }
 
 TEST_F(Seuils, GettingTheFocusSelectsTheWholeText) {
-    ui.UnSeuil->setChecked(true);
+    ui.DeuxSeuils->setChecked(true);
+    Deux("14.5");
     Un("12.5");
     ecran.show();
     QApplication::setActiveWindow(&ecran);
     QApplication::processEvents();
-    ui.AuDessous->setFocus();
-    ui.Seuil1->deselect();
-    ui.Seuil1->setFocus(Qt::OtherFocusReason);
-    QApplication::processEvents();
-    EXPECT_EQ(Clair(ui.Seuil1->selectedText()), "12.5");
+    for (QLineEdit* boite : {ui.Seuil1, ui.Seuil2}) {
+        ui.AuDessous->setFocus();
+        boite->deselect();
+        boite->setFocus(Qt::OtherFocusReason);
+        QApplication::processEvents();
+        EXPECT_EQ(boite->selectedText(), boite->text());
+    }
+    EXPECT_EQ(Clair(ui.Seuil2->selectedText()), "14.5");
 }
 
 TEST_F(Seuils, NoThresholdHidesItsFrame) {
