@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QLayout>
+#include <QPixmap>
 #include <QSignalSpy>
 #include <algorithm>
 
@@ -216,6 +217,32 @@ TEST_F(MainScreenForm, HoldsEachSetUpControlInItsFrame) {
          std::initializer_list<QWidget*>{ui.NbMesures, ui.DateDemarrage, ui.Check_advanced})
         for (QWidget* cadre : {ui.Frame1, ui.Frame2, ui.Frame3, ui.Frame4, ui.Frame5})
             EXPECT_FALSE(cadre->isAncestorOf(c)) << c->objectName().toStdString();
+}
+
+TEST_F(MainScreenForm, OffersOnlyWhatItCanDo) {
+    for (const QPushButton* bouton :
+         {ui.Ecrire, ui.LireSD, ui.LireLaFlash, ui.EcrireLaFlash, ui.LireEeprom, ui.LireValeursPage,
+          ui.ProgNumeroSerie, ui.RAZNumeroSerie, ui.Command2, ui.TestDebitON, ui.TestDebitOFF,
+          ui.Test, ui.LireValeurDetectionCapteur, ui.CommandCorrection})
+        EXPECT_FALSE(bouton->isEnabled()) << bouton->objectName().toStdString();
+    for (const QPushButton* bouton :
+         {ui.Lire, ui.LireValeurs, ui.VoirLesValeurs, ui.DateDemarrage, ui.Sortir})
+        EXPECT_TRUE(bouton->isEnabled()) << bouton->objectName().toStdString();
+    for (const QAction* entree :
+         {ui.mnuEtalonnage, ui.mnurapport, ui.nmuBootLoad, ui.MnuFlowTest, ui.mnuApropos})
+        EXPECT_FALSE(entree->isEnabled()) << entree->objectName().toStdString();
+    for (const QAction* entree :
+         {ui.mnuChargeRapide, ui.mnuModeAvance, ui.MnuModeAide, ui.MnuSplash})
+        EXPECT_TRUE(entree->isEnabled() && entree->isCheckable() && !entree->isChecked())
+            << entree->objectName().toStdString();
+}
+
+TEST_F(MainScreenForm, ShowsItsPicture) {
+    EXPECT_FALSE(ui.Image1->pixmap().isNull());
+    EXPECT_FALSE(aCaption(*ui.Image1));
+    for (const char* nom : {"main", "splash", "about", "icon"})
+        EXPECT_FALSE(QPixmap(QStringLiteral(":/images/%1.png").arg(QLatin1String(nom))).isNull())
+            << nom;
 }
 
 TEST_F(MainScreenForm, StartsWithItsSetUpFramesHidden) {
