@@ -71,6 +71,14 @@ TEST_F(ParametresImpulsion, ASilentLoggerIsToldAndGivesZero) {
     EXPECT_EQ(bus.PoigneesOuvertes(), 0);
 }
 
+TEST_F(ParametresImpulsion, ASilentLoggerHasNoTimeBaseEither) {
+    enregistreur.memoire.EcrireFlottant(adresse::tempsDebit, 60.0F);
+    enregistreur.pannes.Ordonner({29, simulateur::GenrePanne::silence});
+    EXPECT_EQ(TempsDebit(), 0.0F);
+    EXPECT_TRUE(ecran.etat.TimeOut);
+    EXPECT_EQ(etabli.dialogues.boites.size(), 1U);
+}
+
 TEST_F(ParametresImpulsion, AStandingTimeOutGivesZeroWithoutAWord) {
     ecran.etat.TimeOut = true;
     EXPECT_EQ(Poids(), 0.0F);
