@@ -24,14 +24,12 @@ Tampon Interroger(Poste& poste, int code, int combien) {
     return buffer;
 }
 
-/// Version as a number: the decimal texts of both parts joined, in thousandths. 2 and 110 are 2.11,
-/// 2 and 89 are 0.289.
+}  // namespace
+
 double NumeroVersion(int haut, int bas) {
     const QString texte = QString::number(haut) + QString::number(bas);
     return ArrondiTroisDecimales(ValeurDebut(texte) / 1000);
 }
-
-}  // namespace
 
 QString LitNumeroSerieKpod(Poste& poste) {
     const Tampon buffer = Interroger(poste, CMD_LIT_NUMERO_SERIE, longueurNumeroSerie);

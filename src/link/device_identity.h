@@ -8,6 +8,10 @@
 /// which opens the link and closes it again. None of them shows a message.
 namespace bornika {
 
+/// Firmware version as a number: the decimal texts of both parts joined, in thousandths. 2 and 110
+/// are 2.11, but 2 and 89 are 0.289.
+double NumeroVersion(int haut, int bas);
+
 /// Serial number in decimal; "" on failure and for a number beyond 2147483647. Does not clear
 /// `TimeOut`: while it stands, nothing is asked.
 QString LitNumeroSerieKpod(Poste& poste);

@@ -15,6 +15,11 @@ constexpr double parSeconde = 8;  // entries of the period list count eighths of
 constexpr double dureeMinimum = 1;
 constexpr double dureeMaximum = 3600;
 
+/// Seconds of the chosen entry; 0 with nothing chosen.
+double PeriodeDeListe(const ListeDeroulante& liste) {
+    return liste.Index() < 0 ? 0 : liste.Donnee(liste.Index()) / parSeconde;
+}
+
 double Debut(const MainScreen& ecran) {
     return DateVersEpoch(VersDateOrdinateur(ecran.ui->DTPicker1->dateTime()),
                          VersDateOrdinateur(ecran.ui->DTPicker2->dateTime()));
@@ -46,8 +51,10 @@ void CorrigerDuree(MainScreen& ecran, const QString& texte) {
 
 }  // namespace
 
-double PeriodeDeListe(const ListeDeroulante& liste) {
-    return liste.Index() < 0 ? 0 : liste.Donnee(liste.Index()) / parSeconde;
+void MontrerFin(MainScreen& ecran, double debut) {
+    const double periode = PeriodeDeListe(*ecran.ui->ListePeriodeEchantillonage);
+    ecran.ui->DerniereMesure->setText(
+        EpochVersTexte(periode * ecran.etat.CapaciteMemoire + debut, ecran.systeme.regional));
 }
 
 void CalculeDuree(MainScreen& ecran) {
@@ -86,10 +93,7 @@ void DateDemarrage_Click(MainScreen& ecran) {
     const QDateTime maintenant = ecran.systeme.horloge.Maintenant();
     ui->DTPicker1->setDateTime(QDateTime(maintenant.date(), QTime(0, 0), Qt::UTC));
     ui->DTPicker2->setDateTime(maintenant);
-    // The entry's value counts as eighths here also at position 0, where it holds seconds.
-    const double periode = PeriodeDeListe(*ui->ListePeriodeEchantillonage);
-    ui->DerniereMesure->setText(EpochVersTexte(periode * ecran.etat.CapaciteMemoire + Debut(ecran),
-                                               ecran.systeme.regional));
+    MontrerFin(ecran, Debut(ecran));
 }
 
 void DureeSaisie_Change(MainScreen& ecran) {

@@ -1,10 +1,10 @@
 #include "logger/identity_reading.h"
 
 #include "link/command_table.h"
+#include "link/device_identity.h"
 #include "logger/display_statement.h"
 #include "logger/parameter_report.h"
 #include "platform/format_pattern.h"
-#include "platform/numbers.h"
 #include "shell/dates.h"
 #include "ui_main_screen.h"
 
@@ -39,13 +39,12 @@ Suite LireVersion(LectureParametres& lecture) {
     MainScreen& ecran = lecture.ecran;
     if (!lecture.Demander(CMD_LIT_VERSION, longueurVersion)) return Suite::Terminer;
     if (lecture.Octet(0) != CMD_LIT_VERSION) return Suite::Continuer;
-    const QString type = QString::number(lecture.Octet(1));
-    const QString haut = QString::number(lecture.Octet(2));
-    const QString bas = QString::number(lecture.Octet(4));
-    // The texts are joined: 2 and 110 make 2.11, but 2 and 89 make 0.289.
-    ecran.etat.VersionLogiciel = ValeurDebut(haut + bas) / 1000;
+    const int type = lecture.Octet(1);
+    const int haut = lecture.Octet(2);
+    const int bas = lecture.Octet(4);
+    ecran.etat.VersionLogiciel = NumeroVersion(haut, bas);
     lecture.AncienFirmware = ecran.etat.VersionLogiciel <= dernierAncienFirmware;
-    ecran.ui->Version->setText(QStringLiteral("(%1) %2.%3").arg(type, haut, bas));
+    ecran.ui->Version->setText(QStringLiteral("(%1) %2.%3").arg(type).arg(haut).arg(bas));
     MontrerPile(ecran, lecture.Mot(5));
     MontrerTaille(ecran, lecture.Octet(7));
     return Suite::Continuer;

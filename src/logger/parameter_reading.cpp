@@ -76,15 +76,6 @@ Suite NoterPeriode(LectureParametres& lecture) {
     return Suite::Continuer;
 }
 
-/// The end counts the entry's number as eighths also at position 0, where it holds seconds.
-void MontrerFin(MainScreen& ecran) {
-    const auto& ui = ecran.ui;
-    const double periode = PeriodeDeListe(*ui->ListePeriodeEchantillonage);
-    const double debut = DateVersEpoch(VersDateOrdinateur(ui->DTPicker1->dateTime()));
-    ui->DerniereMesure->setText(
-        EpochVersTexte(debut + periode * ecran.etat.CapaciteMemoire, ecran.systeme.regional));
-}
-
 Suite LireDemarrage(LectureParametres& lecture) {
     MainScreen& ecran = lecture.ecran;
     if (!lecture.Demander(CMD_LIT_DEMARRAGE)) return Suite::Terminer;
@@ -93,7 +84,9 @@ Suite LireDemarrage(LectureParametres& lecture) {
     const QDateTime instant = EpochVersInstant(lecture.DateDemarrageLue);
     afficher([&] { ecran.ui->DTPicker1->setDateTime(instant); });
     afficher([&] { ecran.ui->DTPicker2->setDateTime(instant); });
-    afficher([&] { MontrerFin(ecran); });
+    afficher([&] {
+        MontrerFin(ecran, DateVersEpoch(VersDateOrdinateur(ecran.ui->DTPicker1->dateTime())));
+    });
     return Suite::Continuer;
 }
 

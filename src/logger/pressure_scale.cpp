@@ -1,10 +1,10 @@
 #include "logger/pressure_scale.h"
 
 #include "logger/recording_summary.h"
-#include "logger/threshold_labels.h"
 #include "platform/format_pattern.h"
 #include "platform/numbers.h"
 #include "shell/main_screen.h"
+#include "shell/threshold_labels.h"
 #include "ui_main_screen.h"
 
 namespace bornika {

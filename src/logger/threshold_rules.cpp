@@ -3,11 +3,11 @@
 #include "logger/entry_focus.h"
 #include "logger/pressure_scale.h"
 #include "logger/recording_summary.h"
-#include "logger/threshold_labels.h"
 #include "platform/fault.h"
 #include "platform/numbers.h"
 #include "shell/captions.h"
 #include "shell/main_screen.h"
+#include "shell/threshold_labels.h"
 #include "ui_main_screen.h"
 
 namespace bornika {

@@ -4,6 +4,7 @@
 #include "shell/captions.h"
 #include "shell/main_screen.h"
 #include "shell/text_catalogue.h"
+#include "shell/threshold_labels.h"
 #include "ui_main_screen.h"
 
 namespace bornika {
@@ -75,13 +76,8 @@ void RafraichirTextes(MainScreen& ecran, const QString& langue) {
 }
 
 void NommerSeuils(MainScreen& ecran) {
-    auto& ui = *ecran.ui;
-    const QString unite = QLatin1String(" (") + ui.ListeUnites->Texte() + QLatin1Char(')');
-    if (ui.UnSeuil->isChecked()) ui.LabelSeuil1->setText(ecran.textes.TexteSeuil + unite);
-    if (ui.DeuxSeuils->isChecked()) {
-        ui.LabelSeuil1->setText(ecran.textes.TexteLimiteBasse + unite);
-        ui.LabelSeuil2->setText(ecran.textes.TexteLimiteHaute + unite);
-    }
+    if (ecran.ui->UnSeuil->isChecked()) MontrerTexteSeuil(ecran);
+    if (ecran.ui->DeuxSeuils->isChecked()) MontrerTextesLimites(ecran);
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include "logger/threshold_labels.h"
+#include "shell/threshold_labels.h"
 
 #include "shell/main_screen.h"
 #include "ui_main_screen.h"
