@@ -116,7 +116,9 @@ class Technicien : public QObject {
 
     // The click of the button that downloads returns only when all is done: this runs inside it.
     void Telecharger(MainScreen& ecran) {
-        if (!photoTelechargement_ && ecran.etat.EnLecture && !ecran.ui->Infos->text().isEmpty()) {
+        const BarreProgression& barre = *ecran.ui->ProgressBar2;
+        if (!photoTelechargement_ && ecran.etat.EnLecture &&
+            barre.Valeur() > 0.4 * barre.Maximum()) {
             photoTelechargement_ = true;
             Photographier(ecran, QStringLiteral("download"));
         }

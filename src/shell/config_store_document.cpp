@@ -114,11 +114,15 @@ pugi::xml_node DocumentConfiguration::Charger(const QString& chemin) {
     if (fichier.open(QIODevice::ReadOnly)) lus = fichier.readAll();
     if (!changee_ && chemin == chemin_ && lus == lus_ && document_.document_element())
         return document_.document_element();
-    document_.reset();
     chemin_ = chemin;
     lus_ = lus;
+    return Interpreter(std::move(lus));
+}
+
+pugi::xml_node DocumentConfiguration::Interpreter(QByteArray octets) {
+    document_.reset();
     changee_ = false;
-    octets_ = std::move(lus);
+    octets_ = std::move(octets);
     codage_ = Reconnaitre(octets_);
     marque_ = octets_.startsWith("\xEF\xBB\xBF") || codage_ == Codage::Utf16Petit ||
               codage_ == Codage::Utf16Grand;
@@ -143,8 +147,7 @@ bool DocumentConfiguration::Analyser() {
                                          pugi::encoding_utf8);
 }
 
-void DocumentConfiguration::Enregistrer() {
-    changee_ = true;
+QByteArray DocumentConfiguration::Octets() const {
     pugi::xml_encoding codage = pugi::encoding_utf8;
     if (codage_ == Codage::Utf16Petit) codage = pugi::encoding_utf16_le;
     if (codage_ == Codage::Utf16Grand) codage = pugi::encoding_utf16_be;
@@ -155,8 +158,14 @@ void DocumentConfiguration::Enregistrer() {
     if (codage_ == Codage::Latin1) ecrivain.octets = QString::fromUtf8(ecrivain.octets).toLatin1();
     if (codage_ == Codage::Windows1252)
         ecrivain.octets = Vers8Bits(QString::fromUtf8(ecrivain.octets));
+    return ecrivain.octets;
+}
+
+void DocumentConfiguration::Enregistrer() {
+    changee_ = true;
+    const QByteArray octets = Octets();
     // A setting stored as it was leaves the file alone: a start stores several of these.
-    if (ecrivain.octets != lus_) RemplacerFichier(chemin_, ecrivain.octets);
+    if (octets != lus_) RemplacerFichier(chemin_, octets);
 }
 
 pugi::xml_node DocumentConfiguration::Choisir(const QByteArray& chemin) const {

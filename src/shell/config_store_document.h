@@ -31,6 +31,10 @@ class DocumentConfiguration {
     /// malformed. The bytes are parsed again only where one of them differs from the last reading:
     /// a start makes hundreds of loads, and nobody can tell the difference.
     pugi::xml_node Charger(const QString& chemin);
+    /// The same from bytes of one's own.
+    pugi::xml_node Interpreter(QByteArray octets);
+    /// The document as the bytes of a file, in its own encoding.
+    QByteArray Octets() const;
     std::uint64_t NombreChargements() const { return chargements_; }
     /// The caller changes the document and may not save it: the next load parses anew.
     void NoterChangement() { changee_ = true; }

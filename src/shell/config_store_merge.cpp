@@ -3,14 +3,14 @@
 #include <QString>
 #include <algorithm>
 #include <pugixml.hpp>
-#include <sstream>
 #include <vector>
+
+#include "platform/fault.h"
+#include "shell/config_store_document.h"
 
 namespace bornika {
 
 namespace {
-
-constexpr unsigned options = (pugi::parse_full | pugi::parse_ws_pcdata) & ~pugi::parse_eol;
 
 QString Plie(const char* texte) {
     return QString::fromUtf8(texte).trimmed().toUpper();
@@ -105,20 +105,12 @@ class Fusion {
 }  // namespace
 
 QByteArray FusionnerConfiguration(const QByteArray& utilisee, const QByteArray& livree) {
-    pugi::xml_document a;
-    pugi::xml_document b;
-    const auto lire = [](pugi::xml_document& document, const QByteArray& octets) {
-        return document.load_buffer(octets.constData(), static_cast<std::size_t>(octets.size()),
-                                    options) &&
-               document.document_element();
-    };
-    if (!lire(a, utilisee) || !lire(b, livree)) return utilisee;
+    DocumentConfiguration a;
+    DocumentConfiguration b;
     Fusion fusion;
-    fusion.Racine(a.document_element(), b.document_element());
-    if (!fusion.ajout) return utilisee;
-    std::ostringstream sortie;
-    a.save(sortie, "", pugi::format_raw, pugi::encoding_utf8);
-    return QByteArray::fromStdString(sortie.str());
+    const bool lus =
+        ignorer([&] { fusion.Racine(a.Interpreter(utilisee), b.Interpreter(livree)); });
+    return lus && fusion.ajout ? a.Octets() : utilisee;
 }
 
 }  // namespace bornika

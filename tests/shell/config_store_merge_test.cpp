@@ -74,6 +74,20 @@ TEST(FusionnerConfiguration, ReturnsTheSameBytesWhenNothingIsMissing) {
     EXPECT_EQ(FusionnerConfiguration(livree, livree), livree);
 }
 
+TEST(FusionnerConfiguration, KeepsTheLayoutAroundTheRootAndTheDeclaredEncoding) {
+    EXPECT_TRUE(FusionnerConfiguration(utilisee, livree)
+                    .startsWith("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<Configuration>\n"));
+    const QByteArray latin1 =
+        "<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?>\r\n<Configuration><Langue>Fran\xE7"
+        "ais</Langue></Configuration>\r\n";
+    const QByteArray fusion = FusionnerConfiguration(latin1, livree);
+    EXPECT_TRUE(fusion.startsWith("<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?>\r\n"));
+    EXPECT_TRUE(
+        fusion.contains("<Langue>Fran\xE7"
+                        "ais</Langue>"));
+    EXPECT_TRUE(fusion.contains("<Cle>\xC9talonnage</Cle>"));
+}
+
 TEST(FusionnerConfiguration, LeavesAMalformedUsedFileUntouched) {
     const QByteArray casse = "<Configuration><Langue>";
     EXPECT_EQ(FusionnerConfiguration(casse, livree), casse);
