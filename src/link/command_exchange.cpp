@@ -15,13 +15,6 @@ int Mot(double x) {
     return static_cast<int>(arrondi);
 }
 
-Octets LireReponse(Poste& poste, int combien, bool erreur) {
-    // The catalogue is only asked when the text is to be shown: a download reads too often.
-    return poste.lien.UsbRead(
-        combien, [&poste] { return poste.ecran.Texte(QStringLiteral("k-Pod Absent")); }, erreur,
-        true, QString());
-}
-
 }  // namespace
 
 std::uint8_t MSB(double x) {
@@ -30,6 +23,13 @@ std::uint8_t MSB(double x) {
 
 std::uint8_t LSB(double x) {
     return static_cast<std::uint8_t>(Mot(x) % 256);
+}
+
+Octets LireReponse(Poste& poste, int combien, bool erreur) {
+    // The catalogue is only asked when the text is to be shown: a download reads too often.
+    return poste.lien.UsbRead(
+        combien, [&poste] { return poste.ecran.Texte(QStringLiteral("k-Pod Absent")); }, erreur,
+        true, QString());
 }
 
 bool Envoi_Entete(Poste& poste, int code, Tampon& buffer, int combien, bool erreur, int extracode) {

@@ -20,8 +20,12 @@ std::uint8_t LSB(double x);
 bool Envoi_Entete(Poste& poste, int code, Tampon& buffer, int combien, bool erreur,
                   int extracode = 0);
 
-/// Sends a frame of its own and reads `combien` bytes, with the text "k-Pod Absent" shown on
-/// silence if `erreur`: the shape of every command outside `Envoi_Entete`. Zeros when nothing came.
+/// Reads `combien` bytes of an answer, with the text "k-Pod Absent" shown on silence if `erreur`.
+/// Zeros when nothing came: `TimeOut` is then set and the link closed.
+Octets LireReponse(Poste& poste, int combien, bool erreur = true);
+
+/// Sends a frame of its own and reads its answer as `LireReponse` does: the shape of every command
+/// outside `Envoi_Entete`.
 Octets EchangeDirect(Poste& poste, std::span<const int> trame, int longueur, int combien,
                      bool erreur = true);
 

@@ -12,7 +12,7 @@ namespace {
 using Trame = std::vector<std::uint8_t>;
 
 struct BancMemoire : BancLecture {
-    /// The frames that the logger has seen, the last one first.
+    /// The frame that the logger has seen last.
     Trame Derniere() const { return enregistreur.journal.Trames().back().Liste(); }
     void Taire(int code) {
         enregistreur.pannes.Ordonner({.code = code, .genre = simulateur::GenrePanne::silence});
@@ -160,4 +160,34 @@ TEST(ForceContexte, ASilentLoggerIsTold) {
     ForceContexte(banc.poste);
     EXPECT_TRUE(banc.AbsentDit());
     EXPECT_TRUE(banc.ecran.etat.TimeOut);
+}
+
+class OutOfRange : public testing::TestWithParam<int> {};
+
+TEST_P(OutOfRange, AddressesAreAnOverflowAndNothingIsSent) {
+    BancMemoire banc;
+    const int adresse = GetParam();
+    const auto attendre = [](auto&& operation) {
+        try {
+            operation();
+            ADD_FAILURE() << "no fault";
+        } catch (const FauteExecution& faute) {
+            EXPECT_EQ(faute.numero(), numero_faute::depassement);
+        }
+    };
+    attendre([&] { Memoire_Flash(banc.poste, true, adresse, 0); });
+    attendre([&] { Memoire_Flash(banc.poste, true, 0, adresse); });
+    attendre([&] { LitEEpromInterne(banc.poste, adresse, true); });
+    attendre([&] { EcritEEpromInterne(banc.poste, adresse, 1); });
+    EXPECT_EQ(banc.enregistreur.journal.Total(), 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Addresses, OutOfRange, testing::Values(-1, 65536));
+
+TEST(EcritEEpromInterne, AValueThatIsNoByteIsAnOverflowAndNothingIsSent) {
+    BancMemoire banc;
+    banc.lien.OuvreUSB(banc.ecran.etat.UsbID);
+    EXPECT_THROW(EcritEEpromInterne(banc.poste, 1, 256), FauteExecution);
+    EXPECT_THROW(EcritEEpromInterne(banc.poste, 1, -1), FauteExecution);
+    EXPECT_EQ(banc.enregistreur.journal.Total(), 0);
 }
