@@ -1,10 +1,9 @@
 #include "retrieval/download_engine.h"
 
-#include <array>
-
 #include "link/command_exchange.h"
 #include "link/command_table.h"
 #include "link/device_identity.h"
+#include "link/frames.h"
 #include "logger/parameter_reading.h"
 #include "logger/pressure_scale.h"
 #include "platform/fault.h"
@@ -15,7 +14,6 @@ namespace bornika {
 
 namespace {
 
-constexpr int longueurRequete = 2;
 constexpr int longueurReponse = 10;
 constexpr int echecsMuets = 4;
 constexpr double versionCarte = 2.11;
@@ -43,7 +41,9 @@ void LireValeurs(Poste& poste, const SuiteTelechargement& suite) {
 }
 
 void LectureValeurs(Poste& poste, const SuiteTelechargement& suite) {
-    if (poste.ecran.etat.EnLecture) {
+    // A transfer that another form has ended meanwhile still holds the link and its files until it
+    // notices: its caption still says that a click cancels.
+    if (poste.ecran.etat.EnLecture || Telechargement::EnTransfert()) {
         poste.ecran.etat.EnLecture = false;
         return;
     }
@@ -57,13 +57,34 @@ Telechargement::Telechargement(Poste& poste, const SuiteTelechargement& suite)
       avancement_(poste.ecran),
       redacteur_(poste.ecran.systeme.regional) {}
 
+/// While one lives, no other transfer can begin.
+class Telechargement::Occupation {
+  public:
+    Occupation() { ++transferts_; }
+    ~Occupation() { --transferts_; }
+    Occupation(const Occupation&) = delete;
+    Occupation& operator=(const Occupation&) = delete;
+};
+
 void Telechargement::Executer() {
-    if (!Commencer()) return;
+    const Etat etat = Transferer();
+    if (etat == Etat::NonCommence) return;
+    if (!echec_.isEmpty() && etat != Etat::Fermeture) DireEchec();
+    if (etat == Etat::FinNormale)
+        TerminerNormalement();
+    else
+        TerminerSansSuite();
+}
+
+/// From the parameters to the closing of the files.
+Telechargement::Etat Telechargement::Transferer() {
+    const Occupation occupation;
+    if (!Commencer()) return Etat::NonCommence;
     Etat etat = Etat::EnCours;
     while (etat == Etat::EnCours)
         etat = Tour();
     avancement_.Montrer();
-    Terminer(etat);
+    return Cloturer(etat);
 }
 
 bool Telechargement::Commencer() {
@@ -111,14 +132,13 @@ Telechargement::Etat Telechargement::Tour() {
 }
 
 /// Asks for the next measure. Only the first request of a transfer says so: one that failed is not
-/// sent again as the first. What stands behind the two bytes never leaves.
+/// sent again as the first.
 Octets Telechargement::Demander() {
-    const std::array<int, 10> requete{
-        CMD_LIT_MESURES, premier_ ? 1 : 0, 20, 20, 20, 20, 20, 20, 0, 0};
+    const Octets requete = TrameLitMesures(premier_);
     premier_ = false;
     const bool parler = nbEchecs_ > echecsMuets;
     if (parler) avancement_.Montrer();
-    return EchangeDirect(poste_, requete, longueurRequete, longueurReponse, parler);
+    return EchangeDirect(poste_, requete, longueurTrameMesures, longueurReponse, parler);
 }
 
 /// Five failures in a row are survived: the link is opened again and the transfer goes on.
@@ -182,20 +202,17 @@ QByteArrayView Telechargement::Ligne(const MesureDatee& mesure) {
     return redacteur_.Periodique(mesure.secondes, mesure.millisecondes, mesure.points, pression);
 }
 
-void Telechargement::Terminer(Etat etat) {
-    if (etat == Etat::FinNormale) {
-        poste_.lien.FermeUSB();
-        if (!FermerFichiers()) etat = Etat::EcritureImpossible;
-    }
-    if (etat == Etat::EcritureImpossible) DireEchec();
-    if (etat == Etat::FinNormale)
-        TerminerNormalement();
-    else
-        TerminerSansSuite();
+/// Closes what the transfer held. The files are complete after the normal end alone; whatever the
+/// end, lines that do not reach the disk are told.
+Telechargement::Etat Telechargement::Cloturer(Etat etat) {
+    const bool complets = etat == Etat::FinNormale;
+    if (complets) poste_.lien.FermeUSB();
+    const bool sauves = FermerFichiers(complets);
+    return complets && !sauves ? Etat::EcritureImpossible : etat;
 }
 
 /// Closes both files, the second one whatever the first one gave. False when lines were lost.
-bool Telechargement::FermerFichiers() {
+bool Telechargement::FermerFichiers(bool complets) {
     const auto fermer = [this](auto&& fermeture) {
         try {
             fermeture();
@@ -204,7 +221,8 @@ bool Telechargement::FermerFichiers() {
         }
     };
     fermer([this] { fichiers_->FermerMesures(); });
-    fermer([this] { fichiers_->FermerRejets(); });
+    fermer([&] { fichiers_->FermerRejets(complets); });
+    fichiers_.reset();
     return echec_.isEmpty();
 }
 
@@ -229,7 +247,6 @@ void Telechargement::TerminerNormalement() {
 
 /// The files stay as far as they got. The bar and its text stay too: they tell how far that was.
 void Telechargement::TerminerSansSuite() {
-    fichiers_.reset();
     ecran_.etat.EnLecture = false;
     ignorer([this] { RendreBouton(QStringLiteral("LireValeurs")); });
     poste_.lien.FermeUSB();

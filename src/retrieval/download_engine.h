@@ -27,8 +27,8 @@ void LireValeurs(Poste& poste, AccesTrace& acces);
 void LireValeurs(Poste& poste, const SuiteTelechargement& suite);
 
 /// Brings all measures of the logger into a recording file and shows its curve. While a download
-/// runs a call only clears `EnLecture`, which ends that download after its present measure. Fault
-/// when the files cannot be created.
+/// runs a call only clears `EnLecture`, which ends that download after its present measure; until
+/// it has ended no other one begins. Fault when the files cannot be created.
 void LectureValeurs(Poste& poste, AccesTrace& acces);
 void LectureValeurs(Poste& poste, const SuiteTelechargement& suite);
 
@@ -37,11 +37,21 @@ class Telechargement : private SortieMesures {
   public:
     Telechargement(Poste& poste, const SuiteTelechargement& suite);
 
+    /// Runs it whole; comes back after its last box and, at a normal end, after the curve was
+    /// shown. Fault when the files cannot be created.
     void Executer();
 
+    /// True while some download is between its start and the closing of its files, whether or not
+    /// it was told to end.
+    static bool EnTransfert() { return transferts_ > 0; }
+
   private:
+    class Occupation;
+
     enum class Etat {
         EnCours,
+        /// The parameters could not be read: nothing was made.
+        NonCommence,
         /// The logger has no more, or the operator has cancelled: the files are complete.
         FinNormale,
         /// The logger did not answer six times in a row.
@@ -53,6 +63,7 @@ class Telechargement : private SortieMesures {
     };
 
     // The start.
+    Etat Transferer();
     bool Commencer();
     void AnnoncerLecture();
     bool LireReglages();
@@ -69,12 +80,14 @@ class Telechargement : private SortieMesures {
     QByteArrayView Ligne(const MesureDatee& mesure);
 
     // The ends.
-    void Terminer(Etat etat);
-    bool FermerFichiers();
+    Etat Cloturer(Etat etat);
+    bool FermerFichiers(bool complets);
     void TerminerNormalement();
     void TerminerSansSuite();
     void DireEchec();
     void RendreBouton(const QString& cle);
+
+    static inline int transferts_ = 0;
 
     Poste& poste_;
     MainScreen& ecran_;

@@ -137,9 +137,9 @@ void PaireEnregistrement::FermerMesures() {
     EcrireNomme(mesures_, [&] { mesures_.Fermer(); });
 }
 
-void PaireEnregistrement::FermerRejets() {
+void PaireEnregistrement::FermerRejets(bool complets) {
     EcrireNomme(rejets_, [&] {
-        rejets_.Ecrire(u"End Parity Control");
+        if (complets) rejets_.Ecrire(u"End Parity Control");
         rejets_.Fermer();
     });
 }

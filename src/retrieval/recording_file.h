@@ -61,8 +61,9 @@ class PaireEnregistrement {
     void Ecrire(bool parite_ok, QByteArrayView ligne);
     /// Closes the ".txt" file. The same fault.
     void FermerMesures();
-    /// Writes the closing text to the ".err" file, without line end, and closes it. The same fault.
-    void FermerRejets();
+    /// Closes the ".err" file, with the closing text, without line end, when the recording is
+    /// `complets`. The same fault.
+    void FermerRejets(bool complets = true);
 
   private:
     FichierTexteEcrit mesures_;

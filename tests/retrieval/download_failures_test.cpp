@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QFile>
+#include <algorithm>
 
 #include "platform/pointer_shape.h"
 #include "retrieval_bench.h"
@@ -69,6 +71,8 @@ TEST(Download, TheSixthFailureInARowEndsItAndSaysSo) {
     EXPECT_EQ(Clair(boite.texte), Clair(banc.ecran.Texte(QStringLiteral("k-Pod Absent"))));
     EXPECT_EQ(banc.enregistreur.journal.Nombre(10), 12);
     EXPECT_EQ(banc.NombreLignes(), 6);
+    EXPECT_TRUE(banc.ecran.etat.TimeOut);
+    EXPECT_EQ(Clair(banc.Rejets()), Clair(entete));
     AttendreAppareilPerdu(banc);
 }
 
@@ -255,4 +259,34 @@ TEST(Download, ACommentFileThatCannotBeMadeIsToldAndTheCurveIsStillShown) {
     EXPECT_EQ(banc.etabli.dialogues.boites[1].icone, Icone::Information);
     EXPECT_EQ(banc.montres.size(), 1U);
     EXPECT_TRUE(banc.etabli.fautes.empty());
+}
+
+TEST(Download, ALossOfTheLoggerWithAFullDiskTellsOfTheLinesThatAreGoneToo) {
+    BancPlein banc;
+    ASSERT_TRUE(QFile::link(QStringLiteral("/dev/full"),
+                            banc.etabli.Chemin(banc.nom + QStringLiteral(".txt"))));
+    banc.Panne(GenrePanne::silence, 7, simulateur::sansFin);
+    banc.Cliquer();
+    ASSERT_EQ(banc.Boites(), 2U);
+    EXPECT_EQ(Clair(banc.etabli.dialogues.boites[0].texte),
+              Clair(banc.ecran.Texte(QStringLiteral("k-Pod Absent"))));
+    EXPECT_EQ(banc.etabli.dialogues.boites[1].icone, Icone::Critique);
+    EXPECT_TRUE(
+        banc.etabli.dialogues.boites[1].texte.startsWith(banc.nom + QStringLiteral(".txt : ")));
+    AttendreAppareilPerdu(banc);
+}
+
+TEST(Download, ALoggerSilentAtTheClickIsJudgedByTheVersionReadLast) {
+    BancPlein banc;
+    banc.ecran.etat.VersionLogiciel = 2.11;
+    banc.enregistreur.pannes.Ordonner({.code = 9, .genre = GenrePanne::silence});
+    banc.Cliquer();
+    ASSERT_EQ(banc.Boites(), 1U);
+    EXPECT_EQ(banc.etabli.dialogues.boites[0].icone, Icone::Information);
+    EXPECT_EQ(banc.enregistreur.journal.Total(), banc.enregistreur.journal.Nombre(9));
+    EXPECT_TRUE(banc.montres.empty());
+    banc.ecran.etat.VersionLogiciel = 2.1;
+    banc.enregistreur.pannes.Ordonner({.code = 9, .genre = GenrePanne::silence});
+    banc.Cliquer();
+    EXPECT_TRUE(banc.AToutEcrit());
 }

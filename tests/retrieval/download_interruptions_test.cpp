@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QDir>
+#include <QSignalBlocker>
+
 #include "logger/parameter_reading.h"
 #include "platform/pointer_shape.h"
 #include "retrieval_bench.h"
@@ -146,4 +149,72 @@ TEST(DownloadDisturbed, ALoggerInCalibrationSaysSoAndIsDownloaded) {
     EXPECT_EQ(banc.etabli.dialogues.boites.size(), 2U);
     EXPECT_EQ(banc.NombreLignes(), 99);
     EXPECT_EQ(banc.PoigneesOuvertes(), 0);
+}
+
+TEST(DownloadCancelled, AClickAfterAnotherFormHasEndedItBeginsNoTransferInsideTheFirst) {
+    BancLong banc;
+    banc.AuTour(10, [&] {
+        banc.ecran.etat.EnLecture = false;
+        banc.etabli.horloge.instant = banc.etabli.horloge.instant.addSecs(1);
+        banc.Cliquer();
+        EXPECT_FALSE(banc.ecran.etat.EnLecture);
+    });
+    banc.Cliquer();
+    EXPECT_EQ(banc.tours, 10);
+    EXPECT_EQ(banc.enregistreur.journal.Nombre(10), 10);
+    EXPECT_EQ(banc.NombreLignes(), 10);
+    EXPECT_TRUE(banc.Rejets().endsWith("End Parity Control"));
+    EXPECT_EQ(banc.etabli.Fichiers().filter(QStringLiteral(".txt")).size(), 1);
+    EXPECT_EQ(banc.montres, (std::vector<QString>{banc.nom + QStringLiteral(".txt")}));
+    EXPECT_EQ(banc.PoigneesOuvertes(), 0);
+    EXPECT_TRUE(banc.etabli.fautes.empty());
+    // The click after that is one that begins.
+    banc.Cliquer();
+    EXPECT_EQ(banc.montres.size(), 2U);
+    EXPECT_EQ(banc.etabli.Lire(QStringLiteral("2026-03-05-14-07-10.txt")).count('\n'), 100);
+}
+
+TEST(DownloadCancelled, ATransferThatEndedByAFaultDoesNotKeepTheNextFromBeginning) {
+    BancLong banc;
+    ASSERT_TRUE(QDir(banc.etabli.dossier.path()).mkdir(banc.nom + QStringLiteral(".txt")));
+    banc.Cliquer();
+    ASSERT_EQ(banc.etabli.fautes.size(), 1U);
+    EXPECT_FALSE(Telechargement::EnTransfert());
+    ASSERT_TRUE(QDir(banc.etabli.dossier.path()).rmdir(banc.nom + QStringLiteral(".txt")));
+    banc.ecran.etat.EnLecture = false;
+    banc.Cliquer();
+    EXPECT_EQ(banc.NombreLignes(), 99);
+}
+
+TEST(DownloadRepeated, WhileTheLastBoxStandsIsAnotherWholeDownload) {
+    BancLong banc;
+    int boites = 0;
+    banc.etabli.dialogues.pendantBoite = [&](const auto&) {
+        if (++boites > 1) return;
+        banc.etabli.horloge.instant = banc.etabli.horloge.instant.addSecs(1);
+        banc.Cliquer();
+    };
+    banc.Cliquer();
+    EXPECT_EQ(banc.NombreLignes(), 99);
+    EXPECT_EQ(banc.etabli.Lire(QStringLiteral("2026-03-05-14-07-10.txt")).count('\n'), 100);
+    // Each shows its own recording, the inner one first.
+    EXPECT_EQ(banc.montres, (std::vector<QString>{QStringLiteral("2026-03-05-14-07-10.txt"),
+                                                  banc.nom + QStringLiteral(".txt")}));
+}
+
+TEST(DownloadDisturbed, LinesThatCannotBeBuiltAreSkippedAndTheTransferGoesOn) {
+    BancLong banc;
+    // Without a unit no pressure can be computed.
+    const auto choisir = [&](int unite) {
+        const QSignalBlocker sansRegles(banc.ui.ListeUnites);
+        return banc.ui.ListeUnites->Choisir(unite);
+    };
+    const int unite = banc.ui.ListeUnites->Index();
+    banc.AuTour(10, [&] { choisir(-1); });
+    banc.AuTour(15, [&] { choisir(unite); });
+    banc.Cliquer();
+    EXPECT_EQ(banc.NombreLignes(), 99 - 5);
+    EXPECT_TRUE(banc.etabli.fautes.empty());
+    EXPECT_EQ(banc.montres.size(), 1U);
+    EXPECT_EQ(Clair(banc.ui.Infos->text()).substr(0, 4), "100/");
 }

@@ -222,3 +222,16 @@ TEST(Pulse, AGroupStaysOpenAcrossItAndLosesItsFirstValueToIt) {
     EXPECT_EQ(transfert.Points(), (Entiers{700, 700, 2, 3}));
     EXPECT_EQ(transfert.Millisecondes(), (Entiers{250, 0, 333, 667}));
 }
+
+TEST(PeriodicGroup, TheCountOfAnEndlessSecondStopsAtItsLimitAndTheGroupStillCloses) {
+    Transfert transfert;
+    for (int i = 0; i < 33000; ++i)
+        transfert.Recevoir(MesurePeriodique(t0, i % 1000));
+    transfert.Recevoir(MesurePeriodique(t0 + 1, 500));
+    EXPECT_EQ(transfert.Points(), (Entiers{0, 1, 2, 3, 4, 5, 6, 7, 8}));
+    EXPECT_EQ(transfert.Millisecondes(), (Entiers(9, 0)));
+    EXPECT_EQ(transfert.decodeur.Compteur(), 32768);
+    transfert.mesures.clear();
+    transfert.Recevoir(MesurePeriodique(t0 + 2, 501));
+    EXPECT_EQ(transfert.Points(), (Entiers{501}));
+}

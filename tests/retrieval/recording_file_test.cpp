@@ -163,3 +163,13 @@ TEST(PaireEnregistrement, AFullDiskNamesTheFileAndTheReason) {
     }
     EXPECT_NO_THROW(paire.FermerRejets());
 }
+
+TEST(PaireEnregistrement, AnUnfinishedOneIsClosedWithoutTheClosingText) {
+    QTemporaryDir dossier;
+    const QString base = dossier.filePath(QStringLiteral("essai"));
+    PaireEnregistrement paire(base, QStringLiteral("e"));
+    paire.Ecrire(false, "b;2");
+    paire.FermerMesures();
+    paire.FermerRejets(false);
+    EXPECT_EQ(Contenu(base + QStringLiteral(".err")), "e\r\nb;2\r\n");
+}
