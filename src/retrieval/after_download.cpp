@@ -1,3 +1,6 @@
+#include <QPointer>
+#include <memory>
+
 #include "retrieval/download_engine.h"
 #include "ui_trace_form.h"
 #include "viewer/chart_session.h"
@@ -9,17 +12,33 @@ namespace bornika {
 
 namespace {
 
-/// The recording just made, in the viewer. The form is made at the first reference to it.
+/// The comments of the recording just made, and the form that holds them.
+struct CommentairesPoses {
+    QString texte;
+    QPointer<Trace> fiche;
+};
+
+void Poser(CommentairesPoses& poses, Trace& trace) {
+    if (poses.fiche == &trace) return;
+    poses.fiche = &trace;
+    trace.ui->Commentaires->setPlainText(poses.texte);
+}
+
+/// The recording just made, in the viewer. The form is made at the first reference to it; one that
+/// was closed while the last box stood has given way to another, which takes its comments over.
 SuiteTelechargement SuiteDansTrace(AccesTrace& acces) {
+    const auto poses = std::make_shared<CommentairesPoses>();
     return {.commenter =
-                [&acces](const QString& commentaires, const QString& fichier) {
+                [&acces, poses](const QString& commentaires, const QString& fichier) {
+                    *poses = {commentaires, {}};
                     Trace& trace = acces.Fiche();
-                    trace.ui->Commentaires->setPlainText(commentaires);
+                    Poser(*poses, trace);
                     EnregistrerCommentaires(trace, fichier);
                 },
             .montrer =
-                [&acces](const QString& fichier) {
+                [&acces, poses](const QString& fichier) {
                     Trace& trace = acces.Fiche();
+                    Poser(*poses, trace);
                     trace.show();
                     trace.NomDialogue = fichier;
                     chart_Init(trace);

@@ -93,3 +93,51 @@ TEST(AfterDownload, TheNextDownloadUsesTheSameViewer) {
     EXPECT_EQ(banc.acces.Presente(), premier);
     EXPECT_EQ(Clair(premier->NomDialogue), "2026-03-05-14-08-09.txt");
 }
+
+TEST(AfterDownload, AViewerClosedWhileTheLastBoxStandsGivesItsCommentsToTheNextOne) {
+    BancTrace banc;
+    banc.etabli.dialogues.pendantBoite = [&](const auto&) {
+        ASSERT_NE(banc.acces.Presente(), nullptr);
+        banc.acces.Presente()->close();
+        QApplication::processEvents();
+        EXPECT_EQ(banc.acces.Presente(), nullptr);
+    };
+    banc.Telecharger();
+    Trace* trace = banc.acces.Presente();
+    ASSERT_NE(trace, nullptr);
+    EXPECT_TRUE(trace->isVisible());
+    EXPECT_TRUE(trace->ui->Commentaires->toPlainText().startsWith(banc.ui.Commentaire->text() +
+                                                                  QLatin1Char('\n')));
+    ASSERT_FALSE(trace->modele.titre.isEmpty());
+    EXPECT_TRUE(trace->modele.titre.first().startsWith(QStringLiteral("Reseau Est")));
+    EXPECT_EQ(trace->Maxi, (t0 + 18) * 1000.0);
+    EXPECT_TRUE(banc.etabli.fautes.empty());
+}
+
+TEST(AfterDownload, CommentsTypedWhileTheLastBoxStandsStay) {
+    BancTrace banc;
+    banc.etabli.dialogues.pendantBoite = [&](const auto&) {
+        banc.acces.Fiche().ui->Commentaires->setPlainText(QStringLiteral("typed"));
+    };
+    banc.Telecharger();
+    EXPECT_EQ(Clair(banc.acces.Fiche().ui->Commentaires->toPlainText()), "typed");
+}
+
+TEST(AfterDownload, AClickWhileTheCurveIsLoadedMakesAnotherWholeRecording) {
+    BancTrace banc;
+    // Twenty rounds are the transfer; those that follow are the loading.
+    banc.AuTour(25, [&] {
+        ASSERT_TRUE(banc.acces.Presente()->Chargement);
+        EXPECT_FALSE(Telechargement::EnTransfert());
+        banc.etabli.horloge.instant = banc.etabli.horloge.instant.addSecs(60);
+        banc.Telecharger();
+    });
+    banc.Telecharger();
+    const QByteArray seconde = banc.etabli.Lire(QStringLiteral("2026-03-05-14-08-09.txt"));
+    EXPECT_EQ(banc.NombreLignes(), 19);
+    EXPECT_EQ(Clair(seconde), Clair(banc.Mesures()));
+    EXPECT_FALSE(banc.ecran.etat.EnLecture);
+    EXPECT_FALSE(banc.acces.Presente()->Chargement);
+    EXPECT_EQ(banc.PoigneesOuvertes(), 0);
+    EXPECT_TRUE(banc.etabli.fautes.empty());
+}
