@@ -19,8 +19,7 @@ class Programme {
     Programme(const Programme&) = delete;
     Programme& operator=(const Programme&) = delete;
 
-    /// Runs the Load and shows the main form. False when a fault ended it, or when the main form
-    /// was closed meanwhile.
+    /// Runs the Load and shows the main form. False when a fault ended it.
     bool Demarrer();
 
     MainScreen ecran;

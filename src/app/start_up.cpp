@@ -21,9 +21,10 @@ QString TexteReglage(MainScreen& ecran, const QString& cle) {
 void ReglerMemoire(MainScreen& ecran) {
     ecran.etat.CapaciteMemoire = 540606;
     ecran.etat.Connected = false;
+    // A number that is no code at all, too large for one among them, changes nothing.
+    const double taille = ValeurDebut(TexteReglage(ecran, QStringLiteral("Taille")));
     for (const int code : {1, 2, 4})
-        if (ValeurDebut(TexteReglage(ecran, QStringLiteral("Taille"))) == code)
-            AppliquerTaille(ecran.etat, code);
+        if (taille == code) AppliquerTaille(ecran.etat, code);
     ecran.ui->ProgressBar1->FixerMinimum(0);
     ecran.ui->ProgressBar1->FixerMaximum(ecran.etat.CapaciteMemoire);
 }

@@ -22,6 +22,13 @@ void Regler(BancProgramme& banc, const QByteArray& element, const QByteArray& va
     banc.etabli.Ecrire(QStringLiteral("config.xml"), texte);
 }
 
+/// Gives a window the focus, as the operator or the end of another window would.
+bool DevientActive(QWidget* fenetre) {
+    if (fenetre == nullptr) return false;
+    fenetre->activateWindow();
+    return QTest::qWaitForWindowActive(fenetre);
+}
+
 TEST(Activation, ShowsTheSplashOnceAStartAndSetsItsTimerToTwoSeconds) {
     BancProgramme banc;
     Regler(banc, "Splash", "True");
@@ -47,6 +54,35 @@ TEST(Activation, ShowsNoSplashWhenTheSettingIsFalse) {
     banc.programme->activation.Activer();
     EXPECT_EQ(banc.programme->activation.Splash(), nullptr);
     EXPECT_FALSE(banc.ecran().etat.SplashAffiche);
+}
+
+TEST(Activation, ASplashTurnedOnLaterIsShownAtTheNextActivation) {
+    BancProgramme banc;
+    Regler(banc, "Splash", "False");
+    banc.Construire();
+    banc.programme->activation.Activer();
+    Regler(banc, "Splash", "True");
+    banc.programme->activation.Activer();
+    ASSERT_NE(banc.programme->activation.Splash(), nullptr);
+    EXPECT_TRUE(banc.programme->activation.Splash()->isVisible());
+}
+
+TEST(Activation, TheSplashIsAFormWhoseEndActivatesTheMainFormAgain) {
+    BancProgramme banc;
+    Regler(banc, "Splash", "True");
+    ASSERT_TRUE(banc.Demarrer(-1));
+    ASSERT_TRUE(DevientActive(banc.programme->activation.Splash()));
+    EXPECT_EQ(banc.ecran().width(), 620);
+    EXPECT_TRUE(banc.ecran().etat.SplashAffiche);
+    Regler(banc, "Maintenance", "True");
+    banc.ecran().etat.EnLecture = true;
+    banc.programme->activation.Splash()->close();
+    ASSERT_TRUE(DevientActive(&banc.ecran()));
+    EXPECT_GE(banc.ecran().width(), 957);
+    EXPECT_FALSE(banc.ecran().etat.EnLecture);
+    // There is no second splash.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(banc.programme->activation.Splash(), nullptr);
 }
 
 TEST(Activation, TheWidthFollowsTheMaintenanceSettingAtEachActivation) {
@@ -76,6 +112,13 @@ TEST(Activation, EndsADownloadThatRuns) {
     EXPECT_FALSE(banc.ecran().etat.EnLecture);
 }
 
+TEST(Activation, TheFirstShowOfTheProgramIsOne) {
+    BancProgramme banc;
+    Regler(banc, "Splash", "True");
+    ASSERT_TRUE(banc.Demarrer(-1));
+    EXPECT_TRUE(banc.ecran().etat.SplashAffiche);
+}
+
 struct Suivi : testing::Test {
     BancProgramme banc;
     int activations = 0;
@@ -102,6 +145,38 @@ TEST_F(Suivi, TheReturnFromABoxOrFromAnotherProgramIsNone) {
     // Another program: no window of ours in between.
     suivi.FenetreActive(&banc.ecran());
     EXPECT_EQ(activations, 1);
+}
+
+TEST_F(Suivi, HearsOfTheWindowsByItself) {
+    SuiviActivation suivi(banc.ecran(), [this] { ++activations; });
+    banc.ecran().etat.SplashAffiche = true;
+    banc.ecran().show();
+    ASSERT_TRUE(DevientActive(&banc.ecran()));
+    EXPECT_EQ(activations, 1);
+
+    QMessageBox boite(QMessageBox::Information, QStringLiteral("k-Pod"), QStringLiteral("told"),
+                      QMessageBox::Ok, &banc.ecran());
+    boite.show();
+    ASSERT_TRUE(DevientActive(&boite));
+    boite.close();
+    ASSERT_TRUE(DevientActive(&banc.ecran()));
+    EXPECT_EQ(activations, 1);
+
+    Trace& trace = banc.programme->trace.Fiche();
+    trace.show();
+    ASSERT_TRUE(DevientActive(&trace));
+    ASSERT_TRUE(DevientActive(&banc.ecran()));
+    EXPECT_EQ(activations, 2);
+}
+
+TEST_F(Suivi, TheReturnFromAFormThatWasDeletedIsAnActivationToo) {
+    SuiviActivation suivi(banc.ecran(), [this] { ++activations; });
+    suivi.FenetreActive(&banc.ecran());
+    suivi.FenetreActive(&banc.programme->trace.Fiche());
+    banc.programme->trace.Presente()->close();
+    QCoreApplication::processEvents();
+    suivi.FenetreActive(&banc.ecran());
+    EXPECT_EQ(activations, 2);
 }
 
 TEST_F(Suivi, TheFirstFormMayBeADialogOfTheStart) {

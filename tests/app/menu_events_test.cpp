@@ -43,6 +43,16 @@ TEST(SplashMenu, FlipsItsMarkAndStoresTrueOrFalse) {
     EXPECT_EQ(configuration.LitSplash(), avant);
 }
 
+TEST(SplashMenu, IsMarkedAtTheStartAccordingToTheSetting) {
+    for (const bool voulu : {true, false}) {
+        BancProgramme banc;
+        banc.Construire();
+        banc.ecran().configuration.EcritSplash(voulu);
+        ASSERT_TRUE(banc.programme->Demarrer());
+        EXPECT_EQ(banc.ui().MnuSplash->isChecked(), voulu);
+    }
+}
+
 TEST(AdvancedModeMenu, IsThereUncheckedAndHasNoEffectOnTheState) {
     BancProgramme banc;
     ASSERT_TRUE(banc.Demarrer(-1));

@@ -74,6 +74,30 @@ TEST_F(Road, ASecondClickCancelsAndLeavesACompleteFileWithItsCurve) {
     EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);
 }
 
+TEST_F(Road, GoingToTheViewerAndBackCancelsTheDownload) {
+    int tours = 0;
+    banc.etabli.respiration.ReglerPas(std::chrono::milliseconds(0));
+    banc.etabli.respiration.ReglerEvenements([&] {
+        if (++tours != 300) return;
+        BancProgramme::Cliquer(banc.ui().VoirLesValeurs);
+        ASSERT_TRUE(QTest::qWaitForWindowActive(banc.programme->trace.Presente()));
+        EXPECT_TRUE(banc.ecran().etat.EnLecture);
+        banc.ecran().activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&banc.ecran()));
+        EXPECT_FALSE(banc.ecran().etat.EnLecture);
+        // The caption still says that a click cancels: this one begins nothing.
+        BancProgramme::Cliquer(banc.ui().LireValeurs);
+    });
+    BancProgramme::Cliquer(banc.ui().LireValeurs);
+    const int lignes = Lignes(base + QStringLiteral(".txt"));
+    EXPECT_GT(lignes, 100);
+    EXPECT_LT(lignes, 400);
+    EXPECT_TRUE(banc.etabli.Lire(base + QStringLiteral(".err")).endsWith("End Parity Control"));
+    EXPECT_EQ(banc.etabli.dialogues.boites.size(), 1U);
+    EXPECT_EQ(banc.programme->trace.Presente()->modele.Serie(0).Nombre(), lignes - 1);
+    EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);
+}
+
 TEST_F(Road, ALoggerPulledOutKeepsWhatWasReceivedAndSaysSo) {
     int tours = 0;
     banc.etabli.respiration.ReglerPas(std::chrono::milliseconds(0));

@@ -149,6 +149,21 @@ TEST(Load, AMissingLanguageOpensWithNoneSelectedAndChoosingOneRepairsAllLists) {
     EXPECT_TRUE(banc.sorties.empty());
 }
 
+TEST(Load, AListOfFewerPeriodsThanTheDefaultsKeepsItsFirstSelection) {
+    BancProgramme banc;
+    QByteArray texte = banc.etabli.Lire(QStringLiteral("config.xml"));
+    const auto fin = texte.indexOf("</ListePeriode>");
+    qsizetype coupe = texte.indexOf("<ListePeriode>");
+    for (int i = 0; i < 10; ++i)
+        coupe = texte.indexOf("</Ligne>", coupe) + 8;
+    ASSERT_LT(coupe, fin);
+    banc.etabli.Ecrire(QStringLiteral("config.xml"), texte.remove(coupe, fin - coupe));
+    ASSERT_TRUE(banc.Demarrer(-1));
+    EXPECT_TRUE(banc.sorties.empty());
+    EXPECT_EQ(banc.ui().ListePeriodeEchantillonage->Nombre(), 10);
+    EXPECT_EQ(banc.ui().ListePeriodeEchantillonage->Index(), 1);
+}
+
 TEST(Load, AMissingConfigurationIsTheGeneralFailure) {
     BancProgramme banc;
     QFile::remove(banc.etabli.Chemin(QStringLiteral("config.xml")));
@@ -247,6 +262,22 @@ TEST(Leaving, SortirSendsNoCommandAndSavesNothing) {
     EXPECT_EQ(pod.journal.Total(), 0);
     EXPECT_EQ(banc.etabli.Lire(QStringLiteral("config.xml")), avant);
     EXPECT_TRUE(banc.ecran().etat.EnFermeture);
+}
+
+TEST(Leaving, SortirAndTheFrameCloseTheLink) {
+    for (const bool bouton : {true, false}) {
+        BancProgramme banc;
+        EnregistreurSimule& pod = banc.bus.Brancher(simulateur::KPod2100(maintenantSimule));
+        ASSERT_TRUE(banc.Demarrer());
+        banc.programme->lien.OuvreUSB(pod.identite.usb);
+        ASSERT_EQ(banc.bus.PoigneesOuvertes(), 2);
+        if (bouton)
+            BancProgramme::Cliquer(banc.ui().Sortir);
+        else
+            banc.ecran().close();
+        EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);
+        EXPECT_EQ(banc.programme->lien.WriteHandle, 0);
+    }
 }
 
 TEST(Leaving, ClosingTheFrameWithNothingOpenClosesHandleZeroHarmlessly) {
