@@ -8,16 +8,13 @@
 #include "logger/clock_correction.h"
 #include "logger/context_reading.h"
 #include "logger/display_statement.h"
-#include "logger/duration_rules.h"
 #include "logger/identity_reading.h"
 #include "logger/memory_pointers.h"
 #include "logger/mode_reading.h"
-#include "logger/parameter_report.h"
 #include "logger/recording_summary.h"
+#include "logger/schedule_reading.h"
 #include "platform/code_page.h"
-#include "platform/colour.h"
 #include "platform/numbers.h"
-#include "shell/dates.h"
 #include "ui_main_screen.h"
 
 namespace bornika {
@@ -25,8 +22,6 @@ namespace bornika {
 namespace {
 
 constexpr int caracteresParCommande = 7;
-constexpr Couleur noir = 0;
-constexpr Couleur rouge = 255;
 
 Suite CommencerLecture(LectureParametres& lecture) {
     EtatApplication& etat = lecture.ecran.etat;
@@ -46,78 +41,6 @@ Suite RouvrirLien(LectureParametres& lecture) {
 Suite LirePointsEtalonnage(LectureParametres& lecture) {
     return LireEtalonnageCapteur(lecture.poste, lecture.AncienFirmware) ? Suite::Continuer
                                                                         : Suite::EtalonnageEnCours;
-}
-
-/// Index of the first entry that carries this number, -1 for none.
-int Chercher(const ListeDeroulante& liste, int donnee) {
-    for (int i = 0; i < liste.Nombre(); ++i) {
-        if (liste.Donnee(i) == donnee) return i;
-    }
-    return -1;
-}
-
-Suite LireProchaineMesure(LectureParametres& lecture) {
-    MainScreen& ecran = lecture.ecran;
-    const auto& ui = ecran.ui;
-    if (!lecture.Demander(CMD_LIT_PROCHAINE_MESURE)) return Suite::Terminer;
-    if (lecture.Octet(0) != CMD_LIT_PROCHAINE_MESURE) return Suite::Continuer;
-    ui->ProchaineMesure->setText(EpochVersTexte(lecture.Quatre(1), ecran.systeme.regional));
-    const int periode = lecture.Mot(5);
-    const int index = Chercher(*ui->ListePeriodeEchantillonage, periode);
-    if (index >= 0) afficher([&] { ui->ListePeriodeEchantillonage->Choisir(index); });
-    if (index == 0) afficher([&] { ui->DureeSaisie->setText(QString::number(periode)); });
-    afficher([&] { ui->NbMesures->setText(QString::number(lecture.Octet(7))); });
-    return Suite::Continuer;
-}
-
-Suite NoterPeriode(LectureParametres& lecture) {
-    AjouteRapport(lecture.ecran, QStringLiteral("LabelPeriodeEchantillonnage"),
-                  lecture.ecran.ui->ListePeriodeEchantillonage->Texte());
-    return Suite::Continuer;
-}
-
-Suite LireDemarrage(LectureParametres& lecture) {
-    MainScreen& ecran = lecture.ecran;
-    if (!lecture.Demander(CMD_LIT_DEMARRAGE)) return Suite::Terminer;
-    if (lecture.Octet(0) != CMD_LIT_DEMARRAGE) return Suite::Continuer;
-    lecture.DateDemarrageLue = lecture.Quatre(1);
-    const QDateTime instant = EpochVersInstant(lecture.DateDemarrageLue);
-    afficher([&] { ecran.ui->DTPicker1->setDateTime(instant); });
-    afficher([&] { ecran.ui->DTPicker2->setDateTime(instant); });
-    afficher([&] {
-        MontrerFin(ecran, DateVersEpoch(VersDateOrdinateur(ecran.ui->DTPicker1->dateTime())));
-    });
-    return Suite::Continuer;
-}
-
-void MontrerCarte(MainScreen& ecran, bool presente) {
-    QLabel& etiquette = *ecran.ui->SDCardState;
-    etiquette.setText(ecran.Texte(presente ? QStringLiteral("SD CARD Present")
-                                           : QStringLiteral("SD CARD Absent")));
-    QPalette palette = etiquette.palette();
-    palette.setColor(QPalette::WindowText, VersQColor(presente ? noir : rouge));
-    etiquette.setPalette(palette);
-}
-
-Suite LireDateCourante(LectureParametres& lecture) {
-    MainScreen& ecran = lecture.ecran;
-    const auto& ui = ecran.ui;
-    if (!lecture.Demander(CMD_LIT_DATE_COURANTE)) return Suite::Terminer;
-    if (lecture.Octet(0) != CMD_LIT_DATE_COURANTE) return Suite::Continuer;
-    lecture.DateLectureLocale = ecran.systeme.horloge.Maintenant();
-    ui->DateCourante->setText(EpochVersTexte(lecture.Quatre(1), ecran.systeme.regional));
-    const int index = Chercher(*ui->PeriodeTrigger, lecture.Mot(5));
-    if (index >= 0) afficher([&] { ui->PeriodeTrigger->Choisir(index); });
-    MontrerCarte(ecran, lecture.Octet(7) == 1);
-    return Suite::Continuer;
-}
-
-Suite NoterPeriodeTrigger(LectureParametres& lecture) {
-    const auto& ui = lecture.ecran.ui;
-    if (ui->PeriodeTrigger->Texte() != ui->ListePeriodeEchantillonage->Texte()) {
-        AjouteRapport(lecture.ecran, QStringLiteral("Label10"), ui->PeriodeTrigger->Texte());
-    }
-    return Suite::Continuer;
 }
 
 /// Adds seven characters to the comment, whatever the reply's first byte: blanks stay blanks.
