@@ -87,7 +87,8 @@ void ListeUnites_Click(MainScreen& ecran) {
     RemettreSeuils(ecran);
     if (ui->UnSeuil->isChecked()) MontrerTexteSeuil(ecran);
     if (ui->DeuxSeuils->isChecked()) {
-        ChercherTextesLimites(ecran);
+        ChercherTexteLimiteBasse(ecran);
+        ChercherTexteLimiteHaute(ecran);
         MontrerTextesLimites(ecran);
     }
     Donne_Resume(ecran);

@@ -91,7 +91,8 @@ void DeuxSeuils_Click(MainScreen& ecran) {
     ui->Frame1->setVisible(true);
     ui->LabelSeuil2->setVisible(true);
     ui->Seuil2->setVisible(true);
-    ignorer([&] { ChercherTextesLimites(ecran); });
+    ignorer([&] { ChercherTexteLimiteBasse(ecran); });
+    ignorer([&] { ChercherTexteLimiteHaute(ecran); });
     MontrerTextesLimites(ecran);
     // Above means outside the band here, below inside it: only the captions change.
     FixerCaption(*ui->AuDessous, ecran.textes.TexteEnDedans);

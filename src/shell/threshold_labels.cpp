@@ -17,8 +17,11 @@ void MontrerTexteSeuil(MainScreen& ecran) {
     ecran.ui->LabelSeuil1->setText(AvecUnite(ecran, ecran.textes.TexteSeuil));
 }
 
-void ChercherTextesLimites(MainScreen& ecran) {
+void ChercherTexteLimiteBasse(MainScreen& ecran) {
     ecran.textes.TexteLimiteBasse = ecran.Texte(QStringLiteral("Limite basse"));
+}
+
+void ChercherTexteLimiteHaute(MainScreen& ecran) {
     ecran.textes.TexteLimiteHaute = ecran.Texte(QStringLiteral("Limite Haute"));
 }
 

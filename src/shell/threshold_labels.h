@@ -7,8 +7,9 @@ class MainScreen;
 
 /// Shows the stored text of one threshold.
 void MontrerTexteSeuil(MainScreen& ecran);
-/// Looks the texts of the two limits up again and keeps them. Fault 91 without the configuration.
-void ChercherTextesLimites(MainScreen& ecran);
+/// Look the text of one limit up again and keep it. Fault 91 without the configuration.
+void ChercherTexteLimiteBasse(MainScreen& ecran);
+void ChercherTexteLimiteHaute(MainScreen& ecran);
 /// Shows the stored texts of the lower and the upper limit.
 void MontrerTextesLimites(MainScreen& ecran);
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QDir>
 #include <QFile>
 
 #include "logger_bench.h"
@@ -262,6 +263,21 @@ TEST_F(Seuils, TheChoiceOfTwoIgnoresEveryFault) {
     EXPECT_FALSE(ui.Frame1->isHidden());
     EXPECT_EQ(Clair(ui.AuDessous->text()), "dedans");
     EXPECT_EQ(ecran.focusWidget(), ui.Seuil2);
+}
+
+TEST_F(Seuils, TheChoiceOfTwoGoesOnBehindTheTextThatFails) {
+    QByteArray contenu = banc.etabli.Lire(QStringLiteral("config.xml"));
+    contenu.replace(">Limite basse<", ">retirée<");
+    banc.etabli.Ecrire(QStringLiteral("config.xml"), contenu);
+    // A folder in the way of the new file: the missing entry cannot be added.
+    ASSERT_TRUE(QDir(banc.etabli.systeme.dossier)
+                    .mkdir(QStringLiteral(".bornika-%1.tmp").arg(QApplication::applicationPid())));
+    ecran.textes.TexteLimiteBasse = QStringLiteral("gardé");
+    ecran.textes.TexteLimiteHaute = QStringLiteral("vieux");
+    ui.DeuxSeuils->setChecked(true);
+    EXPECT_EQ(Clair(ui.LabelSeuil1->text()), "gardé (bar)");
+    EXPECT_EQ(Clair(ui.LabelSeuil2->text()), "Limite haute (bar)");
+    EXPECT_TRUE(banc.etabli.fautes.empty());
 }
 
 TEST_F(Seuils, TheChoiceOfOneDoesNotIgnoreThem) {
