@@ -34,7 +34,6 @@ VueGraphe::VueGraphe(QWidget* parent)
     setInteractions(QCP::iNone);
     setAutoAddPlottableToLegend(false);
     setNotAntialiasedElements(QCP::aePlottables);
-    setPlottingHint(QCP::phFastPolylines);
     PoserElements();
     FixerApparence(apparence_);
     connect(this, &QCustomPlot::afterReplot, this, [this] { garder([&] { Q_EMIT Redessin(); }); });
@@ -163,8 +162,7 @@ void VueGraphe::AccorderLegende() {
         legend->clearItems();
         for (int i = 0; i < modele_->NombreSeries(); ++i) {
             auto* element = new ElementLegende(legend, i);
-            element->setFont(legend->font());
-            element->setTextColor(legend->textColor());
+            element->Habiller(legend->font(), legend->textColor());
             legend->addItem(element);
         }
     }

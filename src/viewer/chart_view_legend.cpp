@@ -21,7 +21,16 @@ bool ElementLegende::Regler(const QString& titre, const QColor& couleur, bool ac
     titre_ = titre;
     couleur_ = couleur;
     actif_ = actif;
+    image_ = {};
+    tailleVoulue_ = {};
     return true;
+}
+
+void ElementLegende::Habiller(const QFont& police, const QColor& texte) {
+    setFont(police);
+    setTextColor(texte);
+    image_ = {};
+    tailleVoulue_ = {};
 }
 
 int ElementLegende::Cote() const {
@@ -29,41 +38,61 @@ int ElementLegende::Cote() const {
 }
 
 QSize ElementLegende::minimumOuterSizeHint() const {
+    if (tailleVoulue_.isValid()) return tailleVoulue_;
     const QFontMetrics mesures(mFont);
-    return {Cote() + longueurTrait + 3 * ecart + mesures.horizontalAdvance(titre_) +
-                mMargins.left() + mMargins.right(),
-            qMax(Cote() + 2, mesures.height()) + mMargins.top() + mMargins.bottom()};
+    tailleVoulue_ = {Cote() + longueurTrait + 3 * ecart + mesures.horizontalAdvance(titre_) +
+                         mMargins.left() + mMargins.right(),
+                     qMax(Cote() + 2, mesures.height()) + mMargins.top() + mMargins.bottom()};
+    return tailleVoulue_;
 }
 
 void ElementLegende::draw(QCPPainter* peintre) {
-    const QRect zone = mRect;
+    if (peintre->modes().testFlag(QCPPainter::pmNoCaching))
+        Peindre(*peintre, mRect);
+    else
+        peintre->drawPixmap(mRect.topLeft(), Image(parentPlot()->bufferDevicePixelRatio()));
+}
+
+const QPixmap& ElementLegende::Image(double rapport) {
+    const QSize taille = minimumOuterSizeHint();
+    if (image_.isNull() || image_.devicePixelRatio() != rapport) {
+        image_ = QPixmap(taille * rapport);
+        image_.setDevicePixelRatio(rapport);
+        image_.fill(Qt::transparent);
+        QPainter peintre(&image_);
+        Peindre(peintre, QRect(QPoint(0, 0), QSize(taille.width(), mRect.height())));
+    }
+    return image_;
+}
+
+void ElementLegende::Peindre(QPainter& peintre, const QRect& zone) const {
     const int cote = Cote();
     const QRect boite(zone.left() + 1, zone.center().y() - cote / 2, cote, cote);
     QColor texte = mTextColor;
     if (!actif_) texte.setAlphaF(0.65F);
 
-    peintre->setPen(QPen(texte, 1));
-    peintre->setBrush(Qt::NoBrush);
-    peintre->drawRect(boite);
+    peintre.setPen(QPen(texte, 1));
+    peintre.setBrush(Qt::NoBrush);
+    peintre.drawRect(boite);
     if (actif_) {
-        peintre->setAntialiasing(true);
-        peintre->setPen(QPen(mTextColor, 2));
+        peintre.setRenderHint(QPainter::Antialiasing, true);
+        peintre.setPen(QPen(mTextColor, 2));
         const QPointF coche[] = {QPointF(boite.left() + cote * 0.2, boite.top() + cote * 0.55),
                                  QPointF(boite.left() + cote * 0.42, boite.top() + cote * 0.78),
                                  QPointF(boite.left() + cote * 0.85, boite.top() + cote * 0.25)};
-        peintre->drawPolyline(coche, 3);
-        peintre->setAntialiasing(false);
+        peintre.drawPolyline(coche, 3);
+        peintre.setRenderHint(QPainter::Antialiasing, false);
     }
     const int debut = boite.right() + ecart;
     QColor trait = couleur_;
     if (!actif_) trait.setAlphaF(0.5F);
-    peintre->setPen(QPen(trait, 3));
+    peintre.setPen(QPen(trait, 3));
     const QPointF depart(debut, zone.center().y());
-    peintre->drawLine(depart, depart + QPointF(longueurTrait, 0));
-    peintre->setPen(texte);
-    peintre->setFont(mFont);
-    peintre->drawText(zone.adjusted(debut + longueurTrait + ecart - zone.left(), 0, 0, 0),
-                      Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip, titre_);
+    peintre.drawLine(depart, depart + QPointF(longueurTrait, 0));
+    peintre.setPen(texte);
+    peintre.setFont(mFont);
+    peintre.drawText(zone.adjusted(debut + longueurTrait + ecart - zone.left(), 0, 0, 0),
+                     Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip, titre_);
 }
 
 int SerieSousLegende(const QCPLegend& legende, QPointF position) {

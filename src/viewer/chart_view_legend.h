@@ -17,17 +17,26 @@ class ElementLegende : public QCPAbstractLegendItem {
     bool Actif() const { return actif_; }
     QString Titre() const { return titre_; }
 
+    /// Font and colour of the text.
+    void Habiller(const QFont& police, const QColor& texte);
+
   protected:
     void draw(QCPPainter* peintre) override;
     QSize minimumOuterSizeHint() const override;
 
   private:
     int Cote() const;
+    void Peindre(QPainter& peintre, const QRect& zone) const;
+    const QPixmap& Image(double rapport);
 
     int serie_;
     QString titre_;
     QColor couleur_;
     bool actif_ = true;
+    /// What was drawn last; making text anew at each redraw of the chart would cost more than the
+    /// curves of a zoomed view.
+    QPixmap image_;
+    mutable QSize tailleVoulue_;
 };
 
 /// The series under a point of the chart when it lies on a line of the legend, otherwise -1.

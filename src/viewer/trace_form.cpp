@@ -18,8 +18,9 @@ namespace bornika {
 
 namespace {
 
-constexpr int bord = 12;  // pixels between the form's frame and its controls
-constexpr int ecart = 8;  // pixels between controls
+constexpr int bord = 12;           // pixels between the form's frame and its controls
+constexpr int ecart = 8;           // pixels between controls
+constexpr int largeurDebit = 680;  // pixels, more would only tear the flow settings apart
 constexpr int pasAnimation = 10;
 
 }  // namespace
@@ -108,9 +109,10 @@ void Trace::Ajuster() {
     haut.setWidth(qMax(ui->BandeauHaut->minimumSizeHint().width(), width() - 2 * bord));
     ui->BandeauHaut->setGeometry(haut);
     const int gauche = ui->Commentaires->geometry().right() + 2 * ecart;
-    ui->BandeauBas->setGeometry(
-        gauche, dessous, qMax(ui->BandeauBas->minimumSizeHint().width(), width() - bord - gauche),
-        ui->Commentaires->height());
+    const int place = qMin(largeurDebit, width() - bord - gauche);
+    ui->BandeauBas->setGeometry(gauche, dessous,
+                                qMax(ui->BandeauBas->minimumSizeHint().width(), place),
+                                ui->Commentaires->height());
     ui->TChart1->Repaint();
 }
 
