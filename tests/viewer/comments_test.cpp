@@ -116,5 +116,20 @@ TEST(CommentFile, ThatIsMissingIsMadeAndEmptiesTheBox) {
     EXPECT_TRUE(v.etabli.Fichiers().contains("a.cmt"));
 }
 
+TEST(Comments, ADiskThatIsFullIsAFault) {
+    Visionneuse v;
+    ASSERT_TRUE(QFile::link("/dev/full", v.etabli.Chemin("a.cmt")));
+    v.Ui().Commentaires->setPlainText("x");
+    EXPECT_THROW(EnregistrerCommentaires(v.Fiche(), "a.txt"), FauteExecution);
+}
+
+TEST(CommentFile, WhoseFirstLineIsEmptyEmptiesTheBox) {
+    Visionneuse v;
+    v.etabli.Ecrire("a.cmt", "\r\nsecond line\r\n");
+    v.Ui().Commentaires->setPlainText("old");
+    LireFichierCommentaires(v.Fiche(), "a.b.txt");
+    EXPECT_EQ(v.Ui().Commentaires->toPlainText(), QString());
+}
+
 }  // namespace
 }  // namespace bornika
