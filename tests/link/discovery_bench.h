@@ -38,7 +38,9 @@ class BancDeChoix {
             ouvertApres = dialogue.isVisible();
             dialogue.close();
         });
+        const int avant = montres;
         MontrerConnexion(banc.poste);
+        EXPECT_EQ(montres, avant + 1) << "the list was not shown";
     }
     void Selection(const std::function<void(FormSelection&)>& main) {
         ReglerMontreur([&](QDialog& dialogue) {
@@ -48,7 +50,9 @@ class BancDeChoix {
             ouvertApres = dialogue.isVisible();
             dialogue.close();
         });
+        const int avant = montres;
         MontrerSelection(banc.poste);
+        EXPECT_EQ(montres, avant + 1) << "the choice of a product was not shown";
     }
 
     static void Cliquer(frmConnect& fiche, int ligne) {

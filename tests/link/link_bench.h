@@ -6,6 +6,7 @@
 #include <QFile>
 #include <algorithm>
 #include <deque>
+#include <functional>
 #include <vector>
 
 #include "link/command_exchange.h"
@@ -27,6 +28,8 @@ class UsbDicte : public InterfaceUsb {
     std::uint32_t erreur = 0;
     QString texteErreur;
     int textesDemandes = 0;
+    /// Runs while a read waits.
+    std::function<void()> pendantLecture;
 
     int Compte() override { return 0; }
     IdentifiantUsb Identifiant(int) override { return 0; }
@@ -44,6 +47,7 @@ class UsbDicte : public InterfaceUsb {
     }
     int Lire(PoigneeUsb poignee, std::span<std::uint8_t> octets) override {
         appels << QStringLiteral("read %1: %2").arg(poignee).arg(octets.size());
+        if (pendantLecture) pendantLecture();
         const std::vector<std::uint8_t> reponse = Suivant(reponses, {});
         const std::size_t nombre = std::min(reponse.size(), octets.size());
         std::copy_n(reponse.begin(), nombre, octets.begin());
@@ -80,7 +84,11 @@ inline QByteArray TextesDuLien() {
 <Entree><Cle>Cancel</Cle><Texte>Annuler</Texte></Entree>
 <Entree><Cle>mnuconnect</Cle><Texte>Connexion</Texte></Entree>
 </Langue>
-<Langue NOM="English"><Entree><Cle>k-Pod Absent</Cle><Texte>no k-Pod</Texte></Entree></Langue>
+<Langue NOM="English"><Entree><Cle>k-Pod Absent</Cle><Texte>no k-Pod</Texte></Entree>
+<Entree><Cle>View All</Cle><Texte>View all</Texte></Entree>
+<Entree><Cle>Cancel</Cle><Texte>Cancel</Texte></Entree>
+<Entree><Cle>mnuconnect</Cle><Texte>Select a logger</Texte></Entree>
+</Langue>
 </Messages></Configuration>
 )";
 }
