@@ -1,8 +1,12 @@
 #include "link/command_exchange.h"
 
+#include <limits>
+
 #include "link/command_table.h"
 #include "link/frames.h"
 #include "link/link_bench.h"
+#include "simulator/presets.h"
+#include "simulator/simulated_bus.h"
 
 namespace bornika::essai {
 namespace {
@@ -27,7 +31,11 @@ TEST(MSB, ValueThatDoesNotFitSixteenBitsIsAFault) {
         EXPECT_EQ(FauteDe([&] { MSB(x); }), numero_faute::depassement) << x;
         EXPECT_EQ(FauteDe([&] { LSB(x); }), numero_faute::depassement) << x;
     }
+    EXPECT_EQ(FauteDe([&] { MSB(std::numeric_limits<double>::quiet_NaN()); }),
+              numero_faute::depassement);
     EXPECT_EQ(FauteDe([&] { MSB(65535.4); }), 0);
+    EXPECT_EQ(LSB(-0.5), 0);
+    EXPECT_EQ(MSB(-0.5), 0);
 }
 
 Tampon Plein() {
@@ -114,6 +122,83 @@ TEST(EnvoiEntete, MoreBytesThanTheBufferHoldsIsAFault) {
     EXPECT_EQ(FauteDe([&] { Envoi_Entete(b.poste, 9, buffer, 17, false); }), numero_faute::indice);
 }
 
+TEST(EnvoiEntete, BufferHoldsSixteenBytesOfReply) {
+    UsbDicte usb;
+    Banc b(usb);
+    b.lien.OuvreUSB(1);
+    usb.reponses = {{1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16}};
+    Tampon buffer = Plein();
+    EXPECT_TRUE(Envoi_Entete(b.poste, 9, buffer, 16, false));
+    EXPECT_EQ(buffer, (Tampon{77, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16}));
+}
+
+TEST(EnvoiEntete, CodeOrArgumentBeyondAByteIsAFaultAndNothingIsSent) {
+    UsbDicte usb;
+    Banc b(usb);
+    b.lien.OuvreUSB(1);
+    Tampon buffer{};
+    for (const int valeur : {256, -1}) {
+        EXPECT_EQ(FauteDe([&] { Envoi_Entete(b.poste, valeur, buffer, 8, false); }),
+                  numero_faute::depassement);
+        EXPECT_EQ(FauteDe([&] { Envoi_Entete(b.poste, 9, buffer, 8, false, valeur); }),
+                  numero_faute::depassement);
+    }
+    EXPECT_TRUE(usb.appels.filter(q("write")).isEmpty());
+}
+
+TEST(EnvoiEntete, WrongEchoIsDeliveredAndLeftToTheCaller) {
+    UsbDicte usb;
+    Banc b(usb);
+    b.lien.OuvreUSB(1);
+    usb.reponses = {{200, 1, 2}};
+    Tampon buffer{};
+    EXPECT_TRUE(Envoi_Entete(b.poste, CMD_LIT_MODE, buffer, 3, true));
+    EXPECT_EQ(buffer[1], 200);
+    EXPECT_EQ(buffer[3], 2);
+    EXPECT_TRUE(b.dialogues.boites.empty());
+}
+
+TEST(EnvoiEntete, ShortReplyOverwritesTheRestWithZeros) {
+    UsbDicte usb;
+    Banc b(usb);
+    b.lien.OuvreUSB(1);
+    usb.reponses = {{4, 9}};
+    Tampon buffer = Plein();
+    EXPECT_TRUE(Envoi_Entete(b.poste, CMD_LIT_MODE, buffer, 8, true));
+    EXPECT_EQ(buffer, (Tampon{77, 4, 9, 0, 0, 0, 0, 0, 0, 77, 77, 77, 77, 77, 77, 77, 77}));
+}
+
+TEST(EnvoiEntete, WhileTimeOutStandsItFailsWithoutReadingAndWithoutABox) {
+    UsbDicte usb;
+    Banc b(usb);
+    b.lien.OuvreUSB(1);
+    b.ecran.etat.TimeOut = true;
+    usb.reponses = {{4, 9}};
+    Tampon buffer = Plein();
+    EXPECT_FALSE(Envoi_Entete(b.poste, CMD_LIT_MODE, buffer, 8, true));
+    EXPECT_EQ(buffer, Plein());
+    EXPECT_TRUE(usb.appels.filter(q("read")).isEmpty());
+    EXPECT_TRUE(b.dialogues.boites.empty());
+}
+
+TEST(EnvoiEntete, LoggerPulledOutBetweenTwoCommandsIsLostAtTheSecond) {
+    BusSimule bus;
+    Banc b(bus);
+    const IdentifiantUsb id = bus.Brancher(simulateur::KPod2100(1700000000)).identite.usb;
+    b.lien.OuvreUSB(id);
+    Tampon buffer{};
+    EXPECT_TRUE(Envoi_Entete(b.poste, CMD_LIT_VERSION, buffer, 9, true));
+    EXPECT_EQ(buffer[1], CMD_LIT_VERSION);
+    bus.Debrancher(id);
+    EXPECT_FALSE(Envoi_Entete(b.poste, CMD_LIT_VERSION, buffer, 9, true));
+    EXPECT_TRUE(b.ecran.etat.TimeOut);
+    EXPECT_EQ(b.lien.ReadHandle, 0);
+    EXPECT_EQ(b.lien.WriteHandle, 0);
+    EXPECT_EQ(bus.PoigneesOuvertes(), 0);
+    ASSERT_EQ(b.dialogues.boites.size(), 1u);
+    EXPECT_EQ(b.dialogues.boites[0].texte, q("k-Pod absent"));
+}
+
 TEST(EnvoiEntete, DoesNotOpenOrCloseTheLink) {
     UsbDicte usb;
     Banc b(usb);
@@ -144,6 +229,8 @@ TEST(EchangeDirect, SilenceGivesZerosAndTheCataloguesText) {
     EXPECT_EQ(EchangeDirect(b.poste, TrameForceContexte(), longueurTrame, 1), Octets(1, 0));
     ASSERT_EQ(b.dialogues.boites.size(), 1u);
     EXPECT_EQ(b.dialogues.boites[0].texte, q("k-Pod absent"));
+    EXPECT_EQ(b.dialogues.boites[0].titre, QString());
+    EXPECT_TRUE(b.ecran.etat.TimeOut);
     b.ecran.etat.TimeOut = false;
     EchangeDirect(b.poste, TrameForceContexte(), longueurTrame, 1, false);
     EXPECT_EQ(b.dialogues.boites.size(), 1u);

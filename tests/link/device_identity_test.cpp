@@ -142,6 +142,19 @@ TEST(LitTypeKpod, FailureGivesEmptyText) {
     EXPECT_FALSE(b.ecran.etat.TimeOut);
     EXPECT_EQ(LitTypeKpod(b.poste), QString());
     EXPECT_TRUE(b.ecran.etat.TimeOut);
+    EXPECT_TRUE(b.dialogues.boites.empty());
+    EXPECT_EQ(b.lien.ReadHandle, 0);
+}
+
+TEST(LitTypeKpod, AsksTheChosenLoggerForItsVersionAndCloses) {
+    UsbDicte usb;
+    Banc b(usb);
+    b.ecran.etat.UsbID = 42;
+    usb.reponses = {Version(255, 2, 112)};
+    EXPECT_EQ(LitTypeKpod(b.poste), q("255"));
+    EXPECT_EQ(usb.appels, (QStringList{q("cancel 0"), q("close 0"), q("close 0"), q("open 42 = 1"),
+                                       q("open 42 = 2"), q("write 1: 9 0 0 0 0 0 0 0"),
+                                       q("read 2: 9"), q("cancel 2"), q("close 2"), q("close 1")}));
 }
 
 TEST(LitNumeroSerieKpod, ReadsFourBytesHighFirst) {
@@ -154,6 +167,17 @@ TEST(LitNumeroSerieKpod, ReadsFourBytesHighFirst) {
     EXPECT_EQ(b.lien.ReadHandle, 0);
     EXPECT_EQ(usb.appels.filter(q("write"))[0], q("write 1: 6 0 0 0 0 0 0 0"));
     EXPECT_EQ(usb.appels.filter(q("read"))[0], q("read 2: 8"));
+}
+
+TEST(LitNumeroSerieKpod, AsksTheChosenLoggerAndCloses) {
+    UsbDicte usb;
+    Banc b(usb);
+    b.ecran.etat.UsbID = 42;
+    usb.reponses = {{6, 0, 0, 0, 0, 0, 9, 0}};
+    EXPECT_EQ(LitNumeroSerieKpod(b.poste), q("9"));
+    EXPECT_EQ(usb.appels, (QStringList{q("cancel 0"), q("close 0"), q("close 0"), q("open 42 = 1"),
+                                       q("open 42 = 2"), q("write 1: 6 0 0 0 0 0 0 0"),
+                                       q("read 2: 8"), q("cancel 2"), q("close 2"), q("close 1")}));
 }
 
 TEST(LitNumeroSerieKpod, NumberBeyondThirtyOneBitsComesBackEmpty) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
 #include <set>
 
 #include "link/command_table.h"
@@ -87,6 +88,30 @@ TEST(Frames, AllThirtyFourCommandsByteForByte) {
     EXPECT_EQ(noms.size(), 34u);
 }
 
+TEST(Frames, CodesSixteenAndTwentyThreeAreFreeAndTwoCodesServeTwice) {
+    std::map<int, int> fois;
+    for (const Rangee& rangee : Table())
+        ++fois[rangee.trame.front()];
+    EXPECT_EQ(fois.count(16), 0u);
+    EXPECT_EQ(fois.count(23), 0u);
+    for (const auto& [code, nombre] : fois)
+        EXPECT_EQ(nombre, code == CMD_FLASH_LIT || code == CMD_LIT_EEPROM ? 2 : 1) << code;
+    EXPECT_EQ(CMD_FLASH_TAMPON, 18) << "the one code that its own frame does not show";
+}
+
+TEST(Frames, OnlyTwoCommandsAreNotEightBytesLong) {
+    for (const Rangee& rangee : Table()) {
+        const int code = rangee.trame.front();
+        const int longueur = code == CMD_LIT_MESURES ? longueurTrameMesures
+                             : code == CMD_IDENTIFIE ? longueurTrameIdentifie
+                                                     : longueurTrame;
+        EXPECT_EQ(rangee.trame.size(), static_cast<std::size_t>(longueur)) << rangee.nom;
+    }
+    EXPECT_EQ(longueurTrame, 8);
+    EXPECT_EQ(longueurTrameMesures, 2);
+    EXPECT_EQ(longueurTrameIdentifie, 12);
+}
+
 TEST(Frames, TheOtherValueOfEachSwitch) {
     EXPECT_EQ(TrameLitMesures(false), (Octets{10, 0}));
     EXPECT_EQ(TrameTestDebit(false), (Octets{20, 0, 32, 32, 32, 32, 32, 32}));
@@ -125,6 +150,9 @@ TEST(Frames, WordsBeyondSixteenBitsAreFaults) {
 TEST(Frames, BufferFrameNeedsSevenValues) {
     const std::vector<int> six{1, 2, 3, 4, 5, 6};
     EXPECT_EQ(FauteDe([&] { TrameFlashTampon(six); }), numero_faute::indice);
+    const std::vector<int> un{1};
+    EXPECT_EQ(FauteDe([&] { TrameEcritPointEtalonnage(1, 1, un); }), numero_faute::indice);
+    EXPECT_EQ(FauteDe([&] { TrameEcritDateEtalonnage(date, 1, un); }), numero_faute::indice);
 }
 
 }  // namespace

@@ -118,7 +118,18 @@ TEST(UsbWrite, MoreElementsThanTheArrayHasIsAFault) {
     EXPECT_EQ(FauteDe([&] { b.lien.UsbWrite(trame, 9); }), numero_faute::indice);
 }
 
-TEST(UsbRead, GivesTheBytesAndClearsTheFlag) {
+TEST(UsbWrite, StillSendsWhileTimeOutStands) {
+    UsbDicte usb;
+    Banc b(usb);
+    b.lien.OuvreUSB(1);
+    usb.appels.clear();
+    b.ecran.etat.TimeOut = true;
+    b.lien.UsbWrite(trame, 3);
+    EXPECT_EQ(usb.appels, QStringList{q("write 1: 1 2 3")});
+    EXPECT_TRUE(b.ecran.etat.TimeOut);
+}
+
+TEST(UsbRead, GivesTheBytesAndShowsNothing) {
     UsbDicte usb;
     Banc b(usb);
     b.lien.OuvreUSB(1);
@@ -128,6 +139,37 @@ TEST(UsbRead, GivesTheBytesAndClearsTheFlag) {
     EXPECT_EQ(usb.appels, QStringList{q("read 2: 4")});
     EXPECT_FALSE(b.ecran.etat.TimeOut);
     EXPECT_TRUE(b.dialogues.boites.empty());
+}
+
+TEST(UsbRead, AnswerLowersAFlagThatRoseWhileItWasWaitedFor) {
+    UsbDicte usb;
+    Banc b(usb);
+    b.lien.OuvreUSB(1);
+    usb.reponses = {{5}};
+    usb.pendantLecture = [&] { b.ecran.etat.TimeOut = true; };
+    EXPECT_EQ(b.lien.UsbRead(1, QString(), false, false, {}), Octets{5});
+    EXPECT_FALSE(b.ecran.etat.TimeOut);
+}
+
+TEST(UsbRead, FourthArgumentHasNoEffect) {
+    for (const bool quatrieme : {false, true}) {
+        UsbDicte usb;
+        Banc b(usb);
+        b.lien.OuvreUSB(1);
+        usb.reponses = {{1, 2}};
+        EXPECT_EQ(b.lien.UsbRead(2, q("m"), true, quatrieme, {}), (Octets{1, 2}));
+        EXPECT_EQ(b.lien.UsbRead(2, q("m"), true, quatrieme, {}), (Octets{0, 0}));
+        EXPECT_EQ(b.dialogues.boites.size(), 1u);
+        EXPECT_EQ(b.lien.ReadHandle, 0);
+    }
+}
+
+TEST(UsbRead, LengthBelowZeroIsAFaultAsItIsForAWrite) {
+    UsbDicte usb;
+    Banc b(usb);
+    EXPECT_EQ(FauteDe([&] { b.lien.UsbRead(-1, QString(), false, false, {}); }),
+              numero_faute::indice);
+    EXPECT_EQ(FauteDe([&] { b.lien.UsbWrite(trame, -1); }), numero_faute::indice);
 }
 
 TEST(UsbRead, ShortReplyIsASuccessFilledWithZeros) {
@@ -206,6 +248,20 @@ TEST(UsbRead, FailedOpenShowsItselfHere) {
     EXPECT_EQ(b.lien.ReadHandle, 0);
 }
 
+TEST(UsbRead, LostLinkLivesAgainOnceTheFlagIsLoweredAndItIsOpened) {
+    UsbDicte usb;
+    Banc b(usb);
+    b.lien.OuvreUSB(1);
+    b.lien.UsbRead(2, QString(), false, false, {});
+    usb.reponses = {{1, 2}};
+    b.lien.OuvreUSB(1);
+    EXPECT_EQ(b.lien.UsbRead(2, QString(), false, false, {}), (Octets{0, 0}));
+    b.ecran.etat.TimeOut = false;
+    b.lien.OuvreUSB(1);
+    EXPECT_EQ(b.lien.UsbRead(2, QString(), false, false, {}), (Octets{1, 2}));
+    EXPECT_FALSE(b.ecran.etat.TimeOut);
+}
+
 TEST(UsbRead, ReplyOfLengthZeroIsADeadDevice) {
     UsbDicte usb;
     Banc b(usb);
@@ -241,6 +297,24 @@ TEST(TraceErreurUSB, AsksForATextOnlyForRealErrorsAndShowsNothing) {
     usb.erreur = 19;
     b.lien.TraceErreurUSB(q("UsbWrite"));
     EXPECT_EQ(usb.textesDemandes, 1);
+    EXPECT_TRUE(b.dialogues.boites.empty());
+}
+
+TEST(TraceErreurUSB, IsAskedOnceAfterAWriteWhateverItsAttemptsAndOnceAfterARead) {
+    UsbDicte usb;
+    Banc b(usb);
+    b.lien.OuvreUSB(1);
+    usb.erreur = 19;
+    usb.ecritures = {false, false, false};
+    b.lien.UsbWrite(trame, 8);
+    EXPECT_EQ(usb.textesDemandes, 1);
+    usb.reponses = {{1}};
+    b.lien.UsbRead(1, QString(), false, false, {});
+    EXPECT_EQ(usb.textesDemandes, 2);
+    b.lien.UsbRead(1, QString(), false, false, {});
+    EXPECT_EQ(usb.textesDemandes, 3);
+    b.lien.UsbRead(1, QString(), false, false, {});
+    EXPECT_EQ(usb.textesDemandes, 3) << "no read was made";
     EXPECT_TRUE(b.dialogues.boites.empty());
 }
 
