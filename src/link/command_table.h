@@ -64,6 +64,7 @@ constexpr int UniteDeOctet(int octet) {
     return octet & 15;
 }
 
+/// The scale byte of two list indices, 0 to 15 each.
 constexpr int OctetEchelle(int echelle, int unite) {
     return echelle * 16 + unite;
 }

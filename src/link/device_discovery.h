@@ -19,13 +19,17 @@ void MontrerSelection(Poste& poste);
 /// too whose answer makes no sense; silent ones never are, and no message is shown.
 void Enumere(frmConnect& fiche, bool voirTout);
 
+/// Lists anew, with or without the loggers whose answer makes no sense.
 void ViewAll_Click(frmConnect& fiche);
 /// Chooses the logger of the current line and closes the form; nothing while everything is viewed.
 void Listekrow_Click(frmConnect& fiche);
+/// Closes the form; what was chosen before stays chosen.
 void ExitEtalonnage_Click(frmConnect& fiche);
 
-/// One of the four options was chosen, `index` 0 to 3.
+/// One of the four options was chosen, `index` 0 to 3: sets `TypekPod` (1 or 20) and `NomKpod`.
+/// The option tells the edition, not the folder.
 void TypekPod_Click(FormSelection& fiche, int index);
+/// Closes the form.
 void Selection_Click(FormSelection& fiche);
 
 /// Asks the logger `id` with `CMD_IDENTIFIE`. `texte` is "k-Pod ( 1) 2.1102" for example, `estKpod`

@@ -12,6 +12,7 @@ using Montreur = std::function<void(QDialog&)>;
 /// Replaces how dialogs are shown; an empty function brings the toolkit's own way back.
 void ReglerMontreur(Montreur montreur);
 
+/// Shows the dialog and waits until it is closed.
 void MontrerModal(QDialog& dialogue);
 
 }  // namespace bornika
