@@ -55,6 +55,8 @@ bool Programme::Demarrer() {
     });
     if (!charge) return false;
     ecran.show();
+    // The first show is an activation, also where no window manager hands out the focus.
+    garder([this] { suivi.FenetreActive(&ecran); });
     return true;
 }
 

@@ -61,6 +61,15 @@ TEST(Load, TheCaptionIsSetOnlyAfterTheDialogs) {
     EXPECT_TRUE(banc.ecran().windowTitle().startsWith(QStringLiteral("BORNIKA ")));
 }
 
+TEST(Load, ShowsItsDialogsBeforeTheMainForm) {
+    BancProgramme banc;
+    std::vector<bool> visibles;
+    banc.main = [&](QDialog&) { visibles.push_back(banc.ecran().isVisible()); };
+    ASSERT_TRUE(banc.Demarrer(-1));
+    EXPECT_EQ(visibles, std::vector<bool>({false, false}));
+    EXPECT_TRUE(banc.ecran().isVisible());
+}
+
 TEST(Load, SendsNoCommandBeyondWhatTheDeviceListNeeds) {
     BancProgramme banc;
     EnregistreurSimule& pod = banc.bus.Brancher(simulateur::KPod2100(maintenantSimule));
@@ -78,6 +87,9 @@ TEST(Load, SetsTheFormDefaults) {
     EXPECT_EQ(ui.ListePeriodeEchantillonage->Index(), 15);
     EXPECT_EQ(ui.PeriodeTrigger->Index(), 14);
     EXPECT_EQ(ui.ListeTemps->Index(), 1);
+    EXPECT_EQ(ui.ListeTemps->Nombre(), 4);
+    EXPECT_EQ(ui.ProgressBar1->Minimum(), 0);
+    EXPECT_TRUE(ui.Lire->toolTip().isEmpty());
     EXPECT_TRUE(ui.BufferTournant->isChecked());
     EXPECT_TRUE(ui.DerniereMesure->isHidden());
     EXPECT_TRUE(ui.Label5->isHidden());
@@ -224,10 +236,12 @@ TEST(Connect, WithTimeOutSetShowsCaptionAndFamilyButReadsNothing) {
     banc.main = [&](QDialog&) {
         banc.ecran().etat.TimeOut = true;
         banc.ecran().etat.TypekPod = 20;
+        banc.ecran().etat.NomKpod = QStringLiteral("another");
         pod.journal.Vider();
     };
     banc.ui().mnuconnect->trigger();
     EXPECT_EQ(pod.journal.Total(), 0);
+    EXPECT_EQ(banc.ecran().windowTitle(), QStringLiteral("BORNIKA another"));
     EXPECT_TRUE(banc.ui().LireValeurs->isHidden());
 }
 
