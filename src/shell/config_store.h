@@ -11,10 +11,11 @@ class ListeDeroulante;
 
 /// "config.xml" beside the program: all settings, lists and texts.
 ///
-/// Each operation loads the file, does its work and, if it changed something, saves the whole
-/// document. Nothing is cached, so a change made by hand while the program runs is seen by the next
-/// operation. A missing or malformed file is a fault (91) of the operation that met it. No
-/// operation keeps a node across a call that can run another one.
+/// Each operation reads the file, does its work and, if it changed something, saves the whole
+/// document, so a change made by hand while the program runs is seen by the next operation. A
+/// missing or malformed file is a fault (91) of the operation that met it, a save that fails one
+/// (70, or 61 for a full disk) that leaves the file as it was. No operation keeps a node across a
+/// call that can run another one.
 class Configuration {
   public:
     explicit Configuration(QString dossier);
@@ -31,8 +32,12 @@ class Configuration {
     /// Sets that text and saves. A missing element is not made and the file is not touched.
     void EcritConfig(const QString& valeur, const QString& cle, const QString& fichier = {});
 
+    /// Whether the splash form is shown: "True" in any case, or a number other than 0. False for
+    /// any other text and for a missing element.
     bool LitSplash();
+    /// Stores "True" or "False" there. A missing element is not made.
     void EcritSplash(bool valeur);
+    /// Whether the service controls can be reached, told like `LitSplash`. Nothing writes it.
     bool LitMaintenance();
 
     /// Text of a key in a language. An unknown key is added with `defaut` (the key itself when that
@@ -48,6 +53,8 @@ class Configuration {
     void LitEchelle(const QString& langue, int index, double& mini, double& maxi);
     /// Free duration in seconds: the first language's value divided by 10; 1 when there is no line.
     std::int32_t LitDureeSaisie(int index);
+    /// Stores that duration, in seconds, with the first language; nothing happens when there is no
+    /// line. Fault 6 when its tenfold does not fit 32 bits.
     void EcritDureeSaisie(int index, std::int32_t duree);
 
   private:

@@ -170,7 +170,10 @@ void DocumentConfiguration::Enregistrer() {
 
 pugi::xml_node DocumentConfiguration::Choisir(const QByteArray& chemin) const {
     try {
-        for (const pugi::xpath_node& trouve : document_.select_nodes(chemin.constData()))
+        pugi::xpath_node_set trouves = document_.select_nodes(chemin.constData());
+        // Nested matches come grouped by their parents otherwise.
+        trouves.sort();
+        for (const pugi::xpath_node& trouve : trouves)
             if (trouve.node().type() == pugi::node_element) return trouve.node();
         return {};
     } catch (const pugi::xpath_exception&) {

@@ -40,8 +40,8 @@ class DocumentConfiguration {
     void NoterChangement() { changee_ = true; }
     /// Replaces the file that was read last, unless its bytes would be the same.
     void Enregistrer();
-    /// First element that an XPath expression selects, none when there is none. Fault 5 for an
-    /// expression that is none.
+    /// First element, in the order of the file, that an XPath expression selects; none when there
+    /// is none. Fault 5 for an expression that is none.
     pugi::xml_node Choisir(const QByteArray& chemin) const;
 
   private:

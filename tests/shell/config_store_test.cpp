@@ -281,9 +281,15 @@ TEST(Codages, Utf16IsReadAndStaysSo) {
     octets.append(reinterpret_cast<const char*>(texte.utf16()), texte.size() * 2);
     Reglages r(octets);
     EXPECT_EQ(r.configuration.LitConfig(q("Langue")), francais);
-    r.configuration.EcritConfig(q("COM1"), q("Port"));
-    QByteArray attendu = octets;
-    EXPECT_EQ(r.Fichier().left(40), attendu.left(40));
+    r.configuration.EcritConfig(q("COM2"), q("Port"));
+    QString attendu = texte;
+    attendu.replace(q("COM1"), q("COM2"));
+    attendu.replace(q("<UniteImpulsion></UniteImpulsion>"), q("<UniteImpulsion/>"));
+    const QByteArray ecrits = r.Fichier();
+    EXPECT_EQ(ecrits.first(2), QByteArray("\xFF\xFE", 2));
+    EXPECT_EQ(QString::fromUtf16(reinterpret_cast<const char16_t*>(ecrits.constData()) + 1,
+                                 ecrits.size() / 2 - 1),
+              attendu);
     EXPECT_EQ(r.configuration.LitConfig(q("Langue")), francais);
 }
 
