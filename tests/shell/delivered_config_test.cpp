@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QSet>
 #include <QXmlStreamReader>
+#include <algorithm>
 #include <map>
 #include <vector>
 
@@ -70,6 +71,9 @@ void LireMessages(QXmlStreamReader& xml, Livree& livree) {
         while (xml.readNextStartElement()) {
             const auto enfants = Enfants(xml);
             ASSERT_EQ(enfants.size(), 2U);
+            // One shape for all: a new entry is a copy of the first.
+            EXPECT_EQ(enfants[0].first, QStringLiteral("Cle"));
+            EXPECT_EQ(enfants[1].first, QStringLiteral("Texte"));
             livree.messages[langue].emplace_back(enfants[0].second, enfants[1].second);
         }
     }
@@ -185,6 +189,54 @@ TEST_F(DeliveredConfig, HasOnlyPeriodsWhoseFullMemoryFitsTheLoggersClock) {
     }
 }
 
+TEST_F(DeliveredConfig, NamesEachPeriodByItsValue) {
+    const std::pair<const char*, double> mots[] = {{"second", 8}, {"minute", 480}, {"h", 28800}};
+    for (auto& [langue, listes] : livree.listes) {
+        const Liste& periodes = listes[QStringLiteral("ListePeriode")];
+        for (std::size_t i = 1; i < periodes.size(); ++i) {
+            const QStringList morceaux = periodes[i].texte.split(u' ');
+            ASSERT_EQ(morceaux.size(), 2) << periodes[i].texte.toStdString();
+            const QStringList fraction = morceaux[0].split(u'/');
+            const double nombre =
+                fraction[0].toDouble() / (fraction.size() > 1 ? fraction[1].toDouble() : 1);
+            const auto* mot = std::ranges::find_if(mots, [&](const auto& m) {
+                return morceaux[1].startsWith(QLatin1String(m.first));
+            });
+            ASSERT_NE(mot, std::end(mots)) << periodes[i].texte.toStdString();
+            EXPECT_EQ(periodes[i].valeur.toDouble(), nombre * mot->second)
+                << periodes[i].texte.toStdString();
+            EXPECT_EQ(morceaux[1].endsWith(u's'), nombre > 1) << periodes[i].texte.toStdString();
+        }
+    }
+}
+
+TEST_F(DeliveredConfig, NamesEachScaleByItsLimits) {
+    for (auto& [langue, listes] : livree.listes)
+        for (const Ligne& echelle : listes[QStringLiteral("ListeEchelles")]) {
+            EXPECT_EQ(echelle.texte, echelle.valeur + QStringLiteral(" - ") + echelle.maxi +
+                                         QStringLiteral(" bar"));
+            EXPECT_LT(echelle.valeur.toDouble(), echelle.maxi.toDouble());
+        }
+}
+
+TEST_F(DeliveredConfig, GivesEachUnitItsCountInOneBar) {
+    // One bar is 100 000 Pa; water at 4 degrees, standard gravity.
+    const std::map<QString, double> unBar = {{QStringLiteral("psi"), 1E5 / 6894.757},
+                                             {QStringLiteral("bar"), 1},
+                                             {QStringLiteral("mbar"), 1000},
+                                             {QStringLiteral("kPa"), 100},
+                                             {QStringLiteral("MPa"), 0.1},
+                                             {QStringLiteral("mCE"), 1E5 / 9806.65},
+                                             {QStringLiteral("mH2O"), 1E5 / 9806.65},
+                                             {QStringLiteral("kg/cm²"), 1E5 / 98066.5}};
+    for (auto& [langue, listes] : livree.listes)
+        for (const Ligne& unite : listes[QStringLiteral("ListeUnites")]) {
+            ASSERT_TRUE(unBar.contains(unite.texte)) << unite.texte.toStdString();
+            EXPECT_NEAR(unite.valeur.toDouble(), unBar.at(unite.texte) * 10000, 0.5)
+                << unite.texte.toStdString();
+        }
+}
+
 TEST_F(DeliveredConfig, HasOnlyPairsOfUnitAndScaleWhoseThresholdsFit16Bits) {
     for (auto& [langue, listes] : livree.listes)
         for (const Ligne& unite : listes[QStringLiteral("ListeUnites")])
@@ -288,6 +340,7 @@ TEST_F(DeliveredConfig, AnswersEveryLookupOfTheMainFormInEveryLanguage) {
 TEST_F(DeliveredConfig, CanBeWrittenWhereItIsPut) {
     essai::Etabli etabli;
     Configuration configuration(etabli.systeme.dossier);
+    EXPECT_TRUE(configuration.LitSplash());
     configuration.EcritSplash(false);
     EXPECT_FALSE(configuration.LitSplash());
 }
