@@ -7,6 +7,8 @@
 #include <ctime>
 #include <limits>
 
+#include "platform/fault.h"
+
 namespace bornika {
 namespace {
 
@@ -152,6 +154,16 @@ TEST(DateVersEpoch, TimeGivenApartReplacesHourMinuteAndSecond) {
 TEST(DateVersEpoch, DayBelowOneGivesZero) {
     EXPECT_EQ(DateVersEpoch(0.99, 0.5), 0);
     EXPECT_EQ(DateVersEpoch(-5), 0);
+}
+
+TEST(DateVersEpoch, OverflowsBehindTheLastSecondOfThirtyTwoBits) {
+    EXPECT_EQ(Vers("2038-01-19T03:14:07"), 2147483647);
+    try {
+        Vers("2038-01-19T03:14:08");
+        ADD_FAILURE() << "no fault";
+    } catch (const FauteExecution& faute) {
+        EXPECT_EQ(faute.numero(), numero_faute::depassement);
+    }
 }
 
 TEST(DateVersEpoch, SameResultsWhateverTheTimeZone) {

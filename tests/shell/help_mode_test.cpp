@@ -72,6 +72,31 @@ TEST_F(HelpMode, TakesTheNameAsTheDefaultOfAMissingHelpText) {
     EXPECT_EQ(ui.Seuil1->toolTip(), QStringLiteral("Seuil1"));
 }
 
+TEST_F(HelpMode, PutsTheProductsNameIntoHelpTexts) {
+    QByteArray fichier = etabli.Lire(QStringLiteral("config.xml"));
+    const QByteArray marque = "<Cle>AIDE_Lire</Cle><Texte>";
+    ASSERT_TRUE(fichier.contains(marque));
+    fichier.replace(marque, marque + "k-Pod: ");
+    etabli.Ecrire(QStringLiteral("config.xml"), fichier);
+    ecran.etat.TypekPod = 19;
+    AfficheAide(ecran, anglais, true);
+    EXPECT_TRUE(ui.Lire->toolTip().startsWith(QStringLiteral("k-Pod 33: ")));
+}
+
+TEST_F(HelpMode, GoesOnWithTheNextControlWhenALookupFails) {
+    QByteArray fichier = etabli.Lire(QStringLiteral("config.xml"));
+    fichier.replace("<Cle>AIDE_Lire</Cle>", "<Cle>autre</Cle>");
+    // An entry without key: a fault of every lookup that finds nothing before it.
+    fichier.insert(fichier.lastIndexOf("</Langue>"), "<Entree/>");
+    etabli.Ecrire(QStringLiteral("config.xml"), fichier);
+    ui.Lire->setToolTip(QStringLiteral("mine"));
+    EXPECT_NO_THROW(AfficheAide(ecran, anglais, true));
+    EXPECT_EQ(ui.Lire->toolTip(), QStringLiteral("mine"));
+    for (const QWidget* c : std::initializer_list<const QWidget*>{
+             ui.Ecrire, ui.Sortir, ui.ListeUnites, ui.Seuil1, ui.DTPicker2})
+        EXPECT_GT(c->toolTip().size(), 10) << c->objectName().toStdString();
+}
+
 TEST_F(HelpMode, IsSwitchedByItsMenuEntryWithItsCheckMark) {
     BrancherMenus(ecran);
     ui.MnuModeAide->trigger();

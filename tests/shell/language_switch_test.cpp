@@ -7,6 +7,7 @@
 
 #include "app/form_events.h"
 #include "app/menu_events.h"
+#include "shell/captions.h"
 #include "shell/main_screen.h"
 #include "support/fake_system.h"
 #include "ui_main_screen.h"
@@ -249,14 +250,65 @@ TEST_F(LanguageSwitch, ByHandResetsTheFormWritesTheSettingAndBuildsTheSummaryAga
 TEST_F(LanguageSwitch, GoesOnWithTheNextControlWhenALookupFails) {
     ChangeTextes(ecran, francais, true);
     ui.Lire->setText(QStringLiteral("kept"));
+    Oublier("Lire", "<Langue NOM=\"English\">");
+    // An entry without key: a fault of every lookup that finds nothing before it.
+    QByteArray fichier = etabli.Lire(config);
+    fichier.insert(fichier.lastIndexOf("</Langue>"), "<Entree/>");
+    etabli.Ecrire(config, fichier);
+    EXPECT_NO_THROW(ChangeTextes(ecran, anglais, false));
+    EXPECT_EQ(ui.Lire->text(), QStringLiteral("kept"));
+    EXPECT_EQ(ui.Ecrire->text(), QStringLiteral("Write"));
+    EXPECT_EQ(ui.Sortir->text(), QStringLiteral("Quit"));
+    EXPECT_EQ(ui.LabelNbMesures->text(), QStringLiteral("Measures before trigger"));
+    EXPECT_EQ(ui.mnuApropos->text(), QStringLiteral("About"));
+    EXPECT_EQ(etabli.Lire(config), fichier);
+}
+
+TEST_F(LanguageSwitch, LooksUpTheControlsInTheirOrderThenTheTextsOfLaterOperations) {
+    QByteArray fichier = etabli.Lire(config);
+    const qsizetype debut = fichier.indexOf("<Messages>");
+    fichier.replace(debut, fichier.indexOf("</Messages>") - debut,
+                    "<Messages><Langue NOM=\"Français\"><E><K>base</K><T/></E></Langue>");
+    etabli.Ecrire(config, fichier);
+    ui.DeuxSeuils->setChecked(true);
+    QStringList attendues{QStringLiteral("base")};
+    for (const QObject* controle : ControlesDe(ecran))
+        if (aCaption(*controle) && controle != ui.DureeEnregistrement &&
+            !attendues.contains(CleDe(*controle)))
+            attendues << CleDe(*controle);
+    EXPECT_TRUE(attendues.contains(QStringLiteral("AMPM")));
+    for (const char* cle : {"Valeurs stockées dans le fichier", "Ecriture des paramètres terminées",
+                            "Lecture des paramètres terminées", "k-Pod absent", "Limite basse",
+                            "Limite Haute", "Au dessus", "Au dessous", "En dehors", "En dedans"})
+        attendues << QString::fromUtf8(cle);
+
+    ChangeTextes(ecran, francais, false);
+
+    QStringList trouvees;
+    const QString apres = QString::fromUtf8(etabli.Lire(config));
+    for (qsizetype i = 0; (i = apres.indexOf(QLatin1String("<K>"), i)) >= 0; i += 3)
+        trouvees << apres.mid(i + 3, apres.indexOf(QLatin1String("</K>"), i) - i - 3);
+    EXPECT_EQ(trouvees, attendues);
+}
+
+TEST_F(LanguageSwitch, GivesOperationsTheTextOfTheLanguageAndProductOfTheMoment) {
+    ChangeTextes(ecran, francais, true);
+    EXPECT_EQ(ecran.Texte(QStringLiteral("k-Pod Absent")), QStringLiteral("k-Pod absent"));
+    ui.ListeLangues->Choisir(1);
+    ecran.etat.TypekPod = 20;
+    EXPECT_EQ(ecran.Texte(QStringLiteral("k-Pod Absent")), QStringLiteral("k-Pod 33 not found"));
+    ecran.Texte(QStringLiteral("Nouvelle"), QStringLiteral("New"));
+    EXPECT_EQ(ecran.Texte(QStringLiteral("Nouvelle")), QStringLiteral("New"));
+}
+
+TEST_F(LanguageSwitch, LeavesTheFormUsableWhenTheFileIsGone) {
+    ChangeTextes(ecran, francais, true);
+    ui.Lire->setText(QStringLiteral("kept"));
     // Without the lists' own fault: the walk meets a file that has gone.
     QObject::connect(ui.ListeUnites, &ListeDeroulante::Clic,
                      [this] { QFile::remove(etabli.Chemin(config)); });
-    try {
-        ChangeTextes(ecran, anglais, false);
-    } catch (const FauteExecution& faute) {
-        EXPECT_EQ(faute.numero(), numero_faute::objetAbsent);
-    }
+    // The walk ignores it; the texts of later operations do not.
+    EXPECT_THROW(ChangeTextes(ecran, anglais, false), FauteExecution);
     EXPECT_EQ(ui.Lire->text(), QStringLiteral("kept"));
     EXPECT_TRUE(ecran.updatesEnabled());
 }

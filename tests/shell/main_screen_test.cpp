@@ -193,6 +193,31 @@ TEST_F(MainScreenForm, CarriesItsDesignCaptions) {
     EXPECT_EQ(Depart("FrameFlowParameter"), QStringLiteral("Flow Parameters"));
     EXPECT_EQ(Depart("FrameTest"), QStringLiteral("Auto Test"));
     EXPECT_EQ(Depart("LabelCommentaire"), QStringLiteral("Commentaires (14 caractères)"));
+    const std::pair<const char*, const char*> autres[] = {
+        {"OneShot", "Mono-coup"},
+        {"PressionAbsolue", "Pression absolue"},
+        {"AMPM_0", "12h"},
+        {"AMPM_1", "24h"},
+        {"AuDessus", "Au dessus"},
+        {"AuDessous", "Au dessous"},
+        {"PasDeSeuil", "Pas de seuil"},
+        {"UnSeuil", "Seuil"},
+        {"BufferTournant", "Buffer tournant"},
+        {"BufferNonTournant", "Buffer non tournant"},
+        {"TestDebitON", "Test Debit ON"},
+        {"TestDebitOFF", "Test Debit OFF"},
+        {"Test", "Test"},
+        {"LireValeurDetectionCapteur", "Lire Valeur Detection Capteur"},
+        {"codetest", "Code du test"},
+        {"ResultatTest", "Mesure Test (points)"},
+        {"Labelcorrection", "Time Correction (s)"},
+        {"LabelCoefImpulsion", "Coefficient de l'impulsion"},
+        {"LabelUniteImpulsion", "Unité de l'impulsion"},
+        {"Label1", "Capteur"},
+        {"LabelDateCourante", "Date courante"},
+        {"Version", "--"}};
+    for (const auto& [nom, caption] : autres)
+        EXPECT_EQ(Depart(nom), QString::fromUtf8(caption)) << nom;
     EXPECT_EQ(ui.CoefImpulsion->text(), QStringLiteral("100"));
     EXPECT_EQ(ui.UniteImpulsion->text(), QStringLiteral("Gallon"));
 }
