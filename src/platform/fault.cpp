@@ -35,6 +35,8 @@ QString TexteFaute(int numero) {
             return QStringLiteral("Object variable not set");
         case numero_faute::valeurInvalide:
             return QStringLiteral("Invalid property value");
+        case numero_faute::entreeAbsente:
+            return QStringLiteral("Invalid property array index");
         default:
             return QStringLiteral("Application-defined or object-defined error");
     }

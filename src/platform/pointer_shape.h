@@ -11,7 +11,9 @@ inline constexpr int fleche = 1;
 inline constexpr int sablier = 11;
 }  // namespace pointeur
 
+/// Number of the present shape; 1 for any shape that is neither the default nor the hourglass.
 int PointeurSouris(const QWidget& fiche);
+/// Gives the form that shape. Fault 380 for another number.
 void FixerPointeurSouris(QWidget& fiche, int forme);
 
 }  // namespace bornika

@@ -38,7 +38,8 @@ TEST(Faute, HasTheStandardTextOfItsNumber) {
                                                   {70, "Permission denied"},
                                                   {76, "Path not found"},
                                                   {91, "Object variable not set"},
-                                                  {380, "Invalid property value"}};
+                                                  {380, "Invalid property value"},
+                                                  {381, "Invalid property array index"}};
     for (const auto& [numero, texte] : textes) {
         EXPECT_EQ(TexteFaute(numero), texte);
         EXPECT_EQ(FauteExecution(numero).texte(), texte);

@@ -102,6 +102,11 @@ TEST(ValeurDebut, IsZeroWhereNoNumberStands) {
     EXPECT_EQ(ValeurDebut(u"- 5"), 0);
 }
 
+TEST(ValeurDebut, OverflowsWhereNoVariableCanHoldTheNumber) {
+    EXPECT_EQ(NumeroDe([] { ValeurDebut(u"1E400 bar"); }), 6);
+    EXPECT_EQ(ValeurDebut(u"1E-400"), 0);
+}
+
 TEST(ValeurDebut, EndsAtACommaWhateverTheLocale) {
     EXPECT_EQ(ValeurDebut(u"2,5"), 2);
 }
