@@ -84,6 +84,19 @@ TEST(AfterDownload, TheViewerIsNotMadeWhenTheLoggerIsLost) {
     EXPECT_FALSE(banc.etabli.Fichiers().contains(banc.nom + QStringLiteral(".cmt")));
 }
 
+TEST(AfterDownload, TheViewerIsShownBeforeItLoadsWithTheFileNameInItsDialog) {
+    BancTrace banc;
+    int chargements = 0;
+    for (int tour = 21; tour < 60; ++tour)
+        banc.AuTour(tour, [&] {
+            ++chargements;
+            EXPECT_TRUE(banc.acces.Presente()->isVisible());
+            EXPECT_EQ(Clair(banc.acces.Presente()->NomDialogue), "2026-03-05-14-07-09.txt");
+        });
+    banc.Telecharger();
+    EXPECT_GT(chargements, 10);
+}
+
 TEST(AfterDownload, TheNextDownloadUsesTheSameViewer) {
     BancTrace banc;
     banc.Telecharger();
