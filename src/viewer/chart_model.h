@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -115,6 +116,8 @@ class ModeleGraphe {
         if (quandRedessiner) quandRedessiner();
     }
     std::function<void()> quandRedessiner;
+    /// Least time between two redraws of one load, which asks for one at each line.
+    std::chrono::milliseconds pasRedessin{50};
 
     AxeTemps bas;
     AxeGraphe gauche;

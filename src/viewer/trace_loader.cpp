@@ -26,7 +26,6 @@ namespace {
 constexpr qint64 tailleEntiere = 20'000'000;
 constexpr int lignesPassees = 10;
 
-constexpr auto pasRafraichissement = std::chrono::milliseconds(50);
 /// After a yield that was not due, so many of them are passed over before the clock is asked again:
 /// far less than a millisecond of reading.
 constexpr int cessionsSansHorloge = 64;
@@ -160,7 +159,7 @@ void Remplissage::Ceder() {
     }
     MontrerAvance();
     const auto maintenant = std::chrono::steady_clock::now();
-    if (maintenant - dernierDessin_ >= pasRafraichissement) {
+    if (maintenant - dernierDessin_ >= graphe_.pasRedessin) {
         dernierDessin_ = maintenant;
         graphe_.Redessiner();
     }

@@ -132,6 +132,17 @@ TEST_F(ChargementFiche, EmptyCommentTakesTheNameOfTheEvent) {
     EXPECT_EQ(fiche.commentaires, "Burst");
 }
 
+TEST_F(ChargementFiche, EmptyCommentTakesTheNameOfTheEventWithoutAFileToo) {
+    fiche.nomEvenement = "Burst";
+    double Mini = 0;
+    double Maxi = 0;
+    ignorer([&] {
+        TraceCourbe(fiche, fiche.etabli.Chemin("none.txt"), true, false, Mini, Maxi, false);
+    });
+    EXPECT_EQ(fiche.commentaires, "Burst");
+    EXPECT_TRUE(fiche.graphe.titre.isEmpty());
+}
+
 TEST_F(ChargementFiche, BarAdvancesByTheLengthsOfTheLines) {
     Charger(entete + "1;d;0;1;;2;\r\n2;d;0;1;;2;\r\n");
     EXPECT_EQ(fiche.maximumBarre, entete.size() + 2 * 13);
@@ -160,13 +171,21 @@ TEST_F(ChargementFiche, YieldsTwiceForEachLine) {
 }
 
 TEST_F(ChargementFiche, CurveGrowsWhileTheFileLoads) {
-    std::vector<int> points;
-    fiche.pendantCession = [&] { points.push_back(fiche.graphe.Serie(0).Nombre()); };
+    fiche.graphe.pasRedessin = std::chrono::milliseconds(0);
+    std::vector<int> dessines;
+    fiche.graphe.quandRedessiner = [&] { dessines.push_back(fiche.graphe.Serie(0).Nombre()); };
+    Charger(entete + "1;d;0;1;;2;\r\n2;d;0;1;;2;\r\n3;d;0;1;;2;\r\n");
+    EXPECT_EQ(dessines, (std::vector<int>{0, 0, 1, 1, 2, 2}));
+}
+
+TEST_F(ChargementFiche, RedrawsComeNoMoreOftenThanTheirStep) {
+    EXPECT_EQ(fiche.graphe.pasRedessin, std::chrono::milliseconds(50));
+    fiche.graphe.pasRedessin = std::chrono::hours(1);
     int dessins = 0;
     fiche.graphe.quandRedessiner = [&] { ++dessins; };
-    Charger(entete + "1;d;0;1;;2;\r\n2;d;0;1;;2;\r\n");
-    EXPECT_EQ(points, (std::vector<int>{0, 0, 1, 1}));
-    EXPECT_GE(dessins, 1);
+    Charger(entete + "1;d;0;1;;2;\r\n2;d;0;1;;2;\r\n3;d;0;1;;2;\r\n");
+    EXPECT_EQ(fiche.cessions, 6);
+    EXPECT_EQ(dessins, 1);
 }
 
 TEST_F(ChargementFiche, SettingsChangedDuringTheLoadCountFromTheNextLineOn) {
