@@ -6,9 +6,9 @@
 
 namespace bornika {
 
-/// The text of a number with the separator of the user's locale in the place of the other one, "."
-/// or
-/// ",". A locale with any third separator gives the empty text: it reads no number of a recording.
+/// The text of a number with the separator of the user's locale ("." or ",") in the place of the
+/// other one. A locale with any third separator gives the empty text: it reads no number of a
+/// recording.
 QString TraiteSeparateur(const QString& Valeur, const Regional& regional);
 
 }  // namespace bornika

@@ -8,9 +8,8 @@ namespace bornika {
 /// only, else the name as it is.
 QString TrouverFichier(const QString& NomFichier);
 
-/// Name of the file that holds the measures which failed parity: ".txt", in any letter case,
-/// becomes
-/// ".err" in the name of the file; "" for a name without ".txt".
+/// Name of the file that holds the measures which failed parity: the ".txt" in the name of the
+/// file, in any letter case, becomes ".err"; "" for a name without it.
 QString NomCompagnon(const QString& NomFichier);
 
 }  // namespace bornika
