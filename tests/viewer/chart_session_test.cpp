@@ -94,7 +94,12 @@ TEST_F(Seance, TheMouseWaitsDuringALoadAndIsAnArrowAfterIt) {
 
 TEST_F(Seance, ALoadFinishesTheChart) {
     v.EcrireEnregistrement("a.txt");
+    ModeleGraphe& modele = v.Modele();
+    modele.legendeVisible = modele.legendeCases = modele.legendeSeries = modele.zoomPermis = false;
+    modele.defilement = 0;
+    modele.troisDimensions = true;
     Charger();
+    EXPECT_TRUE(modele.visible);
     EXPECT_TRUE(v.Modele().legendeVisible);
     EXPECT_TRUE(v.Modele().legendeCases);
     EXPECT_TRUE(v.Modele().legendeSeries);

@@ -54,7 +54,10 @@ TEST(TraceForm, SettingsOfTheFlowLieInTheAdvancedFrame) {
     EXPECT_TRUE(v.Ui().FrameDebit->isAncestorOf(v.Ui().Frame_advanced));
     for (const QWidget* controle :
          {static_cast<QWidget*>(v.Ui().CoefImpulsion), static_cast<QWidget*>(v.Ui().UniteImpulsion),
-          static_cast<QWidget*>(v.Ui().ListeTemps), static_cast<QWidget*>(v.Ui().Command_Refresh)})
+          static_cast<QWidget*>(v.Ui().ListeTemps), static_cast<QWidget*>(v.Ui().Command_Refresh),
+          static_cast<QWidget*>(v.Ui().LabelCoefImpulsion),
+          static_cast<QWidget*>(v.Ui().LabelUniteImpulsion),
+          static_cast<QWidget*>(v.Ui().LabelUniteTemps)})
         EXPECT_TRUE(v.Ui().Frame_advanced->isAncestorOf(controle));
     EXPECT_FALSE(v.Ui().FrameDebit->isAncestorOf(v.Ui().Check_advanced));
 }

@@ -70,7 +70,19 @@ TEST_F(TraceCourbeEssai, SeriesHaveTheirAxesAndColours) {
     EXPECT_EQ(VersQColor(*Serie(1).couleur), QColor(128, 255, 0));
     EXPECT_EQ(Serie(2).couleur, Couleur{65535});
     EXPECT_EQ(Serie(3).couleur, Couleur{0xFF0000});
-    EXPECT_TRUE(fiche.graphe.gauche.maximumAutomatique);
+}
+
+TEST_F(TraceCourbeEssai, BothAxesAreMadeAutomaticWithLevelTitles) {
+    for (AxeGraphe* axe : {&fiche.graphe.gauche, &fiche.graphe.droite})
+        *axe = AxeGraphe{
+            .titre = "old", .angleTitre = 90, .increment = 2, .maximumAutomatique = false};
+    Charger(entete + "1000;d1;512;8.008;;1;\r\n");
+    for (const AxeGraphe* axe : {&fiche.graphe.gauche, &fiche.graphe.droite}) {
+        EXPECT_EQ(axe->angleTitre, 0);
+        EXPECT_EQ(axe->increment, 0);
+        EXPECT_TRUE(axe->maximumAutomatique);
+        EXPECT_NE(axe->titre, "old");
+    }
 }
 
 TEST_F(TraceCourbeEssai, PressureAndSmoothedFlowAreActiveWhenThereIsAFlow) {

@@ -74,6 +74,19 @@ TEST_F(ReglagesDebit, ARefreshAppliesTheSettingsOfTheForm) {
     EXPECT_EQ(v.Ui().Curseur->TexteA(2), "l/Hrs");
 }
 
+TEST_F(ReglagesDebit, EachLoadTakesWhatTheConfigurationHoldsThen) {
+    v.EcrireEnregistrement("a.txt");
+    Charger();
+    v.ecran.configuration.EcritConfig("4", "CoefImpulsion");
+    v.ecran.configuration.EcritConfig("l", "UniteImpulsion");
+    v.ecran.configuration.EcritConfig("1", "IndexListeTemps");
+    v.Ui().Command_Refresh->click();
+    EXPECT_EQ(v.Ui().CoefImpulsion->text(), "4");
+    EXPECT_EQ(v.Ui().UniteImpulsion->text(), "l");
+    EXPECT_EQ(v.Ui().ListeTemps->Index(), 1);
+    EXPECT_EQ(Debit(1), 2 * 4 * 60);
+}
+
 TEST_F(ReglagesDebit, ATextThatIsNoNumberShowsTheRawRateWithoutAMessage) {
     v.EcrireEnregistrement("a.txt");
     Charger();
