@@ -25,7 +25,7 @@ Octets TrameEcritDemarrage(std::int32_t date, double periode);
 Octets TrameEcritMode(int mode, double seuil1, double seuil2, int echelle, int charge);
 /// The serial number; its top bit goes out as it stands.
 Octets TrameEcritNumeroSerie(std::int32_t numero);
-/// The computer's present date, and the period that holds while the threshold is passed.
+/// The computer's present date, and the second sampling period, which holds after the trigger.
 Octets TrameEcritDateCourante(std::int32_t date, double periodeTrigger);
 /// Two bytes, `premiere` on the first request of a transfer.
 Octets TrameLitMesures(bool premiere);

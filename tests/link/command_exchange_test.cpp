@@ -236,6 +236,23 @@ TEST(EchangeDirect, SilenceGivesZerosAndTheCataloguesText) {
     EXPECT_EQ(b.dialogues.boites.size(), 1u);
 }
 
+TEST(LireReponse, ReadsWithoutSendingAndSpeaksOfALostLogger) {
+    UsbDicte usb;
+    Banc b(usb);
+    b.lien.OuvreUSB(1);
+    usb.appels.clear();
+    usb.reponses = {{1, 2}};
+    EXPECT_EQ(LireReponse(b.poste, 3), (Octets{1, 2, 0}));
+    EXPECT_EQ(usb.appels, QStringList{q("read 2: 3")});
+    EXPECT_EQ(LireReponse(b.poste, 3, false), Octets(3, 0));
+    EXPECT_TRUE(b.dialogues.boites.empty());
+    b.ecran.etat.TimeOut = false;
+    EXPECT_EQ(LireReponse(b.poste, 3), Octets(3, 0));
+    ASSERT_EQ(b.dialogues.boites.size(), 1u);
+    EXPECT_EQ(b.dialogues.boites[0].texte, q("k-Pod absent"));
+    EXPECT_TRUE(b.ecran.etat.TimeOut);
+}
+
 TEST(ModeByte, BitsStandAtTheirPlaces) {
     EXPECT_EQ(mode::unSeuil, 1);
     EXPECT_EQ(mode::deuxSeuils, 2);
