@@ -315,6 +315,7 @@ TEST(Watchdog, SetsTimeOutClosesTheReadHandleAndDisablesItself) {
     EXPECT_TRUE(banc.ecran().etat.TimeOut);
     EXPECT_EQ(banc.programme->lien.ReadHandle, 0);
     EXPECT_NE(banc.programme->lien.WriteHandle, 0);
+    EXPECT_EQ(banc.bus.PoigneesOuvertes(), 1);
     EXPECT_FALSE(timeur.isActive());
 }
 
