@@ -97,6 +97,7 @@ TEST_F(Seance, ALoadFinishesTheChart) {
     ModeleGraphe& modele = v.Modele();
     modele.legendeVisible = modele.legendeCases = modele.legendeSeries = modele.zoomPermis = false;
     modele.defilement = 0;
+    v.Ui().Lissage->setValue(55);
     modele.troisDimensions = true;
     Charger();
     EXPECT_TRUE(modele.visible);
@@ -111,6 +112,8 @@ TEST_F(Seance, ALoadFinishesTheChart) {
     EXPECT_EQ(v.Modele().couleursEtiquettes.gauche, 0xFF00U);
     EXPECT_FALSE(v.Fiche().Chargement);
     EXPECT_EQ(v.Ui().Curseur->Index(), 0);
+    EXPECT_EQ(v.Ui().Lissage->value(), 10);
+    EXPECT_EQ(modele.Serie(3).Periode(), 10);
 }
 
 TEST_F(Seance, TheTimeAxisSpansTheTimeStampsOfTheFile) {

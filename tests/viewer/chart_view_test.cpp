@@ -127,6 +127,22 @@ TEST(ChartView, ColoursOfCurvesComeFromTheModelOrElseFromTheTemplate) {
     EXPECT_EQ(scene.vue.graph(1)->pen().color(), QColor(128, 255, 0));
 }
 
+TEST(ChartView, TitlesOfTheChartItsAxesAndItsCurvesAreThoseOfTheModel) {
+    Scene scene;
+    auto* titre = qobject_cast<QCPTextElement*>(scene.vue.plotLayout()->element(0, 0));
+    ASSERT_TRUE(titre);
+    EXPECT_FALSE(titre->visible());
+    scene.modele.titre = QStringList{"burst main", "valve V12"};
+    scene.modele.gauche.titre = "Pressure (bar)";
+    scene.modele.droite.titre = "m3/Hrs";
+    scene.vue.Repaint();
+    EXPECT_TRUE(titre->visible());
+    EXPECT_EQ(titre->text(), "burst main\nvalve V12");
+    EXPECT_EQ(scene.vue.yAxis->label(), "Pressure (bar)");
+    EXPECT_EQ(scene.vue.yAxis2->label(), "m3/Hrs");
+    EXPECT_EQ(scene.vue.legend->itemCount(), 2);
+}
+
 TEST(ChartView, AxisLabelsTakeTheColoursOfTheModel) {
     Scene scene;
     scene.modele.couleursEtiquettes = {0xFF00, 0xFF00};

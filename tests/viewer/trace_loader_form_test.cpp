@@ -180,7 +180,7 @@ TEST_F(ChargementFiche, CurveGrowsWhileTheFileLoads) {
 
 TEST_F(ChargementFiche, RedrawsComeNoMoreOftenThanTheirStep) {
     EXPECT_EQ(fiche.graphe.pasRedessin, std::chrono::milliseconds(50));
-    fiche.graphe.pasRedessin = std::chrono::hours(1);
+    fiche.graphe.pasRedessin = std::chrono::seconds(20);
     int dessins = 0;
     fiche.graphe.quandRedessiner = [&] { ++dessins; };
     Charger(entete + "1;d;0;1;;2;\r\n2;d;0;1;;2;\r\n3;d;0;1;;2;\r\n");

@@ -293,6 +293,13 @@ TEST_F(TraceCourbeEssai, CompanionIsMadeEmptyAndAnExistingOneStays) {
     EXPECT_EQ(fiche.etabli.Lire("2026-03-05.err"), "End Parity Control");
 }
 
+TEST_F(TraceCourbeEssai, CompanionInOtherLettersIsTheCompanion) {
+    fiche.etabli.Ecrire("2026-03-05.ERR", "old");
+    Charger(entete + "1;d;0;1;;0;\r\n");
+    EXPECT_EQ(fiche.etabli.Lire("2026-03-05.ERR"), "old");
+    EXPECT_FALSE(QFile::exists(fiche.etabli.Chemin("2026-03-05.err")));
+}
+
 TEST_F(TraceCourbeEssai, CompanionIsMadeForAnEmptyFileToo) {
     Charger("");
     EXPECT_TRUE(QFile::exists(fiche.etabli.Chemin("2026-03-05.err")));
