@@ -18,9 +18,9 @@
 #include <cstring>
 #include <vector>
 
-#include "app/no_loggers.h"
 #include "app/viewer_events.h"
 #include "bench/recording_sample.h"
+#include "platform/no_loggers.h"
 #include "platform/system.h"
 #include "shell/main_screen.h"
 #include "ui_main_screen.h"

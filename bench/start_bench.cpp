@@ -15,9 +15,9 @@
 #include <cstring>
 
 #include "app/application.h"
-#include "app/no_loggers.h"
 #include "app/program.h"
 #include "platform/guard.h"
+#include "platform/no_loggers.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #include "app/application.h"
-#include "app/no_loggers.h"
 #include "app/program.h"
+#include "platform/no_loggers.h"
 #include "platform/program_folder.h"
 #include "shell/main_screen.h"
 

@@ -54,7 +54,9 @@ Etabli::Etabli(InterfaceUsb* usb)
         [this](const FauteExecution& faute) { fautes.push_back(faute.numero()); });
 }
 
-Etabli::~Etabli() { InstallerTraitementFaute({}); }
+Etabli::~Etabli() {
+    InstallerTraitementFaute({});
+}
 
 QByteArray Etabli::Lire(const QString& nom) const {
     QFile fichier(Chemin(nom));

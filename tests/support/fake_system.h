@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/fault.h"
+#include "platform/no_loggers.h"
 #include "platform/system.h"
 
 namespace bornika::essai {
@@ -51,20 +52,6 @@ class DialoguesNotes : public Dialogues {
     std::vector<std::optional<std::uint32_t>> couleurs;
 };
 
-/// A USB interface without any logger.
-class UsbVide : public InterfaceUsb {
-  public:
-    int Compte() override { return 0; }
-    IdentifiantUsb Identifiant(int) override { return 0; }
-    PoigneeUsb Ouvrir(IdentifiantUsb) override { return -1; }
-    bool Ecrire(PoigneeUsb, std::span<const std::uint8_t>) override { return false; }
-    int Lire(PoigneeUsb, std::span<std::uint8_t>) override { return 0; }
-    void Annuler(PoigneeUsb) override {}
-    void Fermer(PoigneeUsb) override {}
-    std::uint32_t DerniereErreur() const override { return 0; }
-    QString TexteErreur(std::uint32_t) const override { return {}; }
-};
-
 /// A program's folder of its own with the delivered configuration in it, and a system of fakes.
 /// The USB interface is the one given, or none attached.
 class Etabli {
@@ -80,7 +67,7 @@ class Etabli {
     QTemporaryDir dossier;
     HorlogeFigee horloge;
     DialoguesNotes dialogues;
-    UsbVide usbVide;
+    AucunEnregistreur usbVide;
     Respiration respiration;
     Systeme systeme;
     /// Faults that reached a guard since this object was made.
