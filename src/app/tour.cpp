@@ -11,7 +11,7 @@
 #include <vector>
 
 #include "app/program.h"
-#include "link/device_discovery.h"
+#include "service/splash_form.h"
 #include "ui_main_screen.h"
 #include "ui_trace_form.h"
 #include "viewer/trace_form.h"
@@ -91,6 +91,8 @@ class Technicien : public QObject {
                 break;
             case Etape::Ouvrir:
                 if (!ecran.isVisible()) break;
+                if (frmSplash* splash = programme_.activation.Splash())
+                    Photographier(*splash, QStringLiteral("splash"));
                 etape_ = Etape::Lire;
                 Cliquer(ecran.ui->Check_advanced, "Opening the set-up.");
                 Cliquer(ecran.ui->Lire, "Reading the logger.");
