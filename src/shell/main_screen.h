@@ -36,7 +36,8 @@ class MainScreen : public QMainWindow {
     explicit MainScreen(Systeme& systeme, QWidget* parent = nullptr);
     ~MainScreen() override;
 
-    /// Text of a key in the language of `ListeLangues` for the present product, with an empty default.
+    /// Text of a key in the language of `ListeLangues` for the present product, with an empty
+    /// default.
     QString Texte(const QString& cle);
     /// The same with a default of its own, for captions and help texts.
     QString Texte(const QString& cle, const QString& defaut);
