@@ -8,6 +8,7 @@
 #include <QFileInfo>
 #include <cerrno>
 #include <cstdio>
+#include <utility>
 
 #include "platform/fault.h"
 
@@ -29,58 +30,18 @@ QString Cible(const QString& chemin) {
     return cible;
 }
 
-// The file written beside the old one: it is gone again unless it took the old one's place.
-class FichierVoisin {
-  public:
-    explicit FichierVoisin(const QString& dossier)
-        : chemin_(
-              QFile::encodeName(QStringLiteral("%1/.bornika-%2.tmp").arg(dossier).arg(getpid()))) {
-        // Left over by a process of this number that was cut off.
-        ::unlink(chemin_.constData());
-        descripteur_ = ::open(chemin_.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-        if (descripteur_ < 0) Echouer(errno);
-    }
-    ~FichierVoisin() {
-        if (descripteur_ >= 0) ::close(descripteur_);
-        if (!enPlace_) ::unlink(chemin_.constData());
-    }
-    FichierVoisin(const FichierVoisin&) = delete;
-    FichierVoisin& operator=(const FichierVoisin&) = delete;
-
-    void Ecrire(const QByteArray& contenu) const {
-        for (qsizetype ecrits = 0; ecrits < contenu.size();) {
-            const ssize_t n = ::write(descripteur_, contenu.constData() + ecrits,
-                                      static_cast<std::size_t>(contenu.size() - ecrits));
-            if (n < 0 && errno != EINTR) Echouer(errno);
-            if (n > 0) ecrits += n;
-        }
-    }
-
-    void PrendrePermissions(const struct stat& ancien) const {
-        // A group that this user may not give is no failure: the file stays readable to its user.
-        [[maybe_unused]] const int rendu =
-            ::fchown(descripteur_, static_cast<uid_t>(-1), ancien.st_gid);
-        if (::fchmod(descripteur_, ancien.st_mode & 07777) != 0) Echouer(errno);
-    }
-
-    void MettreEnPlace(const QByteArray& cible) {
-        if (::fsync(descripteur_) != 0) Echouer(errno);
-        const int descripteur = descripteur_;
-        descripteur_ = -1;
-        if (::close(descripteur) != 0) Echouer(errno);
-        if (std::rename(chemin_.constData(), cible.constData()) != 0) Echouer(errno);
-        enPlace_ = true;
-    }
-
-  private:
-    QByteArray chemin_;
-    int descripteur_ = -1;
-    bool enPlace_ = false;
-};
+// Two programs may save in one folder at the same time, and one may prepare several files.
+QByteArray NomAttente(const QFileInfo& place) {
+    return QFile::encodeName(QStringLiteral("%1/.bornika-%2-%3.tmp")
+                                 .arg(place.absolutePath())
+                                 .arg(getpid())
+                                 .arg(place.fileName()));
+}
 
 // The new name itself must survive a power cut. A folder that cannot be synchronised is no failure:
 // the file is whole in any case.
-void SynchroniserDossier(const QString& dossier) {
+void SynchroniserDossierDe(const QByteArray& chemin) {
+    const QString dossier = QFileInfo(QFile::decodeName(chemin)).absolutePath();
     const int descripteur =
         ::open(QFile::encodeName(dossier).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (descripteur < 0) return;
@@ -90,20 +51,51 @@ void SynchroniserDossier(const QString& dossier) {
 
 }  // namespace
 
-void RemplacerFichier(const QString& chemin, const QByteArray& contenu) {
-    const QString cible = Cible(chemin);
-    const QString dossier = QFileInfo(cible).absolutePath();
-    const QByteArray nom = QFile::encodeName(cible);
-    struct stat ancien {};
-    const bool existe = ::stat(nom.constData(), &ancien) == 0;
-    // A protected file is not replaced behind its owner's back, even where its folder allows it.
-    if (existe && ::access(nom.constData(), W_OK) != 0) Echouer(errno);
+FichierPrepare::FichierPrepare(const QString& chemin)
+    : place_(QFile::encodeName(chemin)), attente_(NomAttente(QFileInfo(chemin))) {
+    // Left over by a process of this number that was cut off.
+    ::unlink(attente_.constData());
+    descripteur_ = ::open(attente_.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+    if (descripteur_ < 0) Echouer(errno);
+}
 
-    FichierVoisin voisin(dossier);
-    voisin.Ecrire(contenu);
-    if (existe) voisin.PrendrePermissions(ancien);
-    voisin.MettreEnPlace(nom);
-    SynchroniserDossier(dossier);
+FichierPrepare::~FichierPrepare() {
+    if (descripteur_ >= 0) ::close(descripteur_);
+    if (!enPlace_) ::unlink(attente_.constData());
+}
+
+void FichierPrepare::Ecrire(QByteArrayView octets) {
+    for (qsizetype ecrits = 0; ecrits < octets.size();) {
+        const ssize_t n = ::write(descripteur_, octets.data() + ecrits,
+                                  static_cast<std::size_t>(octets.size() - ecrits));
+        if (n < 0 && errno != EINTR) Echouer(errno);
+        if (n > 0) ecrits += n;
+    }
+}
+
+void FichierPrepare::GarderPermissions() {
+    struct stat ancien {};
+    if (::stat(place_.constData(), &ancien) != 0) return;
+    if (::access(place_.constData(), W_OK) != 0) Echouer(errno);
+    // A group that this user may not give is no failure: the file stays readable to its user.
+    [[maybe_unused]] const int rendu =
+        ::fchown(descripteur_, static_cast<uid_t>(-1), ancien.st_gid);
+    if (::fchmod(descripteur_, ancien.st_mode & 07777) != 0) Echouer(errno);
+}
+
+void FichierPrepare::MettreEnPlace() {
+    if (::fsync(descripteur_) != 0) Echouer(errno);
+    if (::close(std::exchange(descripteur_, -1)) != 0) Echouer(errno);
+    if (std::rename(attente_.constData(), place_.constData()) != 0) Echouer(errno);
+    enPlace_ = true;
+    SynchroniserDossierDe(place_);
+}
+
+void RemplacerFichier(const QString& chemin, const QByteArray& contenu) {
+    FichierPrepare prepare(Cible(chemin));
+    prepare.GarderPermissions();
+    prepare.Ecrire(contenu);
+    prepare.MettreEnPlace();
 }
 
 }  // namespace bornika

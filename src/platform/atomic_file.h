@@ -11,4 +11,29 @@ namespace bornika {
 /// untouched.
 void RemplacerFichier(const QString& chemin, const QByteArray& contenu);
 
+/// A file that appears whole or not at all: what is written waits beside its place under a hidden
+/// name. An object that goes away before its file was put in place leaves nothing behind.
+class FichierPrepare {
+  public:
+    /// Fault 70 (or 61, disk full) when nothing can be written in the folder of `chemin`.
+    explicit FichierPrepare(const QString& chemin);
+    ~FichierPrepare();
+    FichierPrepare(const FichierPrepare&) = delete;
+    FichierPrepare& operator=(const FichierPrepare&) = delete;
+
+    /// Appends. The same faults.
+    void Ecrire(QByteArrayView octets);
+    /// Takes over group and permissions of the file that has the name now, if there is one. Fault
+    /// 70 when that one is protected: it is not replaced behind its owner's back.
+    void GarderPermissions();
+    /// Brings all of it to the disk and gives it its name. The same faults.
+    void MettreEnPlace();
+
+  private:
+    QByteArray place_;
+    QByteArray attente_;
+    int descripteur_ = -1;
+    bool enPlace_ = false;
+};
+
 }  // namespace bornika

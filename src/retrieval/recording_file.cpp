@@ -5,7 +5,7 @@
 #include <charconv>
 
 #include "platform/code_page.h"
-#include "platform/fault.h"
+#include "platform/named_fault.h"
 #include "platform/numbers.h"
 #include "shell/dates.h"
 
@@ -26,15 +26,9 @@ void AjouterSurDeuxChiffres(QByteArray& ligne, int valeur) {
     ligne += static_cast<char>('0' + valeur % 10);
 }
 
-/// Gives the fault of a write the name of its file: the operator has to know which one it is.
 template <class Ecriture>
 void EcrireNomme(const FichierTexteEcrit& fichier, Ecriture&& ecriture) {
-    try {
-        ecriture();
-    } catch (const FauteExecution& faute) {
-        throw FauteExecution(faute.numero(), QFileInfo(fichier.Chemin()).fileName() +
-                                                 QStringLiteral(" : ") + faute.texte());
-    }
+    nommer(QFileInfo(fichier.Chemin()).fileName(), ecriture);
 }
 
 }  // namespace

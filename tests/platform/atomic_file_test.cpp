@@ -117,9 +117,47 @@ TEST_F(FichierRemplace, IsNotReplacedWhenItIsProtected) {
 }
 
 TEST_F(FichierRemplace, GetsPastWhatACutOffProcessLeft) {
-    Poser(Chemin(".bornika-") + QString::number(::getpid()) + QStringLiteral(".tmp"), "reste");
+    Poser(Chemin(".bornika-") + QString::number(::getpid()) + QStringLiteral("-a.xml.tmp"),
+          "reste");
     RemplacerFichier(Chemin("a.xml"), "neuf");
     EXPECT_EQ(Fichiers(), QStringList{"a.xml"});
+}
+
+class PreparedFile : public FichierRemplace {};
+
+TEST_F(PreparedFile, AppearsWholeUnderItsNameAndNotBefore) {
+    FichierPrepare prepare(Chemin("rec.txt"));
+    prepare.Ecrire("one ");
+    prepare.Ecrire("");
+    prepare.Ecrire(QByteArrayView("two\0\x1A\xFF", 6));
+    EXPECT_FALSE(QFile::exists(Chemin("rec.txt")));
+    prepare.MettreEnPlace();
+    EXPECT_EQ(Lire(Chemin("rec.txt")), QByteArray("one two\0\x1A\xFF", 10));
+    EXPECT_EQ(Fichiers(), QStringList{"rec.txt"});
+}
+
+TEST_F(PreparedFile, LeavesNothingWhenItIsGivenUp) {
+    { FichierPrepare(Chemin("rec.txt")).Ecrire("half"); }
+    EXPECT_TRUE(Fichiers().isEmpty());
+}
+
+TEST_F(PreparedFile, SeveralWaitSideBySide) {
+    FichierPrepare premier(Chemin("a.txt"));
+    premier.Ecrire("a");
+    RemplacerFichier(Chemin("b.txt"), "b");
+    premier.MettreEnPlace();
+    EXPECT_EQ(Lire(Chemin("a.txt")), "a");
+    EXPECT_EQ(Lire(Chemin("b.txt")), "b");
+    EXPECT_EQ(Fichiers().size(), 2);
+}
+
+TEST_F(PreparedFile, FaultsInAFolderThatIsNotThere) {
+    try {
+        FichierPrepare prepare(Chemin("absent/rec.txt"));
+        FAIL() << "no fault";
+    } catch (const FauteExecution& faute) {
+        EXPECT_EQ(faute.numero(), 70);
+    }
 }
 
 TEST(Dossier, OfTheProgramIsTheOneOfItsFile) {
