@@ -74,7 +74,15 @@ QString MotifsDesDeuxCasses(const QString& motifs) {
     return tous.join(QLatin1Char(' '));
 }
 
+// A label may have lost the end of its bracket.
+QString Etiquette(const QString& texte) {
+    return texte.count(QLatin1Char('(')) > texte.count(QLatin1Char(')')) ? texte + QLatin1Char(')')
+                                                                         : texte;
+}
+
 void Preparer(QFileDialog& dialogue, const DemandeFichier& demande) {
+    // The label says already what is shown: the patterns behind it are for the dialog alone.
+    dialogue.setOption(QFileDialog::HideNameFilterDetails);
     if (!demande.titre.isEmpty()) dialogue.setWindowTitle(demande.titre);
     if (!demande.dossier.isEmpty()) dialogue.setDirectory(demande.dossier);
     const QString filtre = FiltrePourDialogue(demande.filtre);
@@ -113,8 +121,8 @@ QString FiltrePourDialogue(const QString& filtre) {
     const QStringList morceaux = filtre.split(QLatin1Char('|'));
     QStringList filtres;
     for (qsizetype i = 0; i + 1 < morceaux.size(); i += 2)
-        filtres << morceaux[i] + QLatin1String(" (") + MotifsDesDeuxCasses(morceaux[i + 1]) +
-                       QLatin1Char(')');
+        filtres << Etiquette(morceaux[i]) + QLatin1String(" (") +
+                       MotifsDesDeuxCasses(morceaux[i + 1]) + QLatin1Char(')');
     return filtres.join(QLatin1String(";;"));
 }
 

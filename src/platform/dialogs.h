@@ -2,8 +2,10 @@
 
 #include <QString>
 #include <cstdint>
+#include <functional>
 #include <optional>
 
+class QPagedPaintDevice;
 class QWidget;
 
 namespace bornika {
@@ -22,6 +24,17 @@ struct DemandeFichier {
     QString filtre;
     QString dossier;
     bool plusieurs = false;
+};
+
+/// What a print preview is asked for: one page.
+struct DemandeApercu {
+    QString titre;
+    bool paysage = false;
+    /// Margins at all four sides, in millimetres.
+    double marges = 10;
+    /// Paints the page, filling the width and height of what it gets, in pixels of the screen. It
+    /// is called anew for each page set-up that the operator tries, and once more to print.
+    std::function<void(QPagedPaintDevice&)> peindre;
 };
 
 /// The one seam through which message boxes and common dialogs are shown. Texts are plain text.
@@ -43,10 +56,14 @@ class Dialogues {
 
     /// Colour dialog starting at `depart`, both in the form 0xBBGGRR; nothing when cancelled.
     virtual std::optional<std::uint32_t> Couleur(std::uint32_t depart) = 0;
+
+    /// Print preview, from which the operator sets the page up, prints or makes a PDF file; comes
+    /// back when it is closed. A fault of the painting goes to the guard.
+    virtual void Apercu(const DemandeApercu& demande) = 0;
 };
 
 /// Translates the filter form of `DemandeFichier` to the toolkit's: "txt (*.txt)|*.txt" becomes
-/// "txt (*.txt) (*.txt *.TXT)" with the label shown as it is.
+/// "txt (*.txt) (*.txt *.TXT)", of which the dialog shows the label "txt (*.txt)" alone.
 QString FiltrePourDialogue(const QString& filtre);
 
 /// The toolkit's boxes and dialogs. The parent is the program's active window.
@@ -57,6 +74,7 @@ class DialoguesQt : public Dialogues {
     std::optional<QString> Ouvrir(const DemandeFichier& demande) override;
     std::optional<QString> Enregistrer(const DemandeFichier& demande) override;
     std::optional<std::uint32_t> Couleur(std::uint32_t depart) override;
+    void Apercu(const DemandeApercu& demande) override;
 };
 
 }  // namespace bornika

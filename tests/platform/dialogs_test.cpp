@@ -4,9 +4,11 @@
 
 #include <QApplication>
 #include <QColorDialog>
+#include <QComboBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QListView>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -118,7 +120,8 @@ TEST(Boite, HasNoTitleWhenThereIsNone) {
 
 TEST(Filtre, KeepsTheLabelAndTakesBothLetterCases) {
     EXPECT_EQ(FiltrePourDialogue("txt (*.txt)|*.txt"), "txt (*.txt) (*.txt *.TXT)");
-    EXPECT_EQ(FiltrePourDialogue("Prg (*.txt|*.txt"), "Prg (*.txt (*.txt *.TXT)");
+    EXPECT_EQ(FiltrePourDialogue("Prg (*.txt|*.txt"), "Prg (*.txt) (*.txt *.TXT)");
+    EXPECT_EQ(FiltrePourDialogue("(*.txt)|*.txt"), "(*.txt) (*.txt *.TXT)");
     EXPECT_EQ(FiltrePourDialogue("hex|*.HEX"), "hex (*.HEX *.hex)");
 }
 
@@ -182,6 +185,31 @@ TEST_F(DialogueFichier, GivesOneFullPathWhenOneOfSeveralIsPicked) {
     demande.plusieurs = true;
     DesQuilEstLa<QFileDialog>(Taper(QStringLiteral("B.TXT")));
     EXPECT_EQ(DialoguesQt().Ouvrir(demande), Chemin("B.TXT"));
+}
+
+TEST_F(DialogueFichier, ShowsItsFilterOnceAndOffersBothLetterCases) {
+    const std::pair<const char*, const char*> filtres[] = {{"txt (*.txt)|*.txt", "txt (*.txt)"},
+                                                           {"(*.txt)|*.txt", "(*.txt)"},
+                                                           {"Prg (*.txt|*.txt", "Prg (*.txt)"}};
+    for (const auto& [filtre, montre] : filtres) {
+        demande.filtre = QString::fromLatin1(filtre);
+        QString vu;
+        QStringList offerts;
+        DesQuilEstLa<QFileDialog>([&](QFileDialog& dialogue) {
+            vu = dialogue.findChild<QComboBox*>(QStringLiteral("fileTypeCombo"))->currentText();
+            auto* fichiers = dialogue.findChild<QListView*>(QStringLiteral("listView"));
+            ASSERT_NE(fichiers, nullptr);
+            EXPECT_TRUE(QTest::qWaitFor(
+                [&] { return fichiers->model()->rowCount(fichiers->rootIndex()) == 2; }));
+            for (int i = 0; i < fichiers->model()->rowCount(fichiers->rootIndex()); ++i)
+                offerts << fichiers->model()->index(i, 0, fichiers->rootIndex()).data().toString();
+            dialogue.reject();
+        });
+        DialoguesQt().Ouvrir(demande);
+        EXPECT_EQ(vu.trimmed(), montre);
+        offerts.sort();
+        EXPECT_EQ(offerts, (QStringList{"B.TXT", "a.txt"}));
+    }
 }
 
 TEST_F(DialogueFichier, GivesNothingWhenItIsCancelled) {
