@@ -7,6 +7,13 @@ namespace bornika {
 
 using namespace simulateur;
 
+namespace {
+
+/// Periods are counted in eighths of a second.
+constexpr std::uint64_t huitiemes = 8;
+
+}  // namespace
+
 EnregistreurSimule::EnregistreurSimule(const Identite& qui) : identite(qui) {
     memoire.EcrireTexte(adresse::commentaire, 14, "");
     memoire.EcrireTexte(adresse::uniteImpulsion, 8, "");
@@ -77,6 +84,19 @@ void EnregistreurSimule::TenirHorloge() {
     dernierInstant_ = instant;
     memoire.EcrireDoubleMot(adresse::dateCourante,
                             memoire.DoubleMot(adresse::dateCourante) + ecart);
+    TenirProchaineMesure();
+}
+
+/// The next measure is the first one of the row of periods that is still to come.
+void EnregistreurSimule::TenirProchaineMesure() {
+    const std::uint64_t maintenant = memoire.DoubleMot(adresse::dateCourante);
+    const std::uint64_t prochaine = memoire.DoubleMot(adresse::prochaineMesure);
+    const std::uint64_t periode = memoire.Mot(adresse::periodeStockage);
+    if (prochaine > maintenant || periode == 0) return;
+    const std::uint64_t passees = (maintenant - prochaine) * huitiemes / periode + 1;
+    const std::uint64_t ecart = (passees * periode + huitiemes - 1) / huitiemes;
+    memoire.EcrireDoubleMot(adresse::prochaineMesure,
+                            static_cast<std::uint32_t>(prochaine + ecart));
 }
 
 void EnregistreurSimule::ReglerResets(std::uint32_t date, int nombre) {

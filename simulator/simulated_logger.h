@@ -103,7 +103,8 @@ class EnregistreurSimule {
     void ReglerBatterie(int lecture);
     /// Sets the logger's clock, in device seconds.
     void ReglerHorloge(std::uint32_t secondes);
-    /// From now on the clock advances with this source of seconds (none: it stands still).
+    /// From now on the clock advances with this source of seconds (none: it stands still), and with
+    /// it the time of the next measure.
     void BrancherHorloge(std::function<std::int64_t()> source);
     std::uint32_t Horloge();
     /// The record of resets: in the internal memory and, for old programs, on page 0 of the flash.
@@ -147,6 +148,7 @@ class EnregistreurSimule {
     void Avancer(Pointeur& ou) const;
     void Rembobiner();
     void TenirHorloge();
+    void TenirProchaineMesure();
     void PrendreMesureEtalonnage();
 
     std::function<std::int64_t()> source_;

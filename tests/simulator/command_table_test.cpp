@@ -149,6 +149,47 @@ TEST(CommandTable, TheClockAdvancesWithItsSource) {
     EXPECT_EQ(logger.Horloge(), 0x1025U);
 }
 
+TEST(CommandTable, TheNextMeasureIsTheFirstOfItsRowStillToCome) {
+    std::int64_t secondes = 0;
+    EnregistreurSimule logger;
+    logger.BrancherHorloge([&secondes] { return secondes; });
+    const auto prochaine = [&logger] {
+        const ListeOctets r = ReponseA(logger, 2);
+        return r.at(3) * 256 + r.at(4);
+    };
+    Reponse(logger, {7, 0, 0, 0x10, 0, 0, 8, 32});
+    // From 0x1064 on, every 15 seconds.
+    Reponse(logger, {1, 0, 0, 0x10, 0x64, 0, 120, 0});
+    EXPECT_EQ(prochaine(), 0x1064) << "the start is still to come";
+    secondes = 0x63;
+    EXPECT_EQ(prochaine(), 0x1064);
+    secondes = 0x64;
+    EXPECT_EQ(prochaine(), 0x1064 + 15) << "the first one is being taken";
+    secondes = 0x64 + 15 * 100 + 14;
+    EXPECT_EQ(prochaine(), 0x1064 + 15 * 101);
+    EXPECT_EQ(Memoire(logger, 27, 2),
+              Octets8({(0x1064 + 15 * 101) % 256, (0x1064 + 15 * 101) / 256}));
+}
+
+TEST(CommandTable, ANextMeasureInLessThanASecondIsToldAsTheNextSecond) {
+    std::int64_t secondes = 0;
+    EnregistreurSimule logger;
+    logger.BrancherHorloge([&secondes] { return secondes; });
+    Reponse(logger, {7, 0, 0, 0x10, 0, 0, 8, 32});
+    Reponse(logger, {1, 0, 0, 0x10, 0, 0, 1, 0});
+    secondes = 7;
+    EXPECT_EQ(ReponseA(logger, 2), Octets8({2, 0, 0, 0x10, 8, 0, 1, 0}));
+}
+
+TEST(CommandTable, WithoutAPeriodThereIsNoFurtherMeasure) {
+    std::int64_t secondes = 0;
+    EnregistreurSimule logger;
+    logger.BrancherHorloge([&secondes] { return secondes; });
+    Reponse(logger, {1, 0, 0, 0, 5, 0, 0, 0});
+    secondes = 1000;
+    EXPECT_EQ(ReponseA(logger, 2), Octets8({2, 0, 0, 0, 5, 0, 0, 0}));
+}
+
 TEST(CommandTable, VersionTellsTypeVersionBatteryAndMemorySize) {
     simulateur::Identite qui;
     qui.type = 20;
