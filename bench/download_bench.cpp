@@ -36,6 +36,7 @@ class SansDialogues : public Dialogues {
     std::optional<QString> Ouvrir(const DemandeFichier&) override { return {}; }
     std::optional<QString> Enregistrer(const DemandeFichier&) override { return {}; }
     std::optional<std::uint32_t> Couleur(std::uint32_t) override { return {}; }
+    void Apercu(const DemandeApercu&) override {}
 };
 
 /// A logger with a full memory, and the main form as it stands after the start.

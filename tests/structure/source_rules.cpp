@@ -63,6 +63,10 @@ const std::vector<Reserve> reserves = {
      {"QMessageBox", "QFileDialog", "QColorDialog"},
      {"src/platform/dialogs.cpp", "src/app/tour.cpp"},
      {}},
+    {{"QPrinter", "QPrintPreviewDialog"},
+     {"QPrinter", "QPrintPreviewDialog", "QPrintDialog"},
+     {"src/platform/print_preview"},
+     {}},
     {{"unistd.h", "fcntl.h", "sys/", "spawn.h", "dlfcn.h"}, {}, {"src/platform/"}, {}}};
 
 bool CommenceParUn(const std::string& chemin, const std::vector<std::string>& debuts) {

@@ -41,6 +41,11 @@ std::optional<std::uint32_t> DialoguesNotes::Couleur(std::uint32_t depart) {
     return Premier(couleurs, std::optional<std::uint32_t>());
 }
 
+void DialoguesNotes::Apercu(const DemandeApercu& demande) {
+    apercus.push_back(demande);
+    if (pendantApercu) pendantApercu(demande);
+}
+
 Etabli::Etabli(InterfaceUsb* usb)
     : systeme{horloge, dialogues, usb ? *usb : usbVide, respiration, Regional{}, dossier.path()} {
     respiration.ReglerPas(std::chrono::milliseconds(0));

@@ -38,6 +38,7 @@ class DialoguesNotes : public Dialogues {
     std::optional<QString> Ouvrir(const DemandeFichier& demande) override;
     std::optional<QString> Enregistrer(const DemandeFichier& demande) override;
     std::optional<std::uint32_t> Couleur(std::uint32_t depart) override;
+    void Apercu(const DemandeApercu& demande) override;
 
     std::vector<Boite_> boites;
     /// Answers of the next boxes; when empty: OK or Yes.
@@ -50,6 +51,9 @@ class DialoguesNotes : public Dialogues {
     std::vector<std::optional<QString>> fichiers;
     std::vector<std::uint32_t> departsCouleur;
     std::vector<std::optional<std::uint32_t>> couleurs;
+    std::vector<DemandeApercu> apercus;
+    /// Runs while a print preview stands: what the operator does in it.
+    std::function<void(const DemandeApercu&)> pendantApercu;
 };
 
 /// A program's folder of its own with the delivered configuration in it, and a system of fakes.
