@@ -49,6 +49,34 @@ void SynchroniserDossierDe(const QByteArray& chemin) {
     ::close(descripteur);
 }
 
+// 0, or the error that kept the rest from being written.
+int ToutEcrire(int descripteur, QByteArrayView octets) {
+    for (qsizetype ecrits = 0; ecrits < octets.size();) {
+        const ssize_t n = ::write(descripteur, octets.data() + ecrits,
+                                  static_cast<std::size_t>(octets.size() - ecrits));
+        if (n < 0 && errno != EINTR) return errno;
+        if (n > 0) ecrits += n;
+    }
+    return 0;
+}
+
+// A device or a pipe.
+bool EstPeripherique(const QString& chemin) {
+    struct stat infos {};
+    return ::stat(QFile::encodeName(chemin).constData(), &infos) == 0 && !S_ISREG(infos.st_mode) &&
+           !S_ISDIR(infos.st_mode);
+}
+
+// It can be written to, never replaced; a pipe without a reader must not hold the program up.
+void EcrireDansPeripherique(const QString& chemin, QByteArrayView octets) {
+    const int descripteur =
+        ::open(QFile::encodeName(chemin).constData(), O_WRONLY | O_CLOEXEC | O_NONBLOCK);
+    if (descripteur < 0) Echouer(errno);
+    const int erreur = ToutEcrire(descripteur, octets);
+    ::close(descripteur);
+    if (erreur != 0) Echouer(erreur);
+}
+
 }  // namespace
 
 FichierPrepare::FichierPrepare(const QString& chemin)
@@ -65,12 +93,7 @@ FichierPrepare::~FichierPrepare() {
 }
 
 void FichierPrepare::Ecrire(QByteArrayView octets) {
-    for (qsizetype ecrits = 0; ecrits < octets.size();) {
-        const ssize_t n = ::write(descripteur_, octets.data() + ecrits,
-                                  static_cast<std::size_t>(octets.size() - ecrits));
-        if (n < 0 && errno != EINTR) Echouer(errno);
-        if (n > 0) ecrits += n;
-    }
+    if (const int erreur = ToutEcrire(descripteur_, octets); erreur != 0) Echouer(erreur);
 }
 
 void FichierPrepare::GarderPermissions() {
@@ -92,7 +115,12 @@ void FichierPrepare::MettreEnPlace() {
 }
 
 void RemplacerFichier(const QString& chemin, const QByteArray& contenu) {
-    FichierPrepare prepare(Cible(chemin));
+    const QString cible = Cible(chemin);
+    if (EstPeripherique(cible)) {
+        EcrireDansPeripherique(cible, contenu);
+        return;
+    }
+    FichierPrepare prepare(cible);
     prepare.GarderPermissions();
     prepare.Ecrire(contenu);
     prepare.MettreEnPlace();

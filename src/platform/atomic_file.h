@@ -8,7 +8,7 @@ namespace bornika {
 /// Replaces a file in one step: the bytes are written beside it, brought to the disk and renamed
 /// over it, so that a power cut leaves the old file or the new one, never half. The old file's
 /// permissions are kept. Fault 70 (or 61, disk full) when that cannot be; the old file then stands
-/// untouched.
+/// untouched. A device or a pipe is written to, and stays.
 void RemplacerFichier(const QString& chemin, const QByteArray& contenu);
 
 /// A file that appears whole or not at all: what is written waits beside its place under a hidden

@@ -1,5 +1,6 @@
 #include "platform/atomic_file.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -114,6 +115,26 @@ TEST_F(FichierRemplace, IsNotReplacedWhenItIsProtected) {
     ASSERT_EQ(::chmod(QFile::encodeName(Chemin("a.xml")).constData(), 0444), 0);
     EXPECT_EQ(NumeroDe(Chemin("a.xml"), "neuf"), 70);
     EXPECT_EQ(Lire(Chemin("a.xml")), "ancien");
+}
+
+TEST_F(FichierRemplace, IsNeverADeviceOrAPipe) {
+    const QByteArray tube = QFile::encodeName(Chemin("tube"));
+    ASSERT_EQ(::mkfifo(tube.constData(), 0600), 0);
+    EXPECT_EQ(NumeroDe(Chemin("tube"), "neuf"), 70);  // nobody reads from it
+    const int lecteur = ::open(tube.constData(), O_RDONLY | O_NONBLOCK);
+    ASSERT_GE(lecteur, 0);
+    EXPECT_EQ(NumeroDe(Chemin("tube"), "neuf"), 0);
+    char lus[8] = {};
+    EXPECT_EQ(::read(lecteur, lus, sizeof lus), 4);
+    ::close(lecteur);
+    EXPECT_STREQ(lus, "neuf");
+    EXPECT_EQ(Fichiers(), QStringList{"tube"});
+
+    ASSERT_TRUE(QFile::link(QStringLiteral("/dev/full"), Chemin("plein")));
+    EXPECT_EQ(NumeroDe(Chemin("plein"), "neuf"), 61);
+    struct stat infos {};
+    ASSERT_EQ(::stat("/dev/full", &infos), 0);
+    EXPECT_TRUE(S_ISCHR(infos.st_mode));
 }
 
 TEST_F(FichierRemplace, GetsPastWhatACutOffProcessLeft) {
