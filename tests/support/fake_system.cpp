@@ -28,11 +28,13 @@ Reponse DialoguesNotes::Boite(Icone icone, Boutons boutons, const QString& titre
 
 std::optional<QString> DialoguesNotes::Ouvrir(const DemandeFichier& demande) {
     demandes.push_back(demande);
+    if (pendantDemande) pendantDemande(demande);
     return Premier(fichiers, std::optional<QString>());
 }
 
 std::optional<QString> DialoguesNotes::Enregistrer(const DemandeFichier& demande) {
     demandes.push_back(demande);
+    if (pendantDemande) pendantDemande(demande);
     return Premier(fichiers, std::optional<QString>());
 }
 

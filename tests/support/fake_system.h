@@ -47,6 +47,8 @@ class DialoguesNotes : public Dialogues {
     std::function<void(const Boite_&)> pendantBoite;
 
     std::vector<DemandeFichier> demandes;
+    /// Runs while a file dialog stands.
+    std::function<void(const DemandeFichier&)> pendantDemande;
     /// Answers of the next file dialogs; when empty: cancelled.
     std::vector<std::optional<QString>> fichiers;
     std::vector<std::uint32_t> departsCouleur;
