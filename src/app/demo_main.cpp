@@ -2,6 +2,7 @@
 #include "app/demo_bus.h"
 #include "app/program.h"
 #include "platform/program_folder.h"
+#include "platform/system.h"
 
 // The same program on a family of simulated loggers: for trying it out, for training and for
 // pictures.
@@ -16,5 +17,6 @@ int main(int argc, char** argv) {
     const std::unique_ptr<BusSimule> usb = BusDeDemonstration(horloge, Allure::CelleDuCable);
     Systeme systeme{horloge,           dialogues, *usb, respiration, Regional::DuSysteme(),
                     DossierProgramme()};
+    PoserCarteDeDemonstration(systeme);
     return Executer(systeme);
 }
