@@ -20,6 +20,11 @@ float LireSimple(Poste& poste, int adresse) {
     return poste.ecran.etat.TimeOut ? 0.0F : SimpleDepuisOctets(octets);
 }
 
+void EcrireSimple(Poste& poste, int adresse, float valeur) {
+    for (const int octet : OctetsDepuisSimple(valeur))
+        EcritEEpromInterne(poste, adresse++, octet);
+}
+
 }  // namespace
 
 float SimpleDepuisOctets(const Octets& octets) {
@@ -31,12 +36,29 @@ float SimpleDepuisOctets(const Octets& octets) {
     return std::bit_cast<float>(bits);
 }
 
+Octets OctetsDepuisSimple(float valeur) {
+    const auto bits = std::bit_cast<std::uint32_t>(valeur);
+    Octets octets;
+    for (std::size_t i = 0; i < octetsSimple; ++i) {
+        octets.push_back(static_cast<int>(bits >> 8U * i & 0xFFU));
+    }
+    return octets;
+}
+
 void LitPoidsImpulsion(Poste& poste, float& valeur) {
     valeur = LireSimple(poste, adressePoidsImpulsion);
 }
 
 void LitTempsDebit(Poste& poste, float& valeur) {
     valeur = LireSimple(poste, adresseTempsDebit);
+}
+
+void EcritPoidsImpulsion(Poste& poste, float valeur) {
+    EcrireSimple(poste, adressePoidsImpulsion, valeur);
+}
+
+void EcritTempsDebit(Poste& poste, float valeur) {
+    EcrireSimple(poste, adresseTempsDebit, valeur);
 }
 
 }  // namespace bornika
