@@ -175,6 +175,12 @@ std::int32_t EnEntier32(QStringView texte, const Regional& regional) {
     return EnEntier32(EnDouble(texte, regional));
 }
 
+float EnSimple(double valeur) {
+    if (!(std::fabs(valeur) <= std::numeric_limits<float>::max()))
+        LeverFaute(numero_faute::depassement);
+    return static_cast<float>(valeur);
+}
+
 double Diviser(double dividende, double diviseur) {
     if (diviseur == 0)
         LeverFaute(dividende == 0 ? numero_faute::depassement : numero_faute::divisionParZero);

@@ -44,6 +44,9 @@ std::uint8_t EnOctet(double valeur);
 std::int16_t EnEntier16(QStringView texte, const Regional& regional);
 std::int32_t EnEntier32(QStringView texte, const Regional& regional);
 
+/// The nearest single-precision number. Fault 6 beyond their range.
+float EnSimple(double valeur);
+
 /// Quotient, with fault 11 for a divisor of 0 (6 for 0/0), where plain arithmetic would go on with
 /// an infinity.
 double Diviser(double dividende, double diviseur);

@@ -204,6 +204,15 @@ TEST(EnOctet, OverflowsOutsideItsRange) {
     EXPECT_EQ(NumeroDe([] { EnOctet(-1); }), 6);
 }
 
+TEST(EnSimple, IsTheNearestSinglePrecisionNumberWithinItsRange) {
+    EXPECT_EQ(EnSimple(0.1), 0.1F);
+    EXPECT_EQ(EnSimple(-86400), -86400.0F);
+    EXPECT_EQ(EnSimple(1E-60), 0.0F);
+    EXPECT_EQ(EnSimple(3.4028234663852886E38), std::numeric_limits<float>::max());
+    EXPECT_EQ(NumeroDe([] { EnSimple(1E39); }), 6);
+    EXPECT_EQ(NumeroDe([] { EnSimple(-1E39); }), 6);
+}
+
 TEST(Diviser, FaultsWhereArithmeticWouldGoOn) {
     EXPECT_EQ(Diviser(1, 4), 0.25);
     EXPECT_EQ(NumeroDe([] { Diviser(1, 0); }), 11);
