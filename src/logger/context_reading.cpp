@@ -1,7 +1,6 @@
 #include "logger/context_reading.h"
 
-#include <array>
-
+#include "logger/addressed_fields.h"
 #include "logger/display_statement.h"
 #include "platform/code_page.h"
 #include "platform/numbers.h"
@@ -10,16 +9,6 @@
 #include "ui_main_screen.h"
 
 namespace bornika {
-
-namespace {
-
-constexpr int adresseFormatHeure = 116;
-constexpr int adresseUniteImpulsion = 117;
-
-/// Time bases in seconds, in the order of `ListeTemps`.
-constexpr std::array<float, 4> basesDeTemps = {1, 60, 3600, 86400};
-
-}  // namespace
 
 Suite LireFormatHeure(LectureParametres& lecture) {
     const Octets octets = LitEEpromInterne(lecture.poste, adresseFormatHeure, true);

@@ -20,11 +20,6 @@ double PeriodeDeListe(const ListeDeroulante& liste) {
     return liste.Index() < 0 ? 0 : liste.Donnee(liste.Index()) / parSeconde;
 }
 
-double Debut(const MainScreen& ecran) {
-    return DateVersEpoch(VersDateOrdinateur(ecran.ui->DTPicker1->dateTime()),
-                         VersDateOrdinateur(ecran.ui->DTPicker2->dateTime()));
-}
-
 void CopierEntree(const ListeDeroulante& source, int position, ListeDeroulante& cible) {
     if (position >= source.Nombre()) return;
     cible.Ajouter(source.TexteA(position));
@@ -51,6 +46,11 @@ void CorrigerDuree(MainScreen& ecran, const QString& texte) {
 
 }  // namespace
 
+std::int32_t DebutEnregistrement(const MainScreen& ecran) {
+    return DateVersEpoch(VersDateOrdinateur(ecran.ui->DTPicker1->dateTime()),
+                         VersDateOrdinateur(ecran.ui->DTPicker2->dateTime()));
+}
+
 void MontrerFin(MainScreen& ecran, double debut) {
     const double periode = PeriodeDeListe(*ecran.ui->ListePeriodeEchantillonage);
     ecran.ui->DerniereMesure->setText(
@@ -69,7 +69,7 @@ void CalculeDuree(MainScreen& ecran) {
         periode = PeriodeDeListe(*ui->ListePeriodeEchantillonage);
     }
     const double duree = periode * ecran.etat.CapaciteMemoire;
-    ui->DerniereMesure->setText(EpochVersTexte(duree + Debut(ecran), regional));
+    ui->DerniereMesure->setText(EpochVersTexte(duree + DebutEnregistrement(ecran), regional));
     ui->DureeEnregistrement->setText(
         DureeVersTexte(EnEntier32(duree), ecran.Texte(QStringLiteral("Jour(s)"))));
 }
@@ -93,7 +93,7 @@ void DateDemarrage_Click(MainScreen& ecran) {
     const QDateTime maintenant = ecran.systeme.horloge.Maintenant();
     ui->DTPicker1->setDateTime(QDateTime(maintenant.date(), QTime(0, 0), Qt::UTC));
     ui->DTPicker2->setDateTime(maintenant);
-    MontrerFin(ecran, Debut(ecran));
+    MontrerFin(ecran, DebutEnregistrement(ecran));
 }
 
 void DureeSaisie_Change(MainScreen& ecran) {

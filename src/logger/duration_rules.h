@@ -1,9 +1,14 @@
 #pragma once
 
+#include <cstdint>
+
 /// Sampling period, start and end of the recording on the main form.
 namespace bornika {
 
 class MainScreen;
+
+/// Start of the recording in device time: the date of `DTPicker1` at the time of `DTPicker2`.
+std::int32_t DebutEnregistrement(const MainScreen& ecran);
 
 /// Shows in `DerniereMesure` the end of a recording that begins at `debut`, in device time. The
 /// number of the chosen period counts as eighths of a second here also at position 0, where it

@@ -1,10 +1,10 @@
 #include "logger/schedule_reading.h"
 
 #include "link/command_table.h"
+#include "logger/card_state.h"
 #include "logger/display_statement.h"
 #include "logger/duration_rules.h"
 #include "logger/parameter_report.h"
-#include "platform/colour.h"
 #include "shell/dates.h"
 #include "ui_main_screen.h"
 
@@ -12,24 +12,12 @@ namespace bornika {
 
 namespace {
 
-constexpr Couleur noir = 0;
-constexpr Couleur rouge = 255;
-
 /// Index of the first entry that carries this number, -1 for none.
 int Chercher(const ListeDeroulante& liste, int donnee) {
     for (int i = 0; i < liste.Nombre(); ++i) {
         if (liste.Donnee(i) == donnee) return i;
     }
     return -1;
-}
-
-void MontrerCarte(MainScreen& ecran, bool presente) {
-    QLabel& etiquette = *ecran.ui->SDCardState;
-    etiquette.setText(ecran.Texte(presente ? QStringLiteral("SD CARD Present")
-                                           : QStringLiteral("SD CARD Absent")));
-    QPalette palette = etiquette.palette();
-    palette.setColor(QPalette::WindowText, VersQColor(presente ? noir : rouge));
-    etiquette.setPalette(palette);
 }
 
 }  // namespace
@@ -77,7 +65,7 @@ Suite LireDateCourante(LectureParametres& lecture) {
     ui->DateCourante->setText(EpochVersTexte(lecture.Quatre(1), ecran.systeme.regional));
     const int index = Chercher(*ui->PeriodeTrigger, lecture.Mot(5));
     if (index >= 0) afficher([&] { ui->PeriodeTrigger->Choisir(index); });
-    MontrerCarte(ecran, lecture.Octet(7) == 1);
+    MontrerCarte(ecran, lecture.Octet(7) == cartePresente);
     return Suite::Continuer;
 }
 

@@ -1,0 +1,94 @@
+#include "logger/parameter_writing.h"
+
+#include <array>
+
+#include "link/command_exchange.h"
+#include "link/frames.h"
+#include "logger/context_writing.h"
+#include "logger/parameter_reading.h"
+#include "logger/set_up_frames.h"
+#include "logger/writing_checks.h"
+#include "platform/pointer_shape.h"
+#include "retrieval/memory_access.h"
+#include "ui_main_screen.h"
+
+namespace bornika {
+
+namespace {
+
+constexpr int longueurReponse = 8;
+/// Milliseconds that the logger needs to take over the set-up, and its context before it is read.
+constexpr int pauseApresEcriture = 2000;
+/// First firmware that is asked to take over its context.
+constexpr double versionForceContexte = 2.12;
+
+constexpr std::array trames = {&TrameDemarrage, &TrameMode, &TrameHorloge, &TrameCommentaire1,
+                               &TrameCommentaire2};
+
+bool Confirmer(MainScreen& ecran) {
+    return ecran.systeme.dialogues.Boite(
+               Icone::Aucune, Boutons::OkAnnuler, ecran.etat.NomKpod,
+               ecran.Texte(QStringLiteral("Les anciennes valeurs seront écrasées"))) == Reponse::Ok;
+}
+
+/// False when the logger did not answer to one of them: the rest is not sent.
+bool EnvoyerTrames(Poste& poste) {
+    for (const auto construire : trames) {
+        EchangeDirect(poste, construire(poste.ecran), longueurTrame, longueurReponse);
+        if (poste.ecran.etat.TimeOut) return false;
+    }
+    return true;
+}
+
+/// From here on the set-up stands in the logger: a logger that falls silent is told of, but the
+/// sequence runs to its end all the same.
+void EcrireContexteEtRelire(Poste& poste) {
+    Horloge& horloge = poste.ecran.systeme.horloge;
+    horloge.Pause(pauseApresEcriture);
+    EcrireContexte(poste);
+    if (poste.ecran.etat.VersionLogiciel >= versionForceContexte) ForceContexte(poste);
+    poste.lien.FermeUSB();
+    horloge.Pause(pauseApresEcriture);
+    Lire_Parametres(poste);
+}
+
+}  // namespace
+
+void Ecrire(Poste& poste) {
+    MainScreen& ecran = poste.ecran;
+    QPushButton& bouton = *ecran.ui->Ecrire;
+    bouton.setEnabled(false);
+    ecran.etat.TimeOut = false;
+    poste.lien.OuvreUSB(ecran.etat.UsbID);
+
+    const EtatCarte carte = ControlerCarte(poste);
+    if (carte == EtatCarte::SansReponse) {
+        poste.lien.FermeUSB();  // the button stays disabled, on purpose
+        return;
+    }
+    if (carte == EtatCarte::Absente || !Confirmer(ecran)) {
+        bouton.setEnabled(true);
+        return;
+    }
+
+    const int pointeurAvant = PointeurSouris(ecran);
+    FixerPointeurSouris(ecran, pointeur::sablier);
+    if (!ControlerCapteur(poste)) {
+        bouton.setEnabled(true);
+        FixerPointeurSouris(ecran, pointeurAvant);
+        return;
+    }
+    if (!EnvoyerTrames(poste)) {
+        bouton.setEnabled(true);
+        poste.lien.FermeUSB();
+        FixerPointeurSouris(ecran, pointeurAvant);
+        return;
+    }
+    EcrireContexteEtRelire(poste);
+    FixerPointeurSouris(ecran, pointeurAvant);
+    ecran.systeme.dialogues.Boite(Icone::Information, Boutons::Ok, ecran.etat.NomKpod,
+                                  ecran.textes.TexteEcritureTerminee);
+    bouton.setEnabled(true);
+}
+
+}  // namespace bornika
