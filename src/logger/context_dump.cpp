@@ -6,7 +6,7 @@
 
 #include "platform/atomic_file.h"
 #include "platform/code_page.h"
-#include "platform/fault.h"
+#include "platform/named_fault.h"
 #include "retrieval/memory_access.h"
 #include "ui_main_screen.h"
 
@@ -57,12 +57,11 @@ QStringList Echelles(const ListeDeroulante& liste) {
 /// The logger still holds everything: a full disk is no reason to end the program.
 void Enregistrer(MainScreen& ecran, const QString& chemin, const QByteArray& texte) {
     try {
-        RemplacerFichier(chemin, texte);
+        nommer(QFileInfo(chemin).fileName(), [&] { RemplacerFichier(chemin, texte); });
     } catch (const FauteExecution& faute) {
         if (faute.numero() != numero_faute::disquePlein) throw;
-        ecran.systeme.dialogues.Boite(
-            Icone::Critique, Boutons::Ok, ecran.etat.NomKpod,
-            QFileInfo(chemin).fileName() + QStringLiteral(" : ") + faute.texte());
+        ecran.systeme.dialogues.Boite(Icone::Critique, Boutons::Ok, ecran.etat.NomKpod,
+                                      faute.texte());
     }
 }
 

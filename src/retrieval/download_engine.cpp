@@ -18,10 +18,6 @@ constexpr int longueurReponse = 10;
 constexpr int echecsMuets = 4;
 constexpr double versionCarte = 2.11;
 
-QString NomMesures(const MainScreen& ecran) {
-    return ecran.etat.Nom_Fichier + QStringLiteral(".txt");
-}
-
 void Informer(MainScreen& ecran, const QString& texte) {
     ecran.systeme.dialogues.Boite(Icone::Information, Boutons::Ok, ecran.etat.NomKpod, texte);
 }
@@ -117,9 +113,9 @@ bool Telechargement::LireReglages() {
 }
 
 void Telechargement::CreerFichiers() {
-    ecran_.etat.Nom_Fichier = NomDeBase(ecran_.systeme.horloge.Maintenant());
-    fichiers_.emplace(ecran_.systeme.Chemin(ecran_.etat.Nom_Fichier),
-                      LigneEntete(ecran_.ui->ListeUnites->Texte()));
+    nom_ = NomDeBase(ecran_.systeme.horloge.Maintenant());
+    ecran_.etat.Nom_Fichier = nom_;
+    fichiers_.emplace(ecran_.systeme.Chemin(nom_), LigneEntete(ecran_.ui->ListeUnites->Texte()));
 }
 
 Telechargement::Etat Telechargement::Tour() {
@@ -230,13 +226,13 @@ void Telechargement::TerminerNormalement() {
     avancement_.Fermer();
     ecran_.etat.EnLecture = false;
     ignorer([this] { RendreBouton(QStringLiteral("Lire les valeurs")); });
-    const QString fichier = NomMesures(ecran_);
+    const QString fichier = nom_ + QStringLiteral(".txt");
     const QString commentaires =
         ecran_.ui->Commentaire->text() + QStringLiteral("\r\n") + ecran_.etat.Rapport;
     try {
         suite_.commenter(commentaires, fichier);
     } catch (const FauteExecution& faute) {
-        echec_ = ecran_.etat.Nom_Fichier + QStringLiteral(".cmt : ") + faute.texte();
+        echec_ = nom_ + QStringLiteral(".cmt : ") + faute.texte();
         DireEchec();
     }
     avancement_.Conclure();

@@ -95,6 +95,8 @@ class Telechargement : private SortieMesures {
     Avancement avancement_;
     DecodeurMesures decodeur_;
     RedacteurLignes redacteur_;
+    /// Kept here too: a dump begun meanwhile gives the program another name.
+    QString nom_;
     std::optional<PaireEnregistrement> fichiers_;
     bool premier_ = true;
     int nbEchecs_ = 0;

@@ -1,0 +1,163 @@
+#include "retrieval/raw_dump.h"
+
+#include <algorithm>
+#include <span>
+
+#include "logger/parameter_reading.h"
+#include "logger/pressure_scale.h"
+#include "platform/code_page.h"
+#include "platform/fault.h"
+#include "platform/numbers.h"
+#include "platform/pointer_shape.h"
+#include "platform/text_file.h"
+#include "retrieval/download_progress.h"
+#include "retrieval/memory_access.h"
+#include "shell/dates.h"
+#include "ui_main_screen.h"
+
+namespace bornika {
+
+namespace {
+
+constexpr int longueurCellule = 8;
+constexpr int finDePage = 526;
+/// Half of the cells of a page: the bar is full half way, and stays so.
+constexpr double pasParPage = 33;
+
+/// One dump, from its file to its box.
+class DumpFlash {
+  public:
+    /// `nom` is the bare name of the file, which is made here.
+    DumpFlash(MainScreen& ecran, const QString& nom)
+        : ecran_(ecran),
+          avancement_(ecran),
+          nom_(nom),
+          // Each cell costs an exchange over a link of its own: its line can go out at once.
+          fichier_(ecran.systeme.Chemin(nom), ModeEcriture::Remplacer,
+                   std::chrono::milliseconds(0)) {
+        Garder([&] { fichier_.EcrireLigne(u"page;buffer;Date Heure;Valeur;Pression;unité"); });
+    }
+
+    void LirePages(Poste& poste, int PageDebut, int PageFin) {
+        for (int page = PageDebut; page <= PageFin && !Fini(); ++page)
+            LirePage(poste, page);
+        avancement_.Montrer();
+    }
+
+    void Fermer() {
+        Garder([this] { fichier_.Fermer(); });
+    }
+
+    void Annoncer() {
+        const QString texte =
+            echec_.isEmpty() ? ecran_.Texte(QStringLiteral("Valeurs stockées dans le fichier")) +
+                                   QLatin1Char(' ') + nom_
+                             : echec_;
+        ecran_.systeme.dialogues.Boite(echec_.isEmpty() ? Icone::Information : Icone::Critique,
+                                       Boutons::Ok, ecran_.etat.NomKpod, texte);
+    }
+
+  private:
+    bool Fini() const { return ecran_.etat.EnFermeture || !echec_.isEmpty(); }
+
+    void LirePage(Poste& poste, int page) {
+        for (int offset = 0; offset < finDePage; offset += longueurCellule) {
+            Respirer();
+            if (Fini()) return;
+            LireCellule(poste, page, offset);
+        }
+    }
+
+    void Respirer() {
+        Respiration& respiration = ecran_.systeme.respiration;
+        if (!respiration.EstDue()) return;
+        avancement_.Montrer();
+        respiration.Ceder();
+    }
+
+    /// Each statement keeps what it had where it fails: the line of a cell that cannot be read is
+    /// the one of the last good cell.
+    void LireCellule(Poste& poste, int page, int offset) {
+        ignorer([&] { octets_ = Memoire_Flash(poste, true, page, offset); });
+        if (octets_.size() == longueurCellule)
+            DecoderEnregistrement(std::span(octets_).first<longueurCellule>(), cellule_);
+        ignorer([&] { pression_ = Donne_Pression(ecran_, cellule_.points, true, false); });
+        Garder([&] {
+            fichier_.EcrireLigneOctets(LigneDump(cellule_, pression_, ecran_.systeme.regional));
+        });
+        avancement_.Avancer();
+    }
+
+    /// The first failure of the file counts: the logger still holds what could not be written.
+    template <class Instruction>
+    void Garder(Instruction&& instruction) {
+        try {
+            instruction();
+        } catch (const FauteExecution& faute) {
+            if (echec_.isEmpty()) echec_ = nom_ + QStringLiteral(" : ") + faute.texte();
+        }
+    }
+
+    MainScreen& ecran_;
+    Avancement avancement_;
+    /// Kept here: a download begun meanwhile gives the program another name.
+    QString nom_;
+    FichierTexteEcrit fichier_;
+    Octets octets_;
+    Enregistrement cellule_;
+    double pression_ = 0;
+    QString echec_;
+};
+
+void OuvrirBarre(MainScreen& ecran, int PageDebut, int PageFin) {
+    BarreProgression& barre = *ecran.ui->ProgressBar2;
+    const double maximum = (PageFin - PageDebut) * pasParPage + 1;
+    barre.FixerMaximum(std::max(barre.Minimum(), maximum));
+    Avancement(ecran).Ouvrir();
+}
+
+}  // namespace
+
+QString NomDeDump(const QDateTime& instant) {
+    const QDate date = instant.date();
+    const QTime heure = instant.time();
+    QString nom = QString::number(date.year());
+    for (const int partie :
+         {date.month(), date.day(), heure.hour(), heure.minute(), heure.second()})
+        nom += QLatin1Char('-') + QString::number(partie);
+    return nom;
+}
+
+QByteArray LigneDump(const Enregistrement& cellule, double pression, const Regional& regional) {
+    return QByteArray::number(cellule.horodatage) + "; " +
+           Vers8Bits(EpochVersTexte(cellule.horodatage, regional)) + ';' +
+           QByteArray::number(cellule.points) + ';' + Vers8Bits(TexteGeneral(pression, regional)) +
+           ";;" + QByteArray::number(cellule.fraction) + ';';
+}
+
+void LectureValeursPage(Poste& poste, int PageDebut, int PageFin) {
+    MainScreen& ecran = poste.ecran;
+    const auto& ui = ecran.ui;
+    const int pointeurSauve = PointeurSouris(ecran);
+    FixerPointeurSouris(ecran, pointeur::fleche);
+    ui->LireValeursPage->setEnabled(false);
+    Lire_Parametres(poste);
+    if (ecran.etat.TimeOut) {
+        // The dump's own button stays disabled: without a logger that answers there is no dump.
+        ui->LireValeurs->setEnabled(true);
+        FixerPointeurSouris(ecran, pointeurSauve);
+        return;
+    }
+    OuvrirBarre(ecran, PageDebut, PageFin);
+    ecran.etat.Nom_Fichier = NomDeDump(ecran.systeme.horloge.Maintenant());
+    DumpFlash dump(ecran, ecran.etat.Nom_Fichier + QStringLiteral(".dmp"));
+    dump.LirePages(poste, PageDebut, PageFin);
+    dump.Fermer();
+    FixerPointeurSouris(ecran, pointeurSauve);
+    Avancement(ecran).Fermer();
+    if (!ecran.etat.EnFermeture) ignorer([&] { dump.Annoncer(); });
+    ui->LireValeursPage->setEnabled(true);
+    poste.lien.FermeUSB();
+}
+
+}  // namespace bornika
