@@ -77,8 +77,8 @@ void ModeleGraphe::FixerPlage(double min, double max) {
     MontrerTout();
 }
 
-void ModeleGraphe::MontrerTout() {
-    bas.plage = pointsParPage_ > 0 && PlusLongue() ? PlagePage() : plageEntiere_;
+Plage ModeleGraphe::PlageMontrable() const {
+    return pointsParPage_ > 0 && PlusLongue() ? PlagePage() : plageEntiere_;
 }
 
 void ModeleGraphe::FixerMaxPointsPerPage(int points) {

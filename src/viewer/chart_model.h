@@ -37,6 +37,8 @@ struct OutilGraphe {
     bool suitSouris = false;
     double x = 0;
     double y = 0;
+    /// Cursor: the point of its series that it stands on, -1 before it was moved.
+    int point = -1;
 };
 
 /// A vertical axis.
@@ -100,7 +102,9 @@ class ModeleGraphe {
     /// Zoom and scrolling: the part of the time axis that is shown.
     void MontrerPlage(const Plage& plage) { bas.plage = plage; }
     /// Back to the whole page, or the whole range without pages.
-    void MontrerTout();
+    void MontrerTout() { bas.plage = PlageMontrable(); }
+    /// What `MontrerTout` shows.
+    Plage PlageMontrable() const;
 
     // Pages: page k holds the points [k n, (k + 1) n) of the longest series; 0 points means no
     // pages.

@@ -1,10 +1,11 @@
 #include "viewer/chart_view.h"
 
-#include <cmath>
-
 #include "platform/guard.h"
+#include "viewer/chart_view_cursor.h"
 #include "viewer/chart_view_curves.h"
+#include "viewer/chart_view_keys.h"
 #include "viewer/chart_view_legend.h"
+#include "viewer/chart_view_marks.h"
 #include "viewer/chart_view_mouse.h"
 #include "viewer/chart_view_ticker.h"
 #include "viewer/chart_view_tools.h"
@@ -14,9 +15,8 @@ namespace bornika {
 namespace {
 
 constexpr int colonnesLegende = 4;
-
-/// The narrowest time span, as part of the whole, that a zoom shows.
-constexpr double zoomExtreme = 1e-7;
+/// Below title and legend.
+constexpr int rangeeAnnotation = 2;
 
 QCPRange DePlage(const Plage& plage) {
     // One single instant still needs a width to be drawn in.
@@ -30,12 +30,16 @@ VueGraphe::VueGraphe(QWidget* parent)
     : QCustomPlot(parent),
       courbes_(std::make_unique<CourbesGraphe>(*this)),
       outils_(std::make_unique<OutilsGraphe>(*this)),
-      gestes_(std::make_unique<GestesGraphe>(*this)) {
+      gestes_(std::make_unique<GestesGraphe>(*this)),
+      curseur_(std::make_unique<CurseurDessine>(*this)),
+      marques_(new MarquesGraphe(this)) {
+    setFocusPolicy(Qt::StrongFocus);
     setInteractions(QCP::iNone);
     setAutoAddPlottableToLegend(false);
     setNotAntialiasedElements(QCP::aePlottables);
     PoserElements();
     FixerApparence(apparence_);
+    connect(this, &QCustomPlot::beforeReplot, this, [this] { AvantDessin(); });
     connect(this, &QCustomPlot::afterReplot, this, [this] { garder([&] { Q_EMIT Redessin(); }); });
 }
 
@@ -68,6 +72,7 @@ void VueGraphe::PoserElements() {
 
 void VueGraphe::Lier(ModeleGraphe& modele) {
     modele_ = &modele;
+    marques_->Lier(modele);
     xAxis->setTicker(QSharedPointer<EtiquettesTemps>::create(modele, *xAxis));
 }
 
@@ -97,14 +102,39 @@ void VueGraphe::FixerApparence(const Apparence& apparence) {
     titre_->setTextColor(apparence.titre);
 }
 
+void VueGraphe::FixerRegional(const Regional& regional) {
+    marques_->FixerRegional(regional);
+    QLocale nombres(regional.separateur == QLatin1String(",") ? QLocale::French : QLocale::C);
+    nombres.setNumberOptions(QLocale::OmitGroupSeparator);
+    setLocale(nombres);
+}
+
 Couleur VueGraphe::CouleurSerie(int position) const {
     return modele_->Serie(position).couleur.value_or(apparence_.CouleurSerie(position));
 }
 
 void VueGraphe::Repaint() {
-    if (!modele_ || !isVisible()) return;
+    if (!modele_) return;
+    if (!isVisible()) {
+        AnnoncerDessin();
+        return;
+    }
     Accorder();
     replot(rpQueuedRefresh);
+}
+
+/// A redraw asked for by what `Dessin` runs is the one that is under way.
+void VueGraphe::AnnoncerDessin() {
+    if (annonce_) return;
+    annonce_ = true;
+    garder([&] { Q_EMIT Dessin(); });
+    annonce_ = false;
+}
+
+void VueGraphe::AvantDessin() {
+    if (!modele_) return;
+    AnnoncerDessin();
+    outils_->Accorder(*modele_, apparence_);
 }
 
 void VueGraphe::showEvent(QShowEvent* evenement) {
@@ -112,10 +142,22 @@ void VueGraphe::showEvent(QShowEvent* evenement) {
     Repaint();
 }
 
+void VueGraphe::Reproduire(const VueGraphe& autre, const Apparence& apparence) {
+    if (!autre.modele_) return;
+    Lier(*autre.modele_);
+    FixerApparence(apparence);
+    const Etendues etendues = autre.EtenduesVisibles();
+    yAxis->setRange(etendues.gauche);
+    yAxis2->setRange(etendues.droite);
+    echellesFixes_ = autre.echellesFixes_;
+    Accorder();
+    outils_->Accorder(*modele_, apparence_);
+}
+
 void VueGraphe::Accorder() {
     courbes_->Accorder(*modele_, apparence_);
-    outils_->Accorder(*modele_, apparence_);
     AccorderTitre();
+    AccorderAnnotation();
     AccorderAxes();
     AccorderLegende();
     AccorderPlage();
@@ -134,12 +176,41 @@ void VueGraphe::AccorderTitre() {
     titre_->setVisible(!modele_->titre.isEmpty());
 }
 
+/// Its line is there only while it says something: it takes its room from the frame.
+void VueGraphe::AccorderAnnotation() {
+    QString texte;
+    for (int i = 0; i < modele_->NombreOutils() && texte.isEmpty(); ++i) {
+        const OutilGraphe& outil = modele_->Outil(i);
+        if (outil.genre == OutilGraphe::Genre::Annotation && outil.actif) texte = outil.texte;
+    }
+    if (texte.isEmpty()) {
+        if (annotation_) plotLayout()->remove(annotation_);
+        annotation_ = nullptr;
+        plotLayout()->simplify();
+        return;
+    }
+    if (!annotation_) {
+        annotation_ = new QCPTextElement(this);
+        annotation_->setTextFlags(Qt::AlignLeft | Qt::AlignVCenter);
+        annotation_->setMargins(QMargins(8, 2, 8, 2));
+        plotLayout()->insertRow(rangeeAnnotation);
+        plotLayout()->addElement(rangeeAnnotation, 0, annotation_);
+        plotLayout()->setRowStretchFactor(rangeeAnnotation, 0.001);
+    }
+    annotation_->setFont(legend->font());
+    annotation_->setTextColor(apparence_.titre);
+    annotation_->setText(texte);
+}
+
 void VueGraphe::AccorderAxes() {
     yAxis->setLabel(modele_->gauche.titre);
     yAxis2->setLabel(modele_->droite.titre);
     const CouleursEtiquettes& couleurs = modele_->couleursEtiquettes;
-    xAxis->setTickLabelColor(couleurs.bas ? VersQColor(*couleurs.bas) : apparence_.texteAxes);
-    yAxis->setTickLabelColor(couleurs.gauche ? VersQColor(*couleurs.gauche) : apparence_.texteAxes);
+    const auto etiquettes = [this](const std::optional<Couleur>& couleur) {
+        return couleur && !apparence_.papier ? VersQColor(*couleur) : apparence_.texteAxes;
+    };
+    xAxis->setTickLabelColor(etiquettes(couleurs.bas));
+    yAxis->setTickLabelColor(etiquettes(couleurs.gauche));
     yAxis2->setTickLabelColor(apparence_.texteAxes);
 
     const bool vide = modele_->bas.plage.EstVide();
@@ -158,18 +229,22 @@ void VueGraphe::AccorderAxes() {
 
 void VueGraphe::AccorderLegende() {
     legend->setVisible(modele_->legendeVisible && modele_->legendeCases);
-    if (legend->itemCount() != modele_->NombreSeries()) {
+    std::vector<int> listees;
+    for (int i = 0; i < modele_->NombreSeries(); ++i)
+        if (modele_->Serie(i).active || !apparence_.papier) listees.push_back(i);
+    if (legend->itemCount() != static_cast<int>(listees.size())) {
         legend->clearItems();
-        for (int i = 0; i < modele_->NombreSeries(); ++i) {
-            auto* element = new ElementLegende(legend, i);
+        for (const int serie : listees) {
+            auto* element = new ElementLegende(legend, serie, !apparence_.papier);
             element->Habiller(legend->font(), legend->textColor());
             legend->addItem(element);
         }
     }
-    for (int i = 0; i < modele_->NombreSeries(); ++i)
+    for (int i = 0; i < legend->itemCount(); ++i)
         if (auto* element = qobject_cast<ElementLegende*>(legend->item(i)))
-            element->Regler(modele_->Serie(i).titre, VersQColor(CouleurSerie(i)),
-                            modele_->Serie(i).active);
+            element->Regler(modele_->Serie(element->Serie()).titre,
+                            apparence_.trait(CouleurSerie(element->Serie())),
+                            modele_->Serie(element->Serie()).active);
 }
 
 void VueGraphe::AccorderPlage() {
@@ -188,10 +263,7 @@ Etendues VueGraphe::EtenduesVisibles() const {
 
 Etendues VueGraphe::EtenduesEntieres() const {
     Etendues etendues = EtenduesVisibles();
-    const Plage montree = modele_->bas.plage;
-    modele_->MontrerTout();
-    etendues.bas = DePlage(modele_->bas.plage);
-    modele_->MontrerPlage(montree);
+    etendues.bas = DePlage(modele_->PlageMontrable());
     courbes_->Etendue(SerieGraphe::Axe::Gauche, etendues.gauche);
     courbes_->Etendue(SerieGraphe::Axe::Droite, etendues.droite);
     return etendues;
@@ -206,58 +278,48 @@ void VueGraphe::Montrer(const Etendues& etendues, RefreshPriority priorite) {
     if (isVisible()) replot(priorite);
 }
 
-void VueGraphe::ZoomerSur(const QRect& zone) {
-    animation.Terminer();
-    const auto entre = [](const QCPAxis& axe, double un, double autre) {
-        return QCPRange(axe.pixelToCoord(un), axe.pixelToCoord(autre));
-    };
-    Etendues cible;
-    cible.bas = entre(*xAxis, zone.left(), zone.right());
-    cible.gauche = entre(*yAxis, zone.bottom(), zone.top());
-    cible.droite = entre(*yAxis2, zone.bottom(), zone.top());
-    if (cible.bas.size() < EtenduesEntieres().bas.size() * zoomExtreme) return;
-    animation.Demarrer(EtenduesVisibles(), cible, [this](const Etendues& e) { Montrer(e); });
-    Q_EMIT Zoom();
-}
-
-void VueGraphe::ZoomerAutour(double centre, double facteur) {
-    animation.Terminer();
-    const QCPRange entiere = EtenduesEntieres().bas;
-    Etendues cible = EtenduesVisibles();
-    cible.bas.lower = centre + (cible.bas.lower - centre) * facteur;
-    cible.bas.upper = centre + (cible.bas.upper - centre) * facteur;
-    if (facteur > 1 && cible.bas.size() >= entiere.size()) {
-        AnnulerZoom();
-        return;
-    }
-    if (cible.bas.size() < entiere.size() * zoomExtreme) return;
-    Montrer(cible);
-    Q_EMIT Zoom();
-}
-
-void VueGraphe::AnnulerZoom() {
-    if (!PeutNaviguer()) return;
-    animation.Terminer();
-    const Etendues entieres = EtenduesEntieres();
-    if (!echellesFixes_) return;
-    animation.Demarrer(
-        EtenduesVisibles(), entieres, [this](const Etendues& e) { Montrer(e); },
-        [this] { RemettreEchelles(); });
-    Q_EMIT AnnulationZoom();
-}
-
-void VueGraphe::RemettreEchelles() {
-    animation.Abandonner();
-    echellesFixes_ = false;
-    if (!modele_) return;
-    modele_->MontrerTout();
-    Repaint();
-}
-
 void VueGraphe::BasculerSerie(int serie) {
     SerieGraphe& courbe = modele_->Serie(serie);
     courbe.active = !courbe.active;
     Repaint();
+}
+
+std::optional<QPointF> VueGraphe::PositionSouris(int serie) const {
+    if (!souris_ || !modele_ || serie < 0 || serie >= modele_->NombreSeries()) return {};
+    const bool gauche = modele_->Serie(serie).axe == SerieGraphe::Axe::Gauche;
+    return QPointF(xAxis->pixelToCoord(souris_->x()),
+                   (gauche ? yAxis : yAxis2)->pixelToCoord(souris_->y()));
+}
+
+void VueGraphe::SuivreSouris(QPointF position) {
+    souris_ = position;
+    if (modele_ && DeplacerCurseur(*modele_, xAxis->pixelToCoord(position.x())))
+        curseur_->Bouger(*modele_);
+    Q_EMIT SourisBougee();
+}
+
+void VueGraphe::paintEvent(QPaintEvent* evenement) {
+    QCustomPlot::paintEvent(evenement);
+    if (!modele_) return;
+    QPainter peintre(this);
+    curseur_->Peindre(peintre, *modele_);
+    if (hasFocus() && focusClavier_) {
+        peintre.setPen(apparence_.texteAxes);
+        peintre.drawRect(axisRect()->rect().adjusted(-1, -1, 0, 0));
+    }
+}
+
+void VueGraphe::focusInEvent(QFocusEvent* evenement) {
+    focusClavier_ = evenement->reason() == Qt::TabFocusReason ||
+                    evenement->reason() == Qt::BacktabFocusReason ||
+                    evenement->reason() == Qt::ShortcutFocusReason;
+    QCustomPlot::focusInEvent(evenement);
+}
+
+void VueGraphe::keyPressEvent(QKeyEvent* evenement) {
+    bool prise = gestes_->EnCours();
+    if (!prise) garder([&] { prise = PresserTouche(*this, *evenement); });
+    evenement->setAccepted(prise);
 }
 
 void VueGraphe::mousePressEvent(QMouseEvent* evenement) {
@@ -269,7 +331,10 @@ void VueGraphe::mousePressEvent(QMouseEvent* evenement) {
 
 void VueGraphe::mouseMoveEvent(QMouseEvent* evenement) {
     Q_EMIT mouseMove(evenement);
-    garder([&] { gestes_->Bouger(*evenement); });
+    garder([&] {
+        gestes_->Bouger(*evenement);
+        SuivreSouris(evenement->position());
+    });
     evenement->accept();
 }
 
@@ -283,6 +348,12 @@ void VueGraphe::mouseDoubleClickEvent(QMouseEvent* evenement) {
     Q_EMIT mouseDoubleClick(evenement);
     garder([&] { gestes_->DoubleCliquer(*evenement); });
     evenement->accept();
+}
+
+void VueGraphe::contextMenuEvent(QContextMenuEvent* evenement) {
+    // By the mouse it comes with the press, when it may still become a drag.
+    if (evenement->reason() != QContextMenuEvent::Keyboard) return;
+    garder([&] { Q_EMIT MenuDemande(axisRect()->rect().center()); });
 }
 
 void VueGraphe::wheelEvent(QWheelEvent* evenement) {

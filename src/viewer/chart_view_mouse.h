@@ -10,7 +10,8 @@ class VueGraphe;
 
 /// What the mouse does on the chart: a rectangle drawn to the right zooms into it, one drawn to the
 /// left (or a double click) undoes the zoom, the wheel zooms in time around the pointer, the right
-/// button drags the view, a click on a line of the legend switches its curve.
+/// button drags the view or, without a drag, asks for the menu, a click on a line of the legend
+/// switches its curve.
 class GestesGraphe {
   public:
     explicit GestesGraphe(VueGraphe& vue);
@@ -20,10 +21,13 @@ class GestesGraphe {
     void Relacher(const QMouseEvent& evenement);
     void DoubleCliquer(const QMouseEvent& evenement);
     void Rouler(const QWheelEvent& evenement);
+    /// A rectangle is being drawn or the view dragged.
+    bool EnCours() const { return geste_ != Geste::Aucun; }
 
   private:
     enum class Geste { Aucun, Bande, Defilement };
 
+    bool EstTirage(QPoint position) const;
     void Tirer(QPoint position);
     void FinirBande(QPoint position);
 
@@ -32,6 +36,8 @@ class GestesGraphe {
     Geste geste_ = Geste::Aucun;
     QPoint depart_;
     Etendues etenduesDepart_;
+    /// The right button was pressed and not dragged yet.
+    bool clicDroit_ = false;
 };
 
 }  // namespace bornika

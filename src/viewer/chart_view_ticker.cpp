@@ -11,14 +11,6 @@ namespace {
 /// Least room between two labels, in pixels.
 constexpr int ecartEtiquettes = 18;
 
-int PlusProche(std::span<const double> x, const PointsVisibles& points, double cible) {
-    const auto debut = x.begin() + points.premier;
-    const auto fin = x.begin() + points.dernier + 1;
-    auto trouve = std::lower_bound(debut, fin, cible);
-    if (trouve == fin || (trouve != debut && cible - *(trouve - 1) < *trouve - cible)) --trouve;
-    return static_cast<int>(trouve - x.begin());
-}
-
 }  // namespace
 
 std::vector<int> ChoisirPoints(const SerieGraphe& serie, const Plage& plage, int nombre) {

@@ -46,6 +46,7 @@ bool Trace::EnFermeture() const {
 
 void Trace::LierGraphe() {
     ui->TChart1->Lier(modele);
+    ui->TChart1->FixerRegional(ecran.systeme.regional);
     modele.quandRedessiner = [this] { ui->TChart1->Repaint(); };
     connect(ui->ChartPageNavigator, &NavigateurPages::PageDemandee, this,
             [this](int page) { garder([&] { MontrerPage(*this, page); }); });

@@ -24,6 +24,16 @@ PointsVisibles ChercherVisibles(std::span<const double> x, bool trie, const Plag
             static_cast<int>(x.size()) - 1 - static_cast<int>(dernier - x.rbegin())};
 }
 
+int PlusProche(std::span<const double> x, const PointsVisibles& points, double cible) {
+    const auto debut = x.begin() + points.premier;
+    const auto fin = x.begin() + points.dernier + 1;
+    auto trouve = std::lower_bound(debut, fin, cible);
+    if (trouve == debut) return points.premier;
+    if (trouve == fin || cible - *(trouve - 1) <= *trouve - cible)
+        trouve = std::lower_bound(debut, fin, *(trouve - 1));
+    return static_cast<int>(trouve - x.begin());
+}
+
 Plage Etendue(std::span<const double> x, bool trie) {
     if (x.empty()) return {1, 0};
     if (trie) return {x.front(), x.back()};

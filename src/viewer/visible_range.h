@@ -30,6 +30,10 @@ struct PointsVisibles {
 };
 PointsVisibles ChercherVisibles(std::span<const double> x, bool trie, const Plage& plage);
 
+/// Position of the x nearest to `cible` from the first to the last of `points` (one at least), the
+/// first of several that are equally near, where x are in order.
+int PlusProche(std::span<const double> x, const PointsVisibles& points, double cible);
+
 /// Smallest and largest of the values; an empty range for none.
 Plage Etendue(std::span<const double> x, bool trie);
 

@@ -47,6 +47,33 @@ struct Scene {
         }
         QTest::mouseRelease(&vue, bouton, {}, a);
     }
+    /// Moves the mouse there without a button.
+    void Survoler(QPoint ou) {
+        QMouseEvent pas(QEvent::MouseMove, QPointF(ou), vue.mapToGlobal(QPointF(ou)), Qt::NoButton,
+                        Qt::NoButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&vue, &pas);
+    }
+    /// The same to a time, in the middle of the height.
+    void SurvolerTemps(double temps) {
+        Survoler({qRound(vue.xAxis->coordToPixel(temps)), Cadre().center().y()});
+    }
+    /// A cursor that follows the mouse on a series, as the last tool.
+    OutilGraphe& PoserCurseur(int serie, Couleur crayon = 0xFFFFFF) {
+        OutilGraphe curseur;
+        curseur.genre = OutilGraphe::Genre::Curseur;
+        curseur.serie = serie;
+        curseur.crayon = crayon;
+        curseur.suitSouris = true;
+        return modele.AjouterOutil(curseur);
+    }
+    /// Takes all points of a curve away and gives it these.
+    SerieGraphe& Remplacer(const std::vector<QPointF>& points) {
+        modele.RetirerTout();
+        SerieGraphe& serie = modele.AjouterSerie();
+        for (const QPointF& point : points)
+            serie.AjouterPoint(point.x(), point.y(), MagasinEtiquettes::vide);
+        return serie;
+    }
     void Rouler(QPoint ou, int crans) {
         QWheelEvent roue(QPointF(ou), vue.mapToGlobal(QPointF(ou)), QPoint(),
                          QPoint(0, 120 * crans), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
