@@ -41,7 +41,6 @@ class DumpFlash {
     void LirePages(Poste& poste, int PageDebut, int PageFin) {
         for (int page = PageDebut; page <= PageFin && !Fini(); ++page)
             LirePage(poste, page);
-        avancement_.Montrer();
     }
 
     void Fermer() {
