@@ -62,4 +62,10 @@ int ValeurPoints(int drapeaux, int bas) {
     return (drapeaux & 3) * 256 + bas;
 }
 
+void DecoderEnregistrement(std::span<const int, 8> octets, Enregistrement& enregistrement) {
+    enregistrement.fraction = Fraction(octets[0], octets[1]);
+    DecoderHorodatage(octets.subspan<2, 4>(), enregistrement.horodatage);
+    enregistrement.points = ValeurPoints(octets[6], octets[7]);
+}
+
 }  // namespace bornika

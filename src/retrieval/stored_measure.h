@@ -32,4 +32,17 @@ int MillisecondesImpulsion(int fraction);
 /// Point value, 0 to 1023: the two low bits of the flags are its high part.
 int ValeurPoints(int drapeaux, int bas);
 
+/// A stored measure taken apart.
+struct Enregistrement {
+    int fraction = 0;
+    /// Device time, in seconds.
+    std::int32_t horodatage = 0;
+    /// 0 to 1023.
+    int points = 0;
+};
+
+/// Takes the 8 bytes of a stored measure apart, parity left aside. An erased cell leaves the time
+/// stamp to `DecoderHorodatage`, and with it what `enregistrement` held.
+void DecoderEnregistrement(std::span<const int, 8> octets, Enregistrement& enregistrement);
+
 }  // namespace bornika

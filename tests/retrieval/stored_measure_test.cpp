@@ -146,3 +146,19 @@ TEST(StoredMeasure, PointsTakeTheirHighBitsFromTheFlags) {
     EXPECT_EQ(ValeurPoints(0xFC, 7), 7);
     EXPECT_EQ(ValeurPoints(0x81, 2), 258);
 }
+
+TEST(StoredMeasure, IsTakenApartIntoFractionTimeAndPoints) {
+    Enregistrement e;
+    DecoderEnregistrement(std::array{3, 7, 0x65, 0x53, 0xF1, 0x00, 0xFE, 0x80}, e);
+    EXPECT_EQ(e.fraction, 775);
+    EXPECT_EQ(e.horodatage, 0x6553F100);
+    EXPECT_EQ(e.points, 640);
+}
+
+TEST(StoredMeasure, AnErasedCellAddsItsLowerTimeBytesToTheTimeBefore) {
+    Enregistrement e{.fraction = 1, .horodatage = 1000, .points = 2};
+    DecoderEnregistrement(std::array{255, 255, 255, 255, 255, 255, 255, 255}, e);
+    EXPECT_EQ(e.fraction, 65535);
+    EXPECT_EQ(e.horodatage, 1000 + 16777215);
+    EXPECT_EQ(e.points, 1023);
+}
