@@ -1,7 +1,12 @@
 #include "logger/clock_correction.h"
 
+#include <cmath>
+
+#include "link/command_exchange.h"
+#include "link/frames.h"
 #include "platform/fault.h"
 #include "platform/format_pattern.h"
+#include "platform/numbers.h"
 #include "retrieval/memory_access.h"
 #include "shell/dates.h"
 #include "ui_main_screen.h"
@@ -25,6 +30,12 @@ std::optional<double> SecondesPourHuit(std::int32_t ticks) {
     return (1 - r) * secondesNeutres;
 }
 
+std::int32_t TicksPourSecondes(double secondes) {
+    const double x = (1 / secondes - 1 / secondesNeutres) * secondesNeutres;
+    if (!std::isfinite(x)) LeverFaute(numero_faute::depassement);
+    return x == 0 ? 0 : EnEntier32(1 / x);
+}
+
 void Lire_Correction_Temps(Poste& poste) {
     MainScreen& ecran = poste.ecran;
     Octets octets;
@@ -36,6 +47,20 @@ void Lire_Correction_Temps(Poste& poste) {
     const std::optional<double> secondes = SecondesPourHuit(ticks);
     if (!secondes) return;
     ecran.ui->ValeurCorrection_1->setText(Format(*secondes, "#.0000", ecran.systeme.regional));
+}
+
+void CommandCorrection_Click(Poste& poste) {
+    MainScreen& ecran = poste.ecran;
+    const Regional& regional = ecran.systeme.regional;
+    const QString saisie = ecran.ui->ValeurCorrection_1->text();
+    if (!EstNumerique(saisie, regional)) return;
+    const double secondes = EnDouble(saisie, regional);
+    if (secondes == 0) return;
+    const std::int32_t ticks = TicksPourSecondes(secondes);
+    ecran.ui->ValeurCorrection_0->setText(Format(ticks, "0.0000", regional));
+    poste.lien.OuvreUSB(ecran.etat.UsbID);
+    EchangeDirect(poste, TrameEcritCorrection(ticks), longueurTrame, 1);
+    poste.lien.FermeUSB();
 }
 
 }  // namespace bornika
