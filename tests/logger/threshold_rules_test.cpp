@@ -270,8 +270,10 @@ TEST_F(Seuils, TheChoiceOfTwoGoesOnBehindTheTextThatFails) {
     contenu.replace(">Limite basse<", ">retirée<");
     banc.etabli.Ecrire(QStringLiteral("config.xml"), contenu);
     // A folder in the way of the new file: the missing entry cannot be added.
-    ASSERT_TRUE(QDir(banc.etabli.systeme.dossier)
-                    .mkdir(QStringLiteral(".bornika-%1.tmp").arg(QApplication::applicationPid())));
+    ASSERT_TRUE(
+        QDir(banc.etabli.systeme.dossier)
+            .mkdir(
+                QStringLiteral(".bornika-%1-config.xml.tmp").arg(QApplication::applicationPid())));
     ecran.textes.TexteLimiteBasse = QStringLiteral("gardé");
     ecran.textes.TexteLimiteHaute = QStringLiteral("vieux");
     ui.DeuxSeuils->setChecked(true);
