@@ -45,8 +45,17 @@ const char* const options[] = {"AMPM_0",     "AMPM_1",         "AuDessus",
                                "AuDessous",  "PasDeSeuil",     "UnSeuil",
                                "DeuxSeuils", "BufferTournant", "BufferNonTournant"};
 const char* const cases[] = {"Check_advanced", "OneShot", "PressionAbsolue"};
-const char* const cadres[] = {
-    "Frame1", "Frame2", "Frame3", "Frame4", "Frame5", "FrameFlowParameter", "FrameTest"};
+const char* const cadres[] = {"Frame1",
+                              "Frame2",
+                              "Frame3",
+                              "Frame4",
+                              "Frame5",
+                              "FrameTest",
+                              "FrameCapteur",
+                              "FrameFlash",
+                              "FrameSerie",
+                              "FrameCorrection",
+                              "FrameFlowParameter"};
 const char* const saisies[] = {"DureeSaisie",
                                "Seuil1",
                                "Seuil2",
@@ -245,19 +254,18 @@ TEST_F(MainScreenForm, HoldsEachSetUpControlInItsFrame) {
 }
 
 TEST_F(MainScreenForm, OffersOnlyWhatItCanDo) {
-    for (const QPushButton* bouton :
-         {ui.Ecrire, ui.LireSD, ui.LireLaFlash, ui.EcrireLaFlash, ui.LireEeprom, ui.LireValeursPage,
-          ui.ProgNumeroSerie, ui.RAZNumeroSerie, ui.Command2, ui.TestDebitON, ui.TestDebitOFF,
-          ui.Test, ui.LireValeurDetectionCapteur, ui.CommandCorrection})
+    for (const QPushButton* bouton : {ui.ProgNumeroSerie, ui.RAZNumeroSerie, ui.Command2, ui.Test,
+                                      ui.LireValeurDetectionCapteur})
         EXPECT_FALSE(bouton->isEnabled()) << bouton->objectName().toStdString();
     for (const QPushButton* bouton :
-         {ui.Lire, ui.LireValeurs, ui.VoirLesValeurs, ui.DateDemarrage, ui.Sortir})
+         {ui.Lire, ui.Ecrire, ui.LireEeprom, ui.LireValeursPage, ui.LireValeurs, ui.LireSD,
+          ui.VoirLesValeurs, ui.DateDemarrage, ui.Sortir, ui.CommandCorrection, ui.LireLaFlash,
+          ui.EcrireLaFlash, ui.TestDebitON, ui.TestDebitOFF})
         EXPECT_TRUE(bouton->isEnabled()) << bouton->objectName().toStdString();
-    for (const QAction* entree :
-         {ui.mnuEtalonnage, ui.mnurapport, ui.nmuBootLoad, ui.MnuFlowTest, ui.mnuApropos})
+    for (const QAction* entree : {ui.mnuEtalonnage, ui.mnurapport, ui.nmuBootLoad, ui.mnuApropos})
         EXPECT_FALSE(entree->isEnabled()) << entree->objectName().toStdString();
     for (const QAction* entree :
-         {ui.mnuChargeRapide, ui.mnuModeAvance, ui.MnuModeAide, ui.MnuSplash})
+         {ui.mnuChargeRapide, ui.mnuModeAvance, ui.MnuModeAide, ui.MnuSplash, ui.MnuFlowTest})
         EXPECT_TRUE(entree->isEnabled() && entree->isCheckable() && !entree->isChecked())
             << entree->objectName().toStdString();
 }
