@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <QPushButton>
-#include <QTest>
 
 #include "shell/captions.h"
 #include "shell/language_switch.h"
