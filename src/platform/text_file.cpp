@@ -9,6 +9,7 @@
 #include <cerrno>
 #include <climits>
 #include <cstring>
+#include <ctime>
 #include <utility>
 #include <vector>
 
@@ -25,6 +26,14 @@ constexpr qsizetype tailleTampon = 1 << 16;
 std::vector<FichierTexteEcrit*>& Ouverts() {
     static std::vector<FichierTexteEcrit*> ouverts;
     return ouverts;
+}
+
+// Asked at each line: it moves in steps of some milliseconds, at a fraction of the finer clock's
+// cost.
+std::chrono::nanoseconds Instant() {
+    timespec instant{};
+    ::clock_gettime(CLOCK_MONOTONIC_COARSE, &instant);
+    return std::chrono::seconds(instant.tv_sec) + std::chrono::nanoseconds(instant.tv_nsec);
 }
 
 bool EstDisquePlein(int erreur) {
@@ -48,7 +57,7 @@ int NumeroOuverture(int erreur) {
 
 FichierTexteEcrit::FichierTexteEcrit(const QString& chemin, ModeEcriture mode,
                                      std::chrono::milliseconds delai)
-    : chemin_(chemin), delai_(delai), dernierVidage_(std::chrono::steady_clock::now()) {
+    : chemin_(chemin), delai_(delai), dernierVidage_(Instant()) {
     if (chemin.isEmpty() || chemin.contains(QChar(u'\0'))) LeverFaute(numero_faute::nomDeFichier);
     const int sens = mode == ModeEcriture::Ajouter ? O_APPEND : O_TRUNC;
     descripteur_ =
@@ -98,13 +107,11 @@ void FichierTexteEcrit::ViderTous() noexcept {
 
 void FichierTexteEcrit::Deposer(QByteArrayView octets) {
     tampon_.append(octets);
-    if (tampon_.size() >= tailleTampon ||
-        std::chrono::steady_clock::now() - dernierVidage_ >= delai_)
-        Vider();
+    if (tampon_.size() >= tailleTampon || Instant() - dernierVidage_ >= delai_) Vider();
 }
 
 void FichierTexteEcrit::Vider() {
-    dernierVidage_ = std::chrono::steady_clock::now();
+    dernierVidage_ = Instant();
     qsizetype ecrits = 0;
     int erreur = 0;
     while (ecrits < tampon_.size() && erreur == 0) {
@@ -121,6 +128,7 @@ void FichierTexteEcrit::Vider() {
 }
 
 FichierTexteLu::FichierTexteLu(const QString& chemin) {
+    if (chemin.isEmpty()) LeverFaute(numero_faute::fichierIntrouvable);
     // Read whole, not mapped: the file may be written anew while the interface runs in between.
     QFile fichier(chemin);
     if (!fichier.open(QIODevice::ReadOnly))

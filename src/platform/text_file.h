@@ -46,7 +46,8 @@ class FichierTexteEcrit {
     int descripteur_ = -1;
     QByteArray tampon_;
     std::chrono::milliseconds delai_;
-    std::chrono::steady_clock::time_point dernierVidage_;
+    /// By a clock of its own.
+    std::chrono::nanoseconds dernierVidage_;
 };
 
 /// A text file being read line by line.
@@ -56,6 +57,8 @@ class FichierTexteLu {
     explicit FichierTexteLu(const QString& chemin);
 
     qint64 Taille() const { return taille_; }
+    /// All bytes of the file, valid as long as this object.
+    QByteArrayView Contenu() const { return contenu_; }
     bool EstFin() const { return position_ >= contenu_.size(); }
     /// True at the end of the stream or when the next byte is CR or LF.
     bool EstFinDeLigne() const;

@@ -1,7 +1,5 @@
 #include "viewer/chart_session.h"
 
-#include <QStringList>
-
 #include "platform/guard.h"
 #include "platform/numbers.h"
 #include "platform/pointer_shape.h"
@@ -9,6 +7,8 @@
 #include "ui_trace_form.h"
 #include "viewer/chart_pages.h"
 #include "viewer/colour_choice.h"
+#include "viewer/readout_box.h"
+#include "viewer/recording_path.h"
 #include "viewer/trace_form.h"
 #include "viewer/trace_loader.h"
 #include "viewer/viewer_loading.h"
@@ -62,6 +62,7 @@ void ChargerGabarit(Trace& trace) {
 
 void PreparerGraphe(Trace& trace) {
     ignorer([&] { ChargerGabarit(trace); });
+    FixerFondLectures(trace);
     trace.modele.visible = false;
     trace.ui->TChart1->hide();
     trace.modele.troisDimensions = false;
@@ -72,17 +73,13 @@ void PreparerGraphe(Trace& trace) {
 
 void LireFichiers(Trace& trace, const QString& NomFichier, bool Reload) {
     ControlesChargement controles(trace);
-    const QStringList parts = NomFichier.split(QChar(u'\0'));
-    if (parts.size() < 2) {
-        ignorer([&] {
-            TraceCourbe(controles, NomFichier, true, false, trace.Mini, trace.Maxi, Reload);
-        });
-        return;
-    }
-    for (qsizetype i = 1; i < parts.size() && !trace.EnFermeture(); ++i) {
-        const QString chemin = parts[0] + QLatin1Char('/') + parts[i];
+    const bool Multi = NomFichier.contains(QChar(u'\0'));
+    bool init = true;
+    for (const QString& chemin : CheminsFichiers(NomFichier)) {
+        if (trace.EnFermeture()) return;
         ignorer(
-            [&] { TraceCourbe(controles, chemin, i == 1, true, trace.Mini, trace.Maxi, Reload); });
+            [&] { TraceCourbe(controles, chemin, init, Multi, trace.Mini, trace.Maxi, Reload); });
+        init = false;
     }
 }
 

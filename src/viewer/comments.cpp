@@ -3,7 +3,7 @@
 #include <QFile>
 
 #include "platform/code_page.h"
-#include "platform/text_file.h"
+#include "platform/named_fault.h"
 #include "shell/main_screen.h"
 #include "ui_trace_form.h"
 #include "viewer/trace_form.h"
@@ -27,11 +27,17 @@ void EnregistrerCommentaires(Trace& trace, const QString& repertoire) {
                                             QStringLiteral("Vous devez saisir un fichier"));
         return;
     }
+    EcrireCommentaires(trace, CheminCommentaires(trace, repertoire), ModeEcriture::Remplacer);
+}
+
+void EcrireCommentaires(Trace& trace, const QString& chemin, ModeEcriture mode) {
     QString texte = trace.ui->Commentaires->toPlainText();
     texte.replace(QLatin1Char('\n'), QLatin1String("\r\n"));
-    FichierTexteEcrit fichier(CheminCommentaires(trace, repertoire), ModeEcriture::Remplacer);
-    fichier.EcrireLigne(texte);
-    fichier.Fermer();
+    nommer(chemin, [&] {
+        FichierTexteEcrit fichier(chemin, mode);
+        fichier.EcrireLigne(texte);
+        fichier.Fermer();
+    });
 }
 
 void LitCommentaires(Trace& trace) {

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include "platform/text_file.h"
+
 namespace bornika {
 
 class Trace;
@@ -10,6 +12,10 @@ class Trace;
 /// its first ".", ".cmt". An empty name gives a box and nothing else; a file that cannot be made is
 /// a fault.
 void EnregistrerCommentaires(Trace& trace, const QString& repertoire);
+
+/// Writes `Commentaires` with one line end behind it into that file. A file that cannot be made or
+/// written is a fault, which names it.
+void EcrireCommentaires(Trace& trace, const QString& chemin, ModeEcriture mode);
 
 /// Called at the start of each file that is loaded. It reads nothing: comment files are
 /// deliberately never read back.

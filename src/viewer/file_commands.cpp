@@ -16,7 +16,11 @@ void CommandOpen(Trace& trace) {
     demande.plusieurs = true;
     trace.NomDialogue.clear();
     if (const auto nom = trace.ecran.systeme.dialogues.Ouvrir(demande)) trace.NomDialogue = *nom;
-    if (trace.NomDialogue.isEmpty()) return;
+    if (!trace.NomDialogue.isEmpty()) OuvrirEnregistrements(trace, trace.NomDialogue);
+}
+
+void OuvrirEnregistrements(Trace& trace, const QString& nom) {
+    trace.NomDialogue = nom;
     FixerFichierCourant(trace, trace.NomDialogue);
     ChargeCourbes(trace, trace.NomFichierCourant, false);
 }

@@ -1,9 +1,27 @@
 #include "viewer/recording_path.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
+#include <filesystem>
+#include <system_error>
 
 namespace bornika {
+
+QStringList CheminsFichiers(const QString& NomFichier) {
+    const QStringList morceaux = NomFichier.split(QChar(u'\0'));
+    if (morceaux.size() < 2) return morceaux;
+    QStringList chemins;
+    for (qsizetype i = 1; i < morceaux.size(); ++i)
+        chemins << morceaux[0] + QLatin1Char('/') + morceaux[i];
+    return chemins;
+}
+
+bool EstMemeFichier(const QString& un, const QString& autre) {
+    std::error_code erreur;
+    return std::filesystem::equivalent(QFile::encodeName(un).toStdString(),
+                                       QFile::encodeName(autre).toStdString(), erreur);
+}
 
 QString TrouverFichier(const QString& NomFichier) {
     const QFileInfo fichier(NomFichier);
