@@ -4,6 +4,7 @@
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QTemporaryDir>
 #include <algorithm>
@@ -17,6 +18,7 @@
 #include "platform/system.h"
 #include "shell/main_screen.h"
 #include "ui_trace_form.h"
+#include "viewer/chart_template.h"
 #include "viewer/statistics_display.h"
 #include "viewer/trace_form.h"
 #include "viewer/viewer_access.h"
@@ -31,15 +33,9 @@ constexpr int appelsArretes = 1000;
 
 /// The viewer form with one curve, all of it in view, and the tools of a chart.
 struct Fenetre {
-    Fenetre() {
-        acces.apresCreation = [](Trace& trace) { BrancherTrace(trace); };
+    Fenetre() : trace(Ouvrir()) {
         ModeleGraphe& modele = trace.modele;
-        for (int i = 0; i < 6; ++i) {
-            OutilGraphe outil;
-            outil.genre =
-                i < 2 || i == 5 ? OutilGraphe::Genre::Reserve : OutilGraphe::Genre::LigneCouleur;
-            modele.AjouterOutil(outil);
-        }
+        modele.RemplacerOutils(LireGabarit(ressources.filePath("BORNIKA.TEE")).outils);
         std::mt19937 tirage(3);
         std::normal_distribution<double> bruit(0, 0.05);
         SerieGraphe& serie = modele.AjouterSerie();
@@ -51,7 +47,15 @@ struct Fenetre {
         trace.ui->Curseur->Ajouter(QStringLiteral("-"));
         trace.ui->Curseur->Choisir(0);
     }
+    Trace& Ouvrir() {
+        const QString copie = systeme.Chemin(QStringLiteral("config.xml"));
+        if (!QFile::copy(ressources.filePath("config.xml"), copie)) std::abort();
+        QFile::setPermissions(copie, QFile::ReadOwner | QFile::WriteOwner);
+        acces.apresCreation = [](Trace& fiche) { BrancherTrace(fiche); };
+        return acces.Fiche();
+    }
 
+    const QDir ressources{QStringLiteral(BORNIKA_RESOURCES)};
     QTemporaryDir dossier;
     HorlogeSysteme horloge;
     DialoguesQt dialogues;
@@ -60,7 +64,7 @@ struct Fenetre {
     Systeme systeme{horloge, dialogues, usb, respiration, Regional{}, dossier.path()};
     MainScreen ecran{systeme};
     AccesTrace acces{ecran};
-    Trace& trace = acces.Fiche();
+    Trace& trace;
 };
 
 /// What no statistics can do without.

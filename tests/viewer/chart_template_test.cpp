@@ -38,8 +38,8 @@ TEST(ChartTemplate, TheDeliveredLinesHaveHiddenPensOfThreeColours) {
     const Gabarit gabarit = LireGabarit(etabli.Chemin(QStringLiteral("BORNIKA.TEE")));
     ASSERT_EQ(gabarit.outils.size(), 6U);
     EXPECT_EQ(gabarit.outils[2].crayon, 0x00A5FFU);
-    EXPECT_EQ(gabarit.outils[3].crayon, 0xFF0000U);
-    EXPECT_EQ(gabarit.outils[4].crayon, 0x0000FFU);
+    EXPECT_EQ(gabarit.outils[3].crayon, 0xFF9D5BU);
+    EXPECT_EQ(gabarit.outils[4].crayon, 0x303BFFU);
     for (std::size_t i = 2; i < 5; ++i)
         EXPECT_FALSE(gabarit.outils[i].crayonVisible) << i;
 }

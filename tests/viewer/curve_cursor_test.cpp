@@ -1,5 +1,6 @@
 #include "viewer/curve_cursor.h"
 
+#include "platform/format_pattern.h"
 #include "shell/dates.h"
 #include "viewer/reading_scene.h"
 
@@ -162,7 +163,7 @@ TEST_F(CurseurLecture, WithoutACursorThePlaceOfTheMouseIsReadOnTheFirstCurve) {
     const double y = Vue().yAxis->pixelToCoord(souris.y());
     EXPECT_NE(y, std::floor(y));
     const Lu lu = Affiche();
-    EXPECT_EQ(lu.pression, QString::number(y, 'f', 2));
+    EXPECT_EQ(lu.pression, Format(y, "#.##", v.etabli.systeme.regional));
     EXPECT_EQ(lu.date, Date(Vue().xAxis->pixelToCoord(souris.x())));
     EXPECT_EQ(lu.etiquette, "Pression");
     EXPECT_EQ(lu.couleur, Vue().CouleurSerie(0));

@@ -98,6 +98,19 @@ TEST_F(MinMax, EachBoxHasTheColourOfItsLine) {
     EXPECT_EQ(CouleurTexte(v.Ui().Min), 0x123456U);
 }
 
+TEST_F(MinMax, TheBoxesHaveTheGroundOfTheChartThatTheColoursAreMadeFor) {
+    Charger(Montee(9));
+    Allumer();
+    Survoler(debutSecondes + 3);
+    const QColor fond = Vue().ApparencePresente().cadre;
+    for (const QLineEdit* boite :
+         {v.Ui().Min, v.Ui().Moy, v.Ui().Max, v.Ui().pression, v.Ui().date}) {
+        EXPECT_EQ(boite->palette().color(QPalette::Base), fond);
+        const QColor texte = boite->palette().color(QPalette::Text);
+        EXPECT_GT(qGray(texte.rgb()) - qGray(fond.rgb()), 80) << boite->objectName().toStdString();
+    }
+}
+
 TEST_F(MinMax, TheSeparatorIsThatOfTheUser) {
     v.etabli.systeme.regional.separateur = ",";
     Charger({{1, 1}, {2, 1}});
@@ -303,6 +316,16 @@ TEST_F(Lisseur, ItsMouseMovesItByPages) {
     QTest::mouseClick(&barre, Qt::LeftButton, {}, QPoint(barre.width() - 30, barre.height() / 2));
     EXPECT_EQ(barre.value(), 20);
     EXPECT_EQ(Periode(2), 20);
+}
+
+TEST_F(Lisseur, TheWheelAwayFromTheHandSmoothsMore) {
+    Charger(Montee(30));
+    QScrollBar& barre = *v.Ui().Lissage;
+    const QPointF milieu = QRectF(barre.rect()).center();
+    QWheelEvent roue(milieu, barre.mapToGlobal(milieu), QPoint(), QPoint(0, 120), Qt::NoButton,
+                     Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&barre, &roue);
+    EXPECT_GT(barre.value(), 10);
 }
 
 TEST_F(Lisseur, AHiddenCurveKeepsItsPeriodUntilItIsShownAndTheSliderMovedAgain) {
