@@ -14,7 +14,7 @@ namespace {
 /// The points of a series that a cursor can stand on.
 struct Points {
     explicit Points(const SerieGraphe& serie)
-        : x(serie.X()), y(serie.Y()), trie(serie.EstTriee()) {}
+        : x(serie.X()), y(serie.Y()), suites(serie.Suites()), trie(serie.EstTriee()) {}
 
     bool EstNombre(int point) const {
         const auto place = static_cast<std::size_t>(point);
@@ -23,13 +23,16 @@ struct Points {
     double Ecart(int point, double cible) const {
         return std::abs(x[static_cast<std::size_t>(point)] - cible);
     }
+    int Nombre() const { return static_cast<int>(x.size()); }
 
     std::span<const double> x;
     std::span<const double> y;
+    std::span<const int> suites;
     bool trie;
 };
 
-int ProcheTriee(const Points& points, const PointsVisibles& visibles, double x) {
+/// The same where the times are in order.
+int ProcheDansSuite(const Points& points, const PointsVisibles& visibles, double x) {
     const int depart = PlusProche(points.x, visibles, x);
     int avant = depart;
     while (avant >= visibles.premier && !points.EstNombre(avant))
@@ -42,15 +45,18 @@ int ProcheTriee(const Points& points, const PointsVisibles& visibles, double x) 
     return points.Ecart(apres, x) < points.Ecart(avant, x) ? apres : avant;
 }
 
-int ProcheDesordre(const Points& points, const PointsVisibles& visibles, const Plage& plage,
-                   double x) {
-    int proche = -1;
-    for (int point = visibles.premier; point <= visibles.dernier; ++point) {
-        if (!points.EstNombre(point) || !plage.Contient(points.x[static_cast<std::size_t>(point)]))
-            continue;
-        if (proche < 0 || points.Ecart(point, x) < points.Ecart(proche, x)) proche = point;
-    }
-    return proche;
+/// The visible points of one run of times in order.
+PointsVisibles VisiblesDeSuite(const Points& points, std::size_t suite,
+                               const PointsVisibles& visibles, const Plage& plage) {
+    const int fin = suite + 1 < points.suites.size() ? points.suites[suite + 1] : points.Nombre();
+    const int debut = std::max(points.suites[suite], visibles.premier);
+    const int nombre = std::min(fin, visibles.dernier + 1) - debut;
+    if (nombre <= 0) return {};
+    const PointsVisibles dedans = ChercherVisibles(
+        points.x.subspan(static_cast<std::size_t>(debut), static_cast<std::size_t>(nombre)), true,
+        plage);
+    if (dedans.premier < 0) return {};
+    return {debut + dedans.premier, debut + dedans.dernier};
 }
 
 }  // namespace
@@ -71,8 +77,15 @@ int PointProche(const ModeleGraphe& modele, int serie, double x) {
     const PointsVisibles visibles = modele.Visibles(serie);
     if (visibles.premier < 0) return -1;
     const Points points(modele.Serie(serie));
-    return points.trie ? ProcheTriee(points, visibles, x)
-                       : ProcheDesordre(points, visibles, modele.bas.plage, x);
+    int proche = -1;
+    for (std::size_t suite = 0; suite < points.suites.size(); ++suite) {
+        const PointsVisibles dedans = VisiblesDeSuite(points, suite, visibles, modele.bas.plage);
+        if (dedans.premier < 0) continue;
+        const int point = ProcheDansSuite(points, dedans, x);
+        if (point >= 0 && (proche < 0 || points.Ecart(point, x) < points.Ecart(proche, x)))
+            proche = point;
+    }
+    return proche;
 }
 
 namespace {
@@ -85,8 +98,7 @@ void Poser(OutilGraphe& curseur, const SerieGraphe& serie, int point) {
 
 /// The nearest point in that direction whose time lies within the limits.
 int Voisin(const Points& points, int depart, int sens, const Plage& limites) {
-    const auto nombre = static_cast<int>(points.x.size());
-    for (int point = depart + sens; point >= 0 && point < nombre; point += sens) {
+    for (int point = depart + sens; point >= 0 && point < points.Nombre(); point += sens) {
         const bool dedans = limites.Contient(points.x[static_cast<std::size_t>(point)]);
         if (!dedans && points.trie) return -1;
         if (dedans && points.EstNombre(point)) return point;

@@ -61,10 +61,10 @@ std::span<const double> SerieGraphe::Y() const {
     return deduites_;
 }
 
-bool SerieGraphe::EstTriee() const {
-    if (!EstFonction()) return trie_;
+std::span<const int> SerieGraphe::Suites() const {
+    if (!EstFonction()) return suites_;
     const auto source = Source();
-    return !source || source->EstTriee();
+    return source ? source->Suites() : std::span<const int>();
 }
 
 QString SerieGraphe::Etiquette(int point) const {

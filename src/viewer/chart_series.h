@@ -70,7 +70,7 @@ class SerieGraphe {
     }
     void Reserver(std::size_t points);
     void AjouterPoint(double x, double y, MagasinEtiquettes::Place etiquette) {
-        if (!x_.empty() && x < x_.back()) trie_ = false;
+        if (x_.empty() || x < x_.back()) suites_.push_back(static_cast<int>(x_.size()));
         x_.push_back(x);
         y_.push_back(y);
         places_.push_back(etiquette);
@@ -84,8 +84,10 @@ class SerieGraphe {
     std::span<const double> X() const;
     /// Values; those of a function series are computed now if they are out of date.
     std::span<const double> Y() const;
+    /// Positions at which runs of x in order begin; a joined recording has a few.
+    std::span<const int> Suites() const;
     /// True when no x is below the one before it.
-    bool EstTriee() const;
+    bool EstTriee() const { return Suites().size() <= 1; }
     /// Text of a point, "" for a function without source. Fault 9 beyond the points.
     QString Etiquette(int point) const;
     /// Grows with every change of the points: a view that has drawn this number is up to date.
@@ -99,7 +101,7 @@ class SerieGraphe {
     std::vector<double> y_;
     std::vector<MagasinEtiquettes::Place> places_;
     std::shared_ptr<MagasinEtiquettes> etiquettes_;
-    bool trie_ = true;
+    std::vector<int> suites_;
     std::uint64_t revision_ = 0;
 
     int typeFonction_ = 0;

@@ -130,6 +130,17 @@ TEST(ChartCursor, FindsTheNearestOfPointsOutOfOrder) {
     EXPECT_EQ(curseur.y, 4);
 }
 
+TEST(ChartCursor, OfPointsOutOfOrderKeepsToItsPage) {
+    Scene scene;
+    scene.Remplacer({{10, 1}, {20, 2}, {30, 3}, {15, 4}, {25, 5}, {35, 6}});
+    scene.modele.FixerPlage(10, 35);
+    EXPECT_EQ(PointProche(scene.modele, 0, 24), 4);
+    scene.modele.FixerMaxPointsPerPage(3);
+    EXPECT_EQ(PointProche(scene.modele, 0, 24), 1);
+    scene.modele.FixerPage(1);
+    EXPECT_EQ(PointProche(scene.modele, 0, 11), 3);
+}
+
 TEST(ChartCursor, StandsOnAnOnlyPoint) {
     Scene scene;
     scene.Remplacer({{5, 7}});

@@ -84,6 +84,23 @@ TEST(ModeleGraphe, PointsOutOfOrderAreFoundOneByOne) {
     EXPECT_EQ(graphe.LastValueIndex(0), 3);
 }
 
+TEST(ModeleGraphe, RunsOfTimesInOrderBeginWhereTimeGoesBack) {
+    const auto suites = [](const SerieGraphe& serie) {
+        return std::vector<int>(serie.Suites().begin(), serie.Suites().end());
+    };
+    ModeleGraphe graphe;
+    AjouterPoints(graphe, {1, 2, 2, 5, 3, 4, 0});
+    AjouterPoints(graphe, {1, 1, 2});
+    graphe.AjouterSerie();
+    graphe.FixerFonction(2, SerieGraphe::fonctionLissage, 0);
+    EXPECT_EQ(suites(graphe.Serie(0)), (std::vector<int>{0, 4, 6}));
+    EXPECT_EQ(suites(graphe.Serie(1)), (std::vector<int>{0}));
+    EXPECT_EQ(suites(graphe.Serie(2)), suites(graphe.Serie(0)));
+    EXPECT_FALSE(graphe.Serie(2).EstTriee());
+    EXPECT_TRUE(graphe.Serie(1).EstTriee());
+    EXPECT_TRUE(graphe.AjouterSerie().EstTriee());
+}
+
 TEST(ModeleGraphe, RangeWithMinimumAboveMaximumShowsNothing) {
     ModeleGraphe graphe;
     AjouterPoints(graphe, {1, 2, 3});

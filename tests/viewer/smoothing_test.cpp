@@ -107,6 +107,38 @@ TEST(Lisser, EachFiniteRunIsSmoothedByItself) {
     EXPECT_TRUE(std::equal(seuleDroite.begin(), seuleDroite.end(), lissees.begin() + 72));
 }
 
+TEST(Lisser, ValuesThatAreNoNumbersAreNoticedWhereverTheyStand) {
+    constexpr int periode = 3;
+    const auto valeurs = Hasard(61, 8);
+    for (const double intrus : {nan, std::numeric_limits<double>::infinity()})
+        for (std::size_t ou = 0; ou < valeurs.size(); ++ou) {
+            auto percees = valeurs;
+            percees[ou] = intrus;
+            const auto lissees = Lissees(percees, periode);
+            const auto milieu = valeurs.begin() + static_cast<std::ptrdiff_t>(ou);
+            const auto avant = Lissees({valeurs.begin(), milieu}, periode);
+            const auto apres = Lissees({milieu + 1, valeurs.end()}, periode);
+            ASSERT_FALSE(std::isfinite(lissees[ou]));
+            ASSERT_TRUE(std::equal(avant.begin(), avant.end(), lissees.begin())) << ou;
+            ASSERT_TRUE(std::equal(apres.rbegin(), apres.rend(), lissees.rbegin())) << ou;
+        }
+}
+
+TEST(Lisser, SumsBeyondTheLargestNumberStayNearTheirValues) {
+    std::vector<double> valeurs(300, 1);
+    valeurs[150] = valeurs[151] = std::numeric_limits<double>::max();
+    const auto lissees = Lissees(valeurs, 5);
+    for (std::size_t i = 0; i < valeurs.size(); ++i) {
+        if (i + 5 > 150 && i < 151 + 5) continue;
+        ASSERT_EQ(lissees[i], 1) << i;
+    }
+}
+
+TEST(Lisser, AConstantCurveStaysAsItIs) {
+    for (const int periode : {2, 3, 7, 10, 49, 100})
+        EXPECT_EQ(Lissees(std::vector<double>(1500, 3), periode), std::vector<double>(1500, 3));
+}
+
 TEST(Lisser, IsSmootherAsThePeriodGrows) {
     const auto valeurs = Hasard(2000, 7);
     const auto rugosite = [](const std::vector<double>& courbe) {
