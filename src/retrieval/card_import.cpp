@@ -17,8 +17,6 @@ namespace bornika {
 
 namespace {
 
-/// From this version on loggers record to a card.
-constexpr double versionCarte = 2.11;
 constexpr qint64 tailleMorceau = 1 << 20;
 constexpr QChar separateur = u'\0';
 

@@ -16,7 +16,6 @@ namespace {
 
 constexpr int longueurReponse = 10;
 constexpr int echecsMuets = 4;
-constexpr double versionCarte = 2.11;
 
 void Informer(MainScreen& ecran, const QString& texte) {
     ecran.systeme.dialogues.Boite(Icone::Information, Boutons::Ok, ecran.etat.NomKpod, texte);
