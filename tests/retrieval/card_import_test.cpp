@@ -302,6 +302,15 @@ TEST(CardImport, ASecondOneInTheSameSecondLeavesTheFirstRecordingAlone) {
     EXPECT_EQ(Clair(banc.acces.Presente()->NomDialogue), "2026-03-05-14-07-10.txt");
 }
 
+TEST(CardImport, IsNamedAfterTheMomentAtWhichTheFilesWereChosen) {
+    BancCarte banc;
+    banc.etabli.dialogues.pendantDemande = [&](const auto&) {
+        banc.etabli.horloge.instant = banc.etabli.horloge.instant.addSecs(3600);
+    };
+    banc.Importer(banc.carte.Poser("A.TXT", "x"));
+    EXPECT_EQ(banc.Enregistrements().last(), Texte("2026-03-05-15-07-09.txt"));
+}
+
 TEST(CardImport, CancelledItMakesAndChangesNothing) {
     BancCarte banc;
     const QString titre = banc.ecran.windowTitle();
