@@ -3,7 +3,7 @@
 
 packages_build=(build-essential cmake ninja-build qt6-base-dev libgl-dev libqcustomplot-dev
     libpugixml-dev fonts-dejavu-core)
-packages_test=(libgtest-dev libgmock-dev clang-format)
+packages_test=(libgtest-dev libgmock-dev clang-format poppler-utils)
 packages_bench=(libbenchmark-dev)
 
 install_missing() {

@@ -27,6 +27,11 @@ struct Apparence {
     std::vector<Couleur> palette{0xF7C34F};
 
     Couleur CouleurSerie(int position) const;
+
+    /// On paper nothing can be clicked: the legend lists what is drawn, without check boxes.
+    bool papier = false;
+    /// How the colour of a curve or of a tool is drawn.
+    QColor (*trait)(Couleur) = VersQColor;
 };
 
 /// The chart template: the looks and the tools.

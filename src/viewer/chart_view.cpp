@@ -7,6 +7,7 @@
 #include "viewer/chart_view_legend.h"
 #include "viewer/chart_view_marks.h"
 #include "viewer/chart_view_mouse.h"
+#include "viewer/chart_view_text.h"
 #include "viewer/chart_view_ticker.h"
 #include "viewer/chart_view_tools.h"
 
@@ -47,7 +48,7 @@ VueGraphe::~VueGraphe() = default;
 
 void VueGraphe::PoserElements() {
     axisRect()->insetLayout()->take(legend);
-    titre_ = new QCPTextElement(this);
+    titre_ = new TexteGraphe(this, Qt::AlignHCenter);
     plotLayout()->insertRow(0);
     plotLayout()->addElement(0, 0, titre_);
     plotLayout()->insertRow(1);
@@ -145,6 +146,7 @@ void VueGraphe::showEvent(QShowEvent* evenement) {
 void VueGraphe::Reproduire(const VueGraphe& autre, const Apparence& apparence) {
     if (!autre.modele_) return;
     Lier(*autre.modele_);
+    FixerRegional(autre.marques_->RegionalPresent());
     FixerApparence(apparence);
     const Etendues etendues = autre.EtenduesVisibles();
     yAxis->setRange(etendues.gauche);
@@ -164,6 +166,7 @@ void VueGraphe::Accorder() {
 }
 
 void VueGraphe::updateLayout() {
+    RangerLegende();
     QCustomPlot::updateLayout();
     // Labels are chosen before the room for them is known: after a change of size once more.
     if (axisRect()->size() == taillePosee_) return;
@@ -190,8 +193,7 @@ void VueGraphe::AccorderAnnotation() {
         return;
     }
     if (!annotation_) {
-        annotation_ = new QCPTextElement(this);
-        annotation_->setTextFlags(Qt::AlignLeft | Qt::AlignVCenter);
+        annotation_ = new TexteGraphe(this, Qt::AlignLeft);
         annotation_->setMargins(QMargins(8, 2, 8, 2));
         plotLayout()->insertRow(rangeeAnnotation);
         plotLayout()->addElement(rangeeAnnotation, 0, annotation_);
@@ -232,7 +234,7 @@ void VueGraphe::AccorderLegende() {
     std::vector<int> listees;
     for (int i = 0; i < modele_->NombreSeries(); ++i)
         if (modele_->Serie(i).active || !apparence_.papier) listees.push_back(i);
-    if (legend->itemCount() != static_cast<int>(listees.size())) {
+    if (ElementsLegende(*legend).size() != listees.size()) {
         legend->clearItems();
         for (const int serie : listees) {
             auto* element = new ElementLegende(legend, serie, !apparence_.papier);
@@ -240,11 +242,23 @@ void VueGraphe::AccorderLegende() {
             legend->addItem(element);
         }
     }
-    for (int i = 0; i < legend->itemCount(); ++i)
-        if (auto* element = qobject_cast<ElementLegende*>(legend->item(i)))
-            element->Regler(modele_->Serie(element->Serie()).titre,
-                            apparence_.trait(CouleurSerie(element->Serie())),
-                            modele_->Serie(element->Serie()).active);
+    for (ElementLegende* element : ElementsLegende(*legend)) {
+        const SerieGraphe& serie = modele_->Serie(element->Serie());
+        element->Regler(serie.titre, apparence_.trait(CouleurSerie(element->Serie())),
+                        serie.active);
+    }
+}
+
+/// As many columns as the widest entry leaves room for.
+void VueGraphe::RangerLegende() {
+    int large = 1;
+    for (const QCPLayoutElement* element : ElementsLegende(*legend))
+        large = std::max(large, element->minimumOuterSizeHint().width());
+    const int place = viewport().width() - legend->margins().left() - legend->margins().right();
+    const int colonnes = std::clamp(place / (large + legend->columnSpacing()), 1, colonnesLegende);
+    if (legend->wrap() == colonnes) return;
+    legend->setWrap(colonnes);
+    legend->setFillOrder(legend->fillOrder(), true);
 }
 
 void VueGraphe::AccorderPlage() {

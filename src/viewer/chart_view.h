@@ -112,6 +112,7 @@ class VueGraphe : public QCustomPlot {
     void AccorderAnnotation();
     void AccorderAxes();
     void AccorderLegende();
+    void RangerLegende();
     void AccorderPlage();
     void PoserElements();
     void AnnoncerDessin();

@@ -33,7 +33,7 @@ void CourbesGraphe::Accorder(const ModeleGraphe& modele, const Apparence& appare
         QCPGraph& graphe = *courbe.graphe;
         graphe.setValueAxis(serie.axe == SerieGraphe::Axe::Gauche ? dessin_.yAxis : dessin_.yAxis2);
         // Width 0 is one device pixel on every screen: wider pens cost many times as much.
-        graphe.setPen(QPen(VersQColor(serie.couleur.value_or(apparence.CouleurSerie(i))), 0));
+        graphe.setPen(QPen(apparence.trait(serie.couleur.value_or(apparence.CouleurSerie(i))), 0));
         graphe.setVisible(serie.active && !vide);
         if (serie.active) AccorderPoints(courbe, serie);
     }

@@ -11,8 +11,8 @@ constexpr int ecart = 6;
 
 }  // namespace
 
-ElementLegende::ElementLegende(QCPLegend* legende, int serie)
-    : QCPAbstractLegendItem(legende), serie_(serie) {
+ElementLegende::ElementLegende(QCPLegend* legende, int serie, bool avecCase)
+    : QCPAbstractLegendItem(legende), serie_(serie), avecCase_(avecCase) {
     setMargins(QMargins(2, 1, 8, 1));
 }
 
@@ -40,8 +40,8 @@ int ElementLegende::Cote() const {
 QSize ElementLegende::minimumOuterSizeHint() const {
     if (tailleVoulue_.isValid()) return tailleVoulue_;
     const QFontMetrics mesures(mFont);
-    tailleVoulue_ = {Cote() + longueurTrait + 3 * ecart + mesures.horizontalAdvance(titre_) +
-                         mMargins.left() + mMargins.right(),
+    tailleVoulue_ = {(avecCase_ ? Cote() + ecart : 0) + longueurTrait + 2 * ecart +
+                         mesures.horizontalAdvance(titre_) + mMargins.left() + mMargins.right(),
                      qMax(Cote() + 2, mesures.height()) + mMargins.top() + mMargins.bottom()};
     return tailleVoulue_;
 }
@@ -65,13 +65,15 @@ const QPixmap& ElementLegende::Image(double rapport) {
     return image_;
 }
 
-void ElementLegende::Peindre(QPainter& peintre, const QRect& zone) const {
-    const int cote = Cote();
-    const QRect boite(zone.left() + 1, zone.center().y() - cote / 2, cote, cote);
+QColor ElementLegende::CouleurTexte() const {
     QColor texte = mTextColor;
     if (!actif_) texte.setAlphaF(0.65F);
+    return texte;
+}
 
-    peintre.setPen(QPen(texte, 1));
+void ElementLegende::PeindreCase(QPainter& peintre, const QRect& boite) const {
+    const int cote = boite.width();
+    peintre.setPen(QPen(CouleurTexte(), 1));
     peintre.setBrush(Qt::NoBrush);
     peintre.drawRect(boite);
     if (actif_) {
@@ -83,23 +85,36 @@ void ElementLegende::Peindre(QPainter& peintre, const QRect& zone) const {
         peintre.drawPolyline(coche, 3);
         peintre.setRenderHint(QPainter::Antialiasing, false);
     }
-    const int debut = boite.right() + ecart;
+}
+
+void ElementLegende::Peindre(QPainter& peintre, const QRect& zone) const {
+    const int cote = Cote();
+    const QRect boite(zone.left() + 1, zone.center().y() - cote / 2, cote, cote);
+    if (avecCase_) PeindreCase(peintre, boite);
+    const int debut = avecCase_ ? boite.right() + ecart : zone.left();
     QColor trait = couleur_;
     if (!actif_) trait.setAlphaF(0.5F);
     peintre.setPen(QPen(trait, 3));
     const QPointF depart(debut, zone.center().y());
     peintre.drawLine(depart, depart + QPointF(longueurTrait, 0));
-    peintre.setPen(texte);
+    peintre.setPen(CouleurTexte());
     peintre.setFont(mFont);
     peintre.drawText(zone.adjusted(debut + longueurTrait + ecart - zone.left(), 0, 0, 0),
                      Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip, titre_);
 }
 
-int SerieSousLegende(const QCPLegend& legende, QPointF position) {
-    if (!legende.realVisibility() || !legende.outerRect().contains(position.toPoint())) return -1;
+std::vector<ElementLegende*> ElementsLegende(const QCPLegend& legende) {
+    std::vector<ElementLegende*> elements;
     for (int i = 0; i < legende.itemCount(); ++i)
         if (auto* element = qobject_cast<ElementLegende*>(legende.item(i)))
-            if (element->outerRect().contains(position.toPoint())) return element->Serie();
+            elements.push_back(element);
+    return elements;
+}
+
+int SerieSousLegende(const QCPLegend& legende, QPointF position) {
+    if (!legende.realVisibility() || !legende.outerRect().contains(position.toPoint())) return -1;
+    for (const ElementLegende* element : ElementsLegende(legende))
+        if (element->outerRect().contains(position.toPoint())) return element->Serie();
     return -1;
 }
 

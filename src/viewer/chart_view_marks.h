@@ -31,6 +31,7 @@ class MarquesGraphe : public QCPLayerable {
 
     void Lier(const ModeleGraphe& modele) { modele_ = &modele; }
     void FixerRegional(const Regional& regional) { regional_ = regional; }
+    const Regional& RegionalPresent() const { return regional_; }
     /// The marks for what the axes show now.
     std::vector<Marque> Placer() const;
 

@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <cstdlib>
+#include <utility>
 
 #include "viewer/chart_view.h"
 #include "viewer/chart_view_legend.h"
@@ -38,8 +39,9 @@ void GestesGraphe::Appuyer(const QMouseEvent& evenement) {
             return;
         }
     }
-    if (!vue_.axisRect()->rect().contains(position) || !vue_.PeutNaviguer()) return;
     depart_ = position;
+    clicDroit_ = evenement.button() == Qt::RightButton;
+    if (!vue_.axisRect()->rect().contains(position) || !vue_.PeutNaviguer()) return;
     if (evenement.button() == Qt::LeftButton && vue_.ZoomPermis()) {
         geste_ = Geste::Bande;
         bande_.Commencer(position);
@@ -47,21 +49,26 @@ void GestesGraphe::Appuyer(const QMouseEvent& evenement) {
         geste_ = Geste::Defilement;
         vue_.animation.Terminer();
         etenduesDepart_ = vue_.EtenduesVisibles();
-        vue_.setCursor(Qt::ClosedHandCursor);
     }
+}
+
+bool GestesGraphe::EstTirage(QPoint position) const {
+    return (position - depart_).manhattanLength() >= tirageMinimal;
 }
 
 void GestesGraphe::Bouger(const QMouseEvent& evenement) {
     const QPoint position = evenement.position().toPoint();
-    if (geste_ == Geste::Bande && (position - depart_).manhattanLength() >= tirageMinimal) {
+    if (EstTirage(position)) clicDroit_ = false;
+    if (geste_ == Geste::Bande && EstTirage(position)) {
         const QRect cadre = vue_.axisRect()->rect();
         bande_.Suivre({qBound(cadre.left(), position.x(), cadre.right()),
                        qBound(cadre.top(), position.y(), cadre.bottom())});
     }
-    if (geste_ == Geste::Defilement) Tirer(position);
+    if (geste_ == Geste::Defilement && !clicDroit_) Tirer(position);
 }
 
 void GestesGraphe::Tirer(QPoint position) {
+    vue_.setCursor(Qt::ClosedHandCursor);
     Etendues etendues = etenduesDepart_;
     if (vue_.Defilement() & 1) etendues.bas = Decale(*vue_.xAxis, etendues.bas, depart_, position);
     if (vue_.Defilement() & 2) {
@@ -79,9 +86,12 @@ void GestesGraphe::Relacher(const QMouseEvent& evenement) {
         FinirBande(position);
     } else if (geste_ == Geste::Defilement && evenement.button() == Qt::RightButton) {
         geste_ = Geste::Aucun;
+        if (!clicDroit_ || EstTirage(position)) Tirer(position);
         vue_.unsetCursor();
-        if (position != depart_) Tirer(position);
     }
+    if (evenement.button() == Qt::RightButton && std::exchange(clicDroit_, false) &&
+        !EstTirage(position))
+        Q_EMIT vue_.MenuDemande(position);
 }
 
 void GestesGraphe::FinirBande(QPoint position) {

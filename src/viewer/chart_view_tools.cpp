@@ -4,7 +4,8 @@ namespace bornika {
 
 namespace {
 
-void AccorderLigne(QCustomPlot& dessin, QCPItemStraightLine& ligne, const OutilGraphe& outil) {
+void AccorderLigne(QCustomPlot& dessin, QCPItemStraightLine& ligne, const OutilGraphe& outil,
+                   const Apparence& apparence) {
     QCPAxis* axe = outil.axe == OutilGraphe::AxeLigne::Gauche ? dessin.yAxis : dessin.yAxis2;
     int abscisse = 0;
     for (QCPItemPosition* position : {ligne.point1, ligne.point2}) {
@@ -13,17 +14,10 @@ void AccorderLigne(QCustomPlot& dessin, QCPItemStraightLine& ligne, const OutilG
         position->setTypeY(QCPItemPosition::ptPlotCoords);
         position->setCoords(abscisse++, outil.valeur);
     }
-    ligne.setPen(QPen(VersQColor(outil.crayon), 1));
+    // A level line between two rows of pixels would be two dim ones.
+    ligne.setAntialiased(false);
+    ligne.setPen(QPen(apparence.trait(outil.crayon), 1));
     ligne.setVisible(outil.actif && outil.crayonVisible);
-}
-
-void AccorderAnnotation(QCPItemText& texte, const OutilGraphe& outil, const Apparence& apparence) {
-    texte.setPositionAlignment(Qt::AlignLeft | Qt::AlignTop);
-    texte.position->setType(QCPItemPosition::ptAxisRectRatio);
-    texte.position->setCoords(0.01, 0.02);
-    texte.setText(outil.texte);
-    texte.setColor(apparence.titre);
-    texte.setVisible(outil.actif && !outil.texte.isEmpty());
 }
 
 }  // namespace
@@ -31,7 +25,6 @@ void AccorderAnnotation(QCPItemText& texte, const OutilGraphe& outil, const Appa
 QCPAbstractItem* OutilsGraphe::Faire(OutilGraphe::Genre genre) {
     QCPAbstractItem* element = nullptr;
     if (genre == OutilGraphe::Genre::LigneCouleur) element = new QCPItemStraightLine(&dessin_);
-    if (genre == OutilGraphe::Genre::Annotation) element = new QCPItemText(&dessin_);
     if (element) element->setSelectable(false);
     return element;
 }
@@ -53,9 +46,7 @@ void OutilsGraphe::Accorder(const ModeleGraphe& modele, const Apparence& apparen
     for (std::size_t i = 0; i < nombre; ++i) {
         const OutilGraphe& outil = modele.Outil(static_cast<int>(i));
         if (auto* ligne = qobject_cast<QCPItemStraightLine*>(dessines_[i].element))
-            AccorderLigne(dessin_, *ligne, outil);
-        if (auto* texte = qobject_cast<QCPItemText*>(dessines_[i].element))
-            AccorderAnnotation(*texte, outil, apparence);
+            AccorderLigne(dessin_, *ligne, outil, apparence);
     }
 }
 

@@ -9,7 +9,7 @@
 
 namespace bornika {
 
-/// Draws the tools of the model that lie over the curves: colour lines and the annotation.
+/// Draws the tools of the model that lie over the curves: the colour lines.
 class OutilsGraphe {
   public:
     explicit OutilsGraphe(QCustomPlot& dessin) : dessin_(dessin) {}

@@ -1,0 +1,68 @@
+#include "viewer/chart_menu.h"
+
+#include <QClipboard>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QMenu>
+
+#include "platform/atomic_file.h"
+#include "platform/named_fault.h"
+#include "shell/main_screen.h"
+#include "ui_trace_form.h"
+#include "viewer/chart_picture.h"
+#include "viewer/recording_path.h"
+#include "viewer/trace_form.h"
+
+namespace bornika {
+
+namespace {
+
+/// Name of the recording, the first of several, without folder and extension.
+QString NomEnregistrement(const Trace& trace) {
+    return QFileInfo(CheminsFichiers(trace.NomFichierCourant).first()).completeBaseName();
+}
+
+/// Asks for a file and writes into it what `contenu` holds.
+void Enregistrer(Trace& trace, const QString& extension, const QByteArray& contenu) {
+    // The dialog lets the interface run: the form may be closed meanwhile.
+    const Trace::Occupation occupation(trace);
+    Systeme& systeme = trace.ecran.systeme;
+    DemandeFichier demande;
+    demande.nom = NomEnregistrement(trace) + QLatin1Char('.') + extension;
+    demande.suffixe = QStringLiteral("*.") + extension;
+    demande.filtre = QStringLiteral("%1 (*.%1)|*.%1").arg(extension);
+    demande.dossier = systeme.dossier;
+    const auto choisi = systeme.dialogues.Enregistrer(demande);
+    if (!choisi || choisi->isEmpty()) return;
+    try {
+        nommer(*choisi, [&] { RemplacerFichier(*choisi, contenu); });
+    } catch (const FauteExecution& faute) {
+        systeme.dialogues.Boite(Icone::Critique, Boutons::Ok, trace.ecran.etat.NomKpod,
+                                faute.texte());
+    }
+}
+
+}  // namespace
+
+void MontrerMenuGraphe(Trace& trace, QPoint place) {
+    VueGraphe& graphe = *trace.ui->TChart1;
+    auto* menu = new QMenu(&graphe);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->addActions(graphe.actions());
+    menu->popup(graphe.mapToGlobal(place));
+}
+
+void CopierImage_Click(Trace& trace) {
+    QGuiApplication::clipboard()->setImage(ImageGraphe(*trace.ui->TChart1));
+}
+
+void EnregistrerPng_Click(Trace& trace) {
+    Enregistrer(trace, QStringLiteral("png"), PngGraphe(*trace.ui->TChart1));
+}
+
+void EnregistrerPdf_Click(Trace& trace) {
+    Enregistrer(trace, QStringLiteral("pdf"),
+                PdfGraphe(*trace.ui->TChart1, NomEnregistrement(trace)));
+}
+
+}  // namespace bornika

@@ -1,0 +1,214 @@
+#include "viewer/chart_menu.h"
+
+#include <gtest/gtest.h>
+
+#include <QClipboard>
+#include <QMenu>
+
+#include "viewer/chart_picture.h"
+#include "viewer/paper_reader.h"
+#include "viewer/viewer_bench.h"
+
+namespace bornika {
+namespace {
+
+using essai::Papier;
+using essai::Visionneuse;
+
+class MenuGraphe : public ::testing::Test {
+  protected:
+    void SetUp() override { Preparer("Français"); }
+    void TearDown() override {
+        if (QMenu* menu = Menu()) menu->close();
+    }
+    void Preparer(const QString& langue) {
+        v.ecran.configuration.RemplitListeLangues(*v.ecran.ui->ListeLangues, langue);
+        v.EcrireEnregistrement("2026-3-5.txt");
+        v.Fiche().show();
+        v.Ouvrir("2026-3-5.txt");
+        v.etabli.dialogues.demandes.clear();
+    }
+    VueGraphe& Vue() { return *v.Ui().TChart1; }
+    QPoint Milieu() { return Vue().axisRect()->rect().center(); }
+    static QMenu* Menu() { return qobject_cast<QMenu*>(QApplication::activePopupWidget()); }
+    void ClicDroit(QPoint ou) { QTest::mouseClick(&Vue(), Qt::RightButton, {}, ou); }
+    static QStringList Textes() {
+        QStringList textes;
+        if (Menu())
+            for (const QAction* entree : Menu()->actions())
+                textes << entree->text();
+        return textes;
+    }
+    /// Opens the menu and clicks an entry of it.
+    void Choisir(QAction* entree) {
+        ClicDroit(Milieu());
+        ASSERT_TRUE(Menu());
+        QTest::mouseClick(Menu(), Qt::LeftButton, {}, Menu()->actionGeometry(entree).center());
+    }
+    const DemandeFichier& Demande() { return v.etabli.dialogues.demandes.at(0); }
+
+    Visionneuse v;
+};
+
+TEST_F(MenuGraphe, ARightClickShowsItWhereTheMouseIs) {
+    EXPECT_EQ(Menu(), nullptr);
+    ClicDroit(Milieu());
+    ASSERT_TRUE(Menu());
+    EXPECT_EQ(Textes(), (QStringList{"Copier l'image", "Enregistrer l'image (PNG)...",
+                                     "Enregistrer en PDF..."}));
+    EXPECT_EQ(Menu()->pos(), Vue().mapToGlobal(Milieu()));
+}
+
+TEST_F(MenuGraphe, ItSpeaksTheLanguageOfTheForm) {
+    v.Fiche().close();
+    Preparer("English");
+    ClicDroit(Milieu());
+    EXPECT_EQ(Textes(), (QStringList{"Copy picture", "Save picture (PNG)...", "Save as PDF..."}));
+}
+
+TEST_F(MenuGraphe, ARightClickBesideTheFrameShowsItToo) {
+    ClicDroit({5, 5});
+    EXPECT_TRUE(Menu());
+}
+
+TEST_F(MenuGraphe, TheMenuKeyShowsItOverTheFrame) {
+    QContextMenuEvent touche(QContextMenuEvent::Keyboard, QPoint(1, 1), QPoint(1, 1));
+    QCoreApplication::sendEvent(&Vue(), &touche);
+    ASSERT_TRUE(Menu());
+    EXPECT_EQ(Menu()->pos(), Vue().mapToGlobal(Milieu()));
+}
+
+TEST_F(MenuGraphe, ARightDragMovesTheViewAndShowsNoMenu) {
+    const QCPRange avant = Vue().xAxis->range();
+    QTest::mousePress(&Vue(), Qt::RightButton, {}, Milieu());
+    for (const QPoint pas : {QPoint(3, 0), QPoint(40, 0), QPoint(2, 0)}) {
+        const QPointF ou = Milieu() + pas;
+        QMouseEvent mouvement(QEvent::MouseMove, ou, Vue().mapToGlobal(ou), Qt::NoButton,
+                              Qt::RightButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&Vue(), &mouvement);
+        EXPECT_EQ(Vue().xAxis->range().lower < avant.lower, pas.x() != 3) << pas.x();
+    }
+    // Back near where it began: it was a drag all the same.
+    QTest::mouseRelease(&Vue(), Qt::RightButton, {}, Milieu() + QPoint(2, 0));
+    EXPECT_EQ(Menu(), nullptr);
+}
+
+TEST_F(MenuGraphe, AHandThatTremblesClicksAndLeavesTheViewWhereItIs) {
+    const QCPRange avant = Vue().xAxis->range();
+    QTest::mousePress(&Vue(), Qt::RightButton, {}, Milieu());
+    QTest::mouseRelease(&Vue(), Qt::RightButton, {}, Milieu() + QPoint(2, 1));
+    EXPECT_TRUE(Menu());
+    EXPECT_EQ(Vue().xAxis->range(), avant);
+}
+
+TEST_F(MenuGraphe, TheLeftButtonShowsNone) {
+    QTest::mouseClick(&Vue(), Qt::LeftButton, {}, Milieu());
+    EXPECT_EQ(Menu(), nullptr);
+}
+
+TEST_F(MenuGraphe, CopiesThePictureToTheClipboard) {
+    QGuiApplication::clipboard()->clear();
+    Choisir(v.Ui().CopierImage);
+    const QImage copiee = QGuiApplication::clipboard()->image();
+    EXPECT_EQ(copiee.size(), Vue().size() * 2);
+    EXPECT_EQ(copiee, ImageGraphe(Vue()));
+    EXPECT_TRUE(v.etabli.dialogues.demandes.empty());
+}
+
+TEST_F(MenuGraphe, SavesAPictureNamedAfterTheRecording) {
+    v.etabli.dialogues.fichiers = {v.etabli.Chemin("curve.png")};
+    Choisir(v.Ui().EnregistrerPng);
+    EXPECT_EQ(Demande().nom, "2026-3-5.png");
+    EXPECT_EQ(Demande().suffixe, "*.png");
+    EXPECT_EQ(Demande().filtre, "png (*.png)|*.png");
+    EXPECT_EQ(Demande().dossier, v.etabli.systeme.dossier);
+    const QImage lue(v.etabli.Chemin("curve.png"));
+    EXPECT_EQ(lue, ImageGraphe(Vue()));
+    EXPECT_GT(essai::Part(lue, [](const QColor& c) { return c != QColor(Qt::white); }), 0.01);
+    EXPECT_TRUE(v.etabli.dialogues.boites.empty());
+}
+
+TEST_F(MenuGraphe, SavesADocumentOfVectors) {
+    v.etabli.dialogues.fichiers = {v.etabli.Chemin("curve.pdf")};
+    Choisir(v.Ui().EnregistrerPdf);
+    EXPECT_EQ(Demande().nom, "2026-3-5.pdf");
+    EXPECT_EQ(Demande().filtre, "pdf (*.pdf)|*.pdf");
+    const Papier papier(v.etabli.Chemin("curve.pdf"));
+    EXPECT_EQ(papier.pages, 1);
+    EXPECT_EQ(papier.titre, "2026-3-5");
+    EXPECT_TRUE(papier.texte.contains("Pression"));
+    EXPECT_EQ(papier.Bitmaps(), 0);
+    RienNEstCoupeNiRecouvert(papier);
+}
+
+TEST_F(MenuGraphe, OfSeveralRecordingsTheFirstGivesTheName) {
+    v.EcrireEnregistrement("b.txt");
+    v.etabli.dialogues.fichiers = {v.etabli.systeme.dossier + QChar(u'\0') + "2026-3-5.txt" +
+                                   QChar(u'\0') + "b.txt"};
+    v.Ui().CommandOpen->click();
+    v.etabli.dialogues.demandes.clear();
+    v.Ui().EnregistrerPng->trigger();
+    EXPECT_EQ(Demande().nom, "2026-3-5.png");
+}
+
+TEST_F(MenuGraphe, ACancelledDialogWritesNothing) {
+    const QStringList avant = v.etabli.Fichiers();
+    v.Ui().EnregistrerPng->trigger();
+    v.Ui().EnregistrerPdf->trigger();
+    EXPECT_EQ(v.etabli.dialogues.demandes.size(), 2U);
+    EXPECT_EQ(v.etabli.Fichiers(), avant);
+    EXPECT_TRUE(v.etabli.dialogues.boites.empty());
+}
+
+TEST_F(MenuGraphe, AFileThatCannotBeWrittenIsToldInOneBox) {
+    const QString chemin = v.etabli.Chemin("missing/curve.png");
+    v.etabli.dialogues.fichiers = {chemin};
+    v.Ui().EnregistrerPng->trigger();
+    ASSERT_EQ(v.etabli.dialogues.boites.size(), 1U);
+    EXPECT_EQ(v.etabli.dialogues.boites[0].icone, Icone::Critique);
+    EXPECT_EQ(v.etabli.dialogues.boites[0].boutons, Boutons::Ok);
+    EXPECT_EQ(v.etabli.dialogues.boites[0].titre, "k-Pod");
+    EXPECT_TRUE(v.etabli.dialogues.boites[0].texte.startsWith(chemin + " : "));
+    EXPECT_TRUE(v.etabli.fautes.empty());
+}
+
+TEST_F(MenuGraphe, AFileThatCannotBeReplacedStaysAsItWas) {
+    // A folder in the way of the new file, whoever runs this.
+    QDir(v.etabli.systeme.dossier).mkpath("curve.pdf/inside");
+    v.etabli.dialogues.fichiers = {v.etabli.Chemin("curve.pdf")};
+    const QStringList avant = v.etabli.Fichiers();
+    v.Ui().EnregistrerPdf->trigger();
+    EXPECT_EQ(v.etabli.dialogues.boites.size(), 1U);
+    EXPECT_TRUE(QFileInfo(v.etabli.Chemin("curve.pdf/inside")).isDir());
+    EXPECT_EQ(v.etabli.Fichiers(), avant);
+    EXPECT_TRUE(v.etabli.fautes.empty());
+}
+
+TEST_F(MenuGraphe, WhatIsSavedIsTheChartAsItStoodWhenTheEntryWasChosen) {
+    const QImage avant = ImageGraphe(Vue());
+    v.etabli.dialogues.pendantDemande = [&](const DemandeFichier&) {
+        v.Modele().Serie(0).active = false;
+        Vue().Repaint();
+    };
+    v.etabli.dialogues.fichiers = {v.etabli.Chemin("curve.png")};
+    v.Ui().EnregistrerPng->trigger();
+    EXPECT_EQ(QImage(v.etabli.Chemin("curve.png")), avant);
+    EXPECT_NE(ImageGraphe(Vue()), avant);
+}
+
+TEST_F(MenuGraphe, AFormClosedWhileTheDialogStandsIsKeptUntilItsEnd) {
+    Trace& fiche = v.Fiche();
+    bool occupee = false;
+    v.etabli.dialogues.pendantDemande = [&](const DemandeFichier&) {
+        fiche.close();
+        QCoreApplication::processEvents();
+        occupee = fiche.EstOccupee();
+    };
+    v.etabli.dialogues.fichiers = {v.etabli.Chemin("curve.png")};
+    v.Ui().EnregistrerPng->trigger();
+    EXPECT_TRUE(occupee);
+    EXPECT_FALSE(QImage(v.etabli.Chemin("curve.png")).isNull());
+}
+
+}  // namespace
+}  // namespace bornika
