@@ -380,88 +380,91 @@ TEST_F(DumpDuContexte, ReachesTheLoggerAgainAfterTheNextReading) {
     EXPECT_EQ(Fichier(), Attendu());
 }
 
+TEST_F(DumpDuContexte, WithoutAChosenLoggerSaysSoAndAsksForNoFile) {
+    ecran.etat.UsbID = 0;
+    DumpContexte(banc.poste);
+    ASSERT_EQ(Boites(), 1U);
+    EXPECT_EQ(Clair(banc.etabli.dialogues.boites.front().texte), "k-Pod absent");
+    EXPECT_EQ(Demandes(), 0U);
+    EXPECT_EQ(enregistreur.journal.Total(), 0);
+    EXPECT_TRUE(ecran.etat.TimeOut);
+}
+
 namespace {
 
-/// Pieces at which something happens: the first ones, both sides of the change of the high address
-/// byte, the last ones.
-const int morceaux[] = {1, 2, 31, 32, 33, 64, 127, 128};
+/// One dump after the other on one form, each with its fault at another piece.
+struct PanneAChaqueMorceau : DumpDuContexte, testing::WithParamInterface<GenrePanne> {
+    static constexpr int morceaux = 128;
+    static constexpr int recus = 3;
 
-struct PanneAuMorceau : DumpDuContexte, testing::WithParamInterface<int> {
-    void Ordonner(GenrePanne genre, int parametre = 0) {
+    void Vider(int morceau) {
+        ecran.etat.TimeOut = false;
+        banc.bus.Rebrancher(enregistreur.identite.usb);
+        enregistreur.pannes.Annuler();
         enregistreur.pannes.Ordonner(
-            {.code = 29, .genre = genre, .occurrence = GetParam(), .parametre = parametre});
+            {.code = 29, .genre = GetParam(), .occurrence = morceau, .parametre = recus});
+        enregistreur.journal.Vider();
+        banc.etabli.dialogues.boites.clear();
+        Choisir(QStringLiteral("dump.txt"));
+        DumpContexte(banc.poste);
+        EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);
+        EXPECT_TRUE(banc.etabli.fautes.empty());
     }
     /// The file that comes of a logger whose one piece is wrong.
-    std::string AvecMorceau(const std::function<void(std::uint8_t& octet, int rang)>& change) {
+    std::string AvecMorceau(int morceau) const {
         BlocContexte bloc = BlocGarni();
-        for (int i = 0; i < 8; ++i)
-            change(bloc[static_cast<std::size_t>((GetParam() - 1) * 8 + i)], i);
-        return TexteContexte(bloc, echelles_(), Regional()).toStdString();
-    }
-    QStringList echelles_() const {
+        for (std::size_t rang = 0; rang < 8; ++rang) {
+            std::uint8_t& octet = bloc[static_cast<std::size_t>(morceau - 1) * 8 + rang];
+            if (GetParam() == GenrePanne::reponseCourte && rang >= recus) octet = 0;
+            if (GetParam() == GenrePanne::mauvaisEcho && rang == 0) octet ^= 0x55;
+            if (GetParam() == GenrePanne::bruit)
+                octet ^= static_cast<std::uint8_t>(0xA5 + 37 * rang);
+        }
         QStringList textes;
         for (int i = 0; i < ui.ListeEchelles->Nombre(); ++i)
             textes << ui.ListeEchelles->TexteA(i);
-        return textes;
+        return TexteContexte(bloc, textes, Regional()).toStdString();
     }
-    void AttendreAbandon() {
-        const QStringList avant = banc.etabli.Fichiers();
-        Choisir(QStringLiteral("dump.txt"));
-        DumpContexte(banc.poste);
+};
+
+struct MorceauPerdu : PanneAChaqueMorceau {};
+struct MorceauAutre : PanneAChaqueMorceau {};
+
+}  // namespace
+
+TEST_P(MorceauPerdu, EndsItWithTheTextAndWithoutAFile) {
+    const QStringList avant = banc.etabli.Fichiers();
+    for (int morceau = 1; morceau <= morceaux; ++morceau) {
+        SCOPED_TRACE(morceau);
+        Vider(morceau);
         ASSERT_EQ(Boites(), 1U);
         const auto& boite = banc.etabli.dialogues.boites.front();
         EXPECT_EQ(Clair(boite.texte), "k-Pod absent");
         EXPECT_EQ(Clair(boite.titre), "");
         EXPECT_EQ(boite.icone, Icone::Aucune);
-        EXPECT_EQ(Demandes(), 0U);
-        EXPECT_EQ(banc.etabli.Fichiers(), avant);
-        EXPECT_EQ(enregistreur.journal.Total(), GetParam());
+        EXPECT_EQ(enregistreur.journal.Total(), morceau);
         EXPECT_TRUE(ecran.etat.TimeOut);
-        EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);
-        EXPECT_TRUE(banc.etabli.fautes.empty());
     }
-    void AttendreFichier(const std::string& attendu) {
-        Choisir(QStringLiteral("dump.txt"));
-        DumpContexte(banc.poste);
-        EXPECT_EQ(Fichier(), attendu);
+    EXPECT_EQ(Demandes(), 0U);
+    EXPECT_EQ(banc.etabli.Fichiers(), avant);
+}
+
+TEST_P(MorceauAutre, IsWrittenAsItCameAndWhatDidNotComeIsZero) {
+    for (int morceau = 1; morceau <= morceaux; ++morceau) {
+        SCOPED_TRACE(morceau);
+        Vider(morceau);
+        EXPECT_EQ(Fichier(), AvecMorceau(morceau));
         EXPECT_EQ(Boites(), 0U);
-        EXPECT_EQ(enregistreur.journal.Total(), 128);
+        EXPECT_EQ(enregistreur.journal.Total(), morceaux);
         EXPECT_FALSE(ecran.etat.TimeOut);
-        EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);
     }
-};
-
-}  // namespace
-
-TEST_P(PanneAuMorceau, SilenceEndsItWithTheTextAndWithoutAFile) {
-    Ordonner(GenrePanne::silence);
-    AttendreAbandon();
 }
 
-TEST_P(PanneAuMorceau, ALostReplyEndsItToo) {
-    Ordonner(GenrePanne::reponsePerdue);
-    AttendreAbandon();
-}
-
-TEST_P(PanneAuMorceau, UnpluggingEndsItToo) {
-    Ordonner(GenrePanne::debranchement);
-    AttendreAbandon();
-}
-
-TEST_P(PanneAuMorceau, AShortAnswerCountsAndWhatDidNotComeIsZero) {
-    Ordonner(GenrePanne::reponseCourte, 3);
-    AttendreFichier(AvecMorceau([](std::uint8_t& octet, int rang) {
-        if (rang >= 3) octet = 0;
-    }));
-}
-
-TEST_P(PanneAuMorceau, AWrongByteIsWrittenAsItCame) {
-    Ordonner(GenrePanne::mauvaisEcho);
-    AttendreFichier(AvecMorceau([](std::uint8_t& octet, int rang) {
-        if (rang == 0) octet ^= 0x55;
-    }));
-}
-
-INSTANTIATE_TEST_SUITE_P(Pieces, PanneAuMorceau, testing::ValuesIn(morceaux));
+INSTANTIATE_TEST_SUITE_P(Kinds, MorceauPerdu,
+                         testing::Values(GenrePanne::silence, GenrePanne::reponsePerdue,
+                                         GenrePanne::debranchement));
+INSTANTIATE_TEST_SUITE_P(Kinds, MorceauAutre,
+                         testing::Values(GenrePanne::reponseCourte, GenrePanne::mauvaisEcho,
+                                         GenrePanne::bruit));
 
 }  // namespace bornika::essai

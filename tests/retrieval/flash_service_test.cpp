@@ -228,6 +228,14 @@ TEST_F(LectureFlash, ALoggerThatGoesOrIsGoneIsToldTheSameWay) {
     EXPECT_EQ(enregistreur.journal.Total(), 1);
 }
 
+TEST_F(LectureFlash, WithoutAChosenLoggerSaysSo) {
+    banc.ecran.etat.UsbID = 0;
+    Lire();
+    EXPECT_EQ(Resultat(), "");
+    EXPECT_EQ(enregistreur.journal.Total(), 0);
+    AttendreAbsent();
+}
+
 TEST_F(LectureFlash, AShortAnswerIsFilledWithZeros) {
     Mettre(3, 8, mesure);
     Panne(20, GenrePanne::reponseCourte, 3);

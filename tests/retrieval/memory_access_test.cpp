@@ -113,6 +113,27 @@ TEST(EcritEEpromInterne, NeverOpensTheLink) {
     EXPECT_TRUE(banc.AbsentDit());
 }
 
+TEST(EcritEEpromInterne, ASilentLoggerGivesZeroAndClosesTheLink) {
+    BancMemoire banc;
+    banc.lien.OuvreUSB(banc.ecran.etat.UsbID);
+    banc.Taire(30);
+    EXPECT_EQ(EcritEEpromInterne(banc.poste, 300, 77), 0);
+    EXPECT_TRUE(banc.AbsentDit());
+    EXPECT_TRUE(banc.ecran.etat.TimeOut);
+    EXPECT_EQ(banc.PoigneesOuvertes(), 0);
+}
+
+TEST(EcritEEpromInterne, GivesThePositionThreeOfWhateverCame) {
+    BancMemoire banc;
+    banc.lien.OuvreUSB(banc.ecran.etat.UsbID);
+    banc.enregistreur.pannes.Ordonner(
+        {.code = 30, .genre = simulateur::GenrePanne::reponseCourte, .parametre = 3});
+    EXPECT_EQ(EcritEEpromInterne(banc.poste, 300, 77), 0);
+    banc.enregistreur.pannes.Ordonner({.code = 30, .genre = simulateur::GenrePanne::bruit});
+    EXPECT_EQ(EcritEEpromInterne(banc.poste, 300, 77), 77 ^ ((0xA5 + 37 * 3) & 0xFF));
+    EXPECT_FALSE(banc.ecran.etat.TimeOut);
+}
+
 TEST(LitEEpromInterne, WithOuvrirOpensReadsAndCloses) {
     BancMemoire banc;
     banc.enregistreur.memoire.EcrireTexte(300, 8, "abcdefgh");
@@ -155,11 +176,58 @@ TEST(ForceContexte, SendsItsFrameAndWaitsASecond) {
     EXPECT_FALSE(banc.ecran.etat.TimeOut);
 }
 
-TEST(ForceContexte, ASilentLoggerIsTold) {
+TEST(ForceContexte, NeverOpensTheLink) {
     BancMemoire banc;
+    ForceContexte(banc.poste);
+    EXPECT_TRUE(banc.enregistreur.lien.empty());
+    EXPECT_TRUE(banc.AbsentDit());
+    EXPECT_TRUE(banc.ecran.etat.TimeOut);
+}
+
+TEST(ForceContexte, ASilentLoggerIsToldAndTheLinkIsClosed) {
+    BancMemoire banc;
+    banc.lien.OuvreUSB(banc.ecran.etat.UsbID);
+    banc.Taire(99);
     ForceContexte(banc.poste);
     EXPECT_TRUE(banc.AbsentDit());
     EXPECT_TRUE(banc.ecran.etat.TimeOut);
+    EXPECT_EQ(banc.PoigneesOuvertes(), 0);
+}
+
+TEST(MemoryAnswers, AreReadInTheirLength) {
+    BancMemoire banc;
+    const auto longueurs = [&] {
+        std::vector<int> lues;
+        for (const auto& appel : banc.bus.Appels())
+            if (appel.genre == simulateur::GenreAppel::lire) lues.push_back(appel.argument);
+        return lues;
+    };
+    banc.bus.ViderAppels();
+    Memoire_Flash(banc.poste, true, 1, 0);
+    LitEEpromInterne(banc.poste, 0, true);
+    banc.lien.OuvreUSB(banc.ecran.etat.UsbID);
+    EcritEEpromInterne(banc.poste, 300, 5);
+    ForceContexte(banc.poste);
+    EXPECT_THROW(Memoire_Flash(banc.poste, false, 1, 0, {18, 2, 3, 4, 5, 6, 7, 8}), FauteExecution);
+    EXPECT_EQ(longueurs(), (std::vector<int>{8, 8, 4, 1, 1}));
+}
+
+TEST(MemoryPauses, StandBetweenTheFrameAndItsAnswer) {
+    BancMemoire banc;
+    banc.bus.ReglerInstants([&] { return banc.etabli.horloge.instant.toMSecsSinceEpoch(); });
+    std::vector<qint64> reponses;
+    banc.bus.ReglerCadence(std::chrono::milliseconds(1), [&](std::chrono::nanoseconds) {
+        reponses.push_back(banc.etabli.horloge.instant.toMSecsSinceEpoch());
+    });
+    banc.lien.OuvreUSB(banc.ecran.etat.UsbID);
+    EcritEEpromInterne(banc.poste, 300, 5);
+    ForceContexte(banc.poste);
+    const auto& trames = banc.enregistreur.journal.Trames();
+    ASSERT_EQ(trames.size(), 2U);
+    ASSERT_EQ(reponses.size(), 2U);
+    EXPECT_EQ(reponses[0] - trames[0].instant, 50);
+    EXPECT_EQ(trames[1].instant, reponses[0]);
+    EXPECT_EQ(reponses[1] - trames[1].instant, 1000);
 }
 
 class OutOfRange : public testing::TestWithParam<int> {};

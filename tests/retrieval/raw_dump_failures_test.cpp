@@ -107,6 +107,52 @@ TEST_P(ShortAnswer, CountsAndWhatDidNotComeIsZero) {
 
 INSTANTIATE_TEST_SUITE_P(Cells, ShortAnswer, testing::Values(1, 2, 66, 67, 132));
 
+/// One dump of a page after the other on one form, each with its fault at another cell.
+class FaultAtEachCell : public testing::TestWithParam<GenrePanne> {
+  protected:
+    bool Perdue() const {
+        return GetParam() == GenrePanne::silence || GetParam() == GenrePanne::reponsePerdue ||
+               GetParam() == GenrePanne::debranchement;
+    }
+    void Vider(int place) {
+        banc.bus.Rebrancher(banc.enregistreur.identite.usb);
+        banc.enregistreur.pannes.Annuler();
+        banc.PanneCellule(GetParam(), place, 1, 4);
+        banc.etabli.dialogues.boites.clear();
+        banc.Lire();
+    }
+    std::vector<std::string> Attendues(int place) const {
+        const auto rang = static_cast<std::size_t>(place);
+        std::vector<std::string> lignes = AvecEntete(cellules);
+        if (GetParam() == GenrePanne::reponseCourte) lignes[rang] = Ligne(t0 & 0xFFFF0000U, 0, "0");
+        if (GetParam() == GenrePanne::mauvaisEcho)
+            lignes[rang].replace(lignes[rang].rfind(";0;"), 3, ';' + std::to_string(0x5500) + ';');
+        if (!Perdue()) return lignes;
+        lignes.resize(rang);
+        lignes.resize(1 + cellules, place > 1 ? lignes.back() : Ligne(0, 0, "0"));
+        return lignes;
+    }
+    BancDump banc;
+};
+
+TEST_P(FaultAtEachCell, ChangesThatCellOrLosesTheLaterOnesAndTheFormComesBack) {
+    for (int place = 1; place <= cellules; ++place) {
+        SCOPED_TRACE(place);
+        Vider(place);
+        EXPECT_EQ(banc.Lignes(), Attendues(place));
+        ASSERT_EQ(banc.Boites(), Perdue() ? 2U : 1U);
+        if (Perdue()) AttendreAbsent(banc.Boite(0));
+        AttendreAnnonce(banc, banc.etabli.dialogues.boites.back());
+        EXPECT_EQ(banc.ecran.etat.TimeOut, Perdue());
+        AttendreRepos(banc);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Kinds, FaultAtEachCell,
+                         testing::Values(GenrePanne::silence, GenrePanne::reponsePerdue,
+                                         GenrePanne::debranchement, GenrePanne::reponseCourte,
+                                         GenrePanne::mauvaisEcho));
+
 TEST(RawDumpFailing, NoiseIsWrittenAsItCameAndGoesNoFurther) {
     BancDump banc;
     banc.PanneCellule(GenrePanne::bruit, 3);

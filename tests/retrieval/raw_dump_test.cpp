@@ -180,6 +180,17 @@ TEST(RawDump, OfAPageThatCannotBeAskedForRepeatsWhatStood) {
     AttendreRepos(banc);
 }
 
+TEST(RawDump, ClosesTheLinkThatItsLastCellHasLeftOpenBehindItsBox) {
+    BancDump banc;
+    int ouvertes = -1;
+    banc.etabli.dialogues.pendantBoite = [&](const auto&) { ouvertes = banc.PoigneesOuvertes(); };
+    // A page below 0 is a fault behind the opening of the link.
+    banc.Lire(-1, -1);
+    EXPECT_EQ(ouvertes, 2);
+    ASSERT_EQ(banc.Boites(), 1U);
+    AttendreRepos(banc);
+}
+
 TEST(RawDump, MovesTheBarOneStepACellUpToOneBeforeItsEnd) {
     BancDump banc;
     std::vector<double> maxima;
