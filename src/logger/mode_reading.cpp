@@ -1,7 +1,5 @@
 #include "logger/mode_reading.h"
 
-#include <QSignalBlocker>
-
 #include "link/command_table.h"
 #include "logger/display_statement.h"
 #include "logger/parameter_report.h"
@@ -33,24 +31,14 @@ void MontrerSeuil(MainScreen& ecran, QLineEdit& boite, int points, bool absolue)
     });
 }
 
-/// A form on which a band is chosen drags the first box along with the second one, which is right
-/// for what is typed and wrong for what the logger holds: the first one is then shown once more.
-void MontrerSeuils(MainScreen& ecran, int points1, int points2, bool absolue) {
-    const auto& ui = ecran.ui;
-    MontrerSeuil(ecran, *ui->Seuil1, points1, absolue);
-    const QString seuil1 = ui->Seuil1->text();
-    MontrerSeuil(ecran, *ui->Seuil2, points2, absolue);
-    const QSignalBlocker sansRegle(ui->Seuil1);
-    if (ui->Seuil1->text() != seuil1) ui->Seuil1->setText(seuil1);
-}
-
-void MontrerPressions(LectureParametres& lecture, int octetMode) {
+void MontrerSeuils(LectureParametres& lecture, int octetMode) {
     MainScreen& ecran = lecture.ecran;
     const auto& ui = ecran.ui;
     const bool absolue = (octetMode & mode::pressionAbsolue) != 0;
     afficher([&] { ui->PressionAbsolue->setChecked(absolue); });
     if (absolue) AjouteRapport(ecran, QStringLiteral("PressionAbsolue"), {});
-    MontrerSeuils(ecran, lecture.Mot(2), lecture.Mot(4), absolue);
+    MontrerSeuil(ecran, *ui->Seuil1, lecture.Mot(2), absolue);
+    MontrerSeuil(ecran, *ui->Seuil2, lecture.Mot(4), absolue);
 }
 
 void MontrerSens(MainScreen& ecran, int octetMode) {
@@ -108,7 +96,7 @@ Suite LireMode(LectureParametres& lecture) {
     const auto& ui = ecran.ui;
     const int octetMode = lecture.Octet(1);
     MontrerEchelleEtUnite(lecture);
-    MontrerPressions(lecture, octetMode);
+    MontrerSeuils(lecture, octetMode);
     MontrerSens(ecran, octetMode);
     MontrerNombreSeuils(ecran, octetMode);
     MontrerGestionMemoire(ecran, octetMode);
