@@ -6,52 +6,16 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
-#include <algorithm>
-#include <cmath>
 #include <cstdlib>
-#include <random>
 #include <vector>
 
-#include "viewer/chart_model.h"
+#include "chart_sample.h"
 #include "viewer/chart_view.h"
 
 namespace {
 
 using namespace bornika;
-
-constexpr int nombrePoints = 450'000;
-constexpr int nombreCourbes = 4;
-constexpr double debut = 1.7e12;
-constexpr double pas = 250;
-constexpr QSize taille(1200, 700);
-
-/// Two raw curves of a water network, and the smoothing of each.
-void Remplir(ModeleGraphe& modele) {
-    std::mt19937 tirage(3);
-    std::normal_distribution<double> bruit(0, 0.05);
-    const auto etiquettes = std::make_shared<MagasinEtiquettes>();
-    for (int courbe = 0; courbe < 2; ++courbe) {
-        SerieGraphe& serie = modele.AjouterSerie();
-        serie.axe = courbe == 0 ? SerieGraphe::Axe::Gauche : SerieGraphe::Axe::Droite;
-        serie.FixerEtiquettes(etiquettes);
-        serie.Reserver(nombrePoints);
-        for (int i = 0; i < nombrePoints; ++i)
-            serie.AjouterPoint(debut + pas * i, 4 + std::sin(i / 9000.0 + courbe) + bruit(tirage),
-                               etiquettes->Ajouter("14/11/2023 22:13:20:000"));
-    }
-    for (int source = 0; source < 2; ++source) {
-        SerieGraphe& serie = modele.AjouterSerie();
-        serie.axe = modele.Serie(source).axe;
-        modele.FixerFonction(2 + source, SerieGraphe::fonctionLissage, source);
-        serie.FixerPeriode(10);
-    }
-    for (int courbe = 0; courbe < nombreCourbes; ++courbe)
-        modele.Serie(courbe).titre = QStringLiteral("Curve %1").arg(courbe);
-    modele.bas.etiquettesTexte = true;
-    modele.legendeCases = true;
-    modele.visible = true;
-    modele.FixerPlage(debut, debut + pas * (nombrePoints - 1));
-}
+using namespace bornika::banc;
 
 void RemplirNu(QCustomPlot& dessin, const ModeleGraphe& modele) {
     dessin.setNotAntialiasedElements(QCP::aePlottables);
@@ -69,12 +33,6 @@ void RemplirNu(QCustomPlot& dessin, const ModeleGraphe& modele) {
         graphe->data()->set(points, true);
     }
     dessin.legend->setVisible(true);
-}
-
-double Mediane(std::vector<double> durees) {
-    std::nth_element(durees.begin(), durees.begin() + static_cast<long>(durees.size() / 2),
-                     durees.end());
-    return durees[durees.size() / 2];
 }
 
 double Redessiner(std::vector<double>& durees, QCustomPlot& dessin) {
