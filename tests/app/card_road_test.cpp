@@ -84,6 +84,66 @@ TEST_F(CardRoad, TheLogOfStartsAndACancelLeaveTheFormAsItWas) {
     EXPECT_EQ(banc.programme->trace.Presente(), nullptr);
 }
 
+TEST_F(CardRoad, AFolderNamedAsTheLogOfStartsStopsTheImportToo) {
+    Demarrer();
+    const QDir programme(banc.etabli.systeme.dossier);
+    ASSERT_TRUE(programme.mkdir(QStringLiteral("startlog")));
+    banc.etabli.Ecrire(QStringLiteral("startlog/LOG00001.TXT"),
+                       banc.etabli.Lire(QStringLiteral("CARD/LOG00001.TXT")));
+    Importer(programme.filePath(QStringLiteral("startlog/LOG00001.TXT")));
+    EXPECT_TRUE(banc.etabli.dialogues.boites.empty());
+    EXPECT_TRUE(banc.etabli.Fichiers().filter(base).isEmpty());
+    EXPECT_EQ(banc.programme->trace.Presente(), nullptr);
+}
+
+TEST_F(CardRoad, TheRecordingIsWholeAndTheCaptionSetWhileTheBoxStandsAndTheCurveComesAfter) {
+    Demarrer();
+    int boites = 0;
+    banc.etabli.dialogues.pendantBoite = [&](const auto&) {
+        ++boites;
+        EXPECT_EQ(banc.etabli.Lire(base + QStringLiteral(".txt")),
+                  banc.etabli.Lire(QStringLiteral("CARD/LOG00002.TXT")));
+        EXPECT_EQ(banc.ecran().windowTitle(), Carte() + QStringLiteral("/LOG00002.TXT"));
+        EXPECT_EQ(banc.programme->trace.Presente(), nullptr);
+    };
+    Importer(Carte() + QStringLiteral("/LOG00002.TXT"));
+    EXPECT_EQ(boites, 1);
+    EXPECT_NE(banc.programme->trace.Presente(), nullptr);
+}
+
+TEST_F(CardRoad, TheNextImportTakesThePlaceOfTheCurveThatIsShown) {
+    Demarrer();
+    for (const char* nom : {"LOG00001.TXT", "LOG00002.TXT"}) {
+        const QString fichier = QStringLiteral("CARD/") + QString::fromLatin1(nom);
+        Importer(banc.etabli.Chemin(fichier));
+        EXPECT_EQ(banc.programme->trace.Presente()->modele.Serie(0).Nombre(),
+                  banc.etabli.Lire(fichier).count("\r\n") - 1)
+            << nom;
+    }
+}
+
+TEST(CardWithoutItsLogger, IsImportedForTheProductThatWasChosenByHand) {
+    BancProgramme banc;
+    PoserCarteDeDemonstration(banc.etabli.systeme);
+    banc.main = [](QDialog& dialogue) {
+        if (auto* quitter = dialogue.findChild<QWidget*>(QStringLiteral("ExitEtalonnage"))) {
+            BancProgramme::Cliquer(quitter);
+            return;
+        }
+        BancProgramme::Cliquer(dialogue.findChild<QWidget*>(QStringLiteral("TypekPod_3")));
+        BancProgramme::Cliquer(dialogue.findChild<QWidget*>(QStringLiteral("Selection")));
+    };
+    ASSERT_TRUE(banc.Demarrer(-1));
+    ASSERT_TRUE(banc.ui().LireSD->isVisible());
+    banc.etabli.dialogues.fichiers = {banc.etabli.Chemin(QStringLiteral("CARD/LOG00001.TXT"))};
+    BancProgramme::Cliquer(banc.ui().LireSD);
+    EXPECT_EQ(banc.etabli.Lire(base + QStringLiteral(".txt")),
+              banc.etabli.Lire(QStringLiteral("CARD/LOG00001.TXT")));
+    ASSERT_EQ(banc.etabli.dialogues.boites.size(), 1U);
+    EXPECT_EQ(banc.etabli.dialogues.boites[0].titre, QStringLiteral("k-Pod 33"));
+    EXPECT_NE(banc.programme->trace.Presente(), nullptr);
+}
+
 TEST_F(CardRoad, TheTwoFamiliesSendEachOtherAway) {
     // A card logger of an old version is read by cable, a flash logger of a new one by its card.
     banc.bus.Brancher(simulateur::Simple(19, 2, 100, maintenantSimule));

@@ -71,6 +71,14 @@ TEST_F(WritingOnTheRoad, APeriodThatFitsNoFrameEndsTheProgramWithTheLoggerUntouc
     EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);
 }
 
+TEST_F(WritingOnTheRoad, LeavesTheWatchdogTimerRunning) {
+    banc.programme->Timeur.start(1'000'000);
+    BancProgramme::Cliquer(banc.ui().Ecrire);
+    EXPECT_EQ(Boites(), QStringList({ecrasees, terminee}));
+    EXPECT_TRUE(banc.programme->Timeur.isActive());
+    EXPECT_EQ(banc.programme->Timeur.interval(), 1'000'000);
+}
+
 TEST_F(WritingOnTheRoad, InTheMiddleOfADownloadEndsItWithItsFileStanding) {
     int tours = 0;
     banc.etabli.respiration.ReglerEvenements([&] {

@@ -343,5 +343,19 @@ TEST(EcritureInterrompue, APeriodThatFitsNoFrameIsAFaultBeforeAnyIsSent) {
     EXPECT_EQ(banc.Codes(), "28 ");
 }
 
+TEST(EcritureInterrompue, APeriodAfterTheTriggerThatFitsNoFrameIsAFaultBehindTwoOfThem) {
+    BancEcriture banc;
+    banc.ui.PeriodeTrigger->FixerDonnee(4, 65536);
+    int numero = 0;
+    try {
+        Ecrire(banc.poste);
+    } catch (const FauteExecution& faute) {
+        numero = faute.numero();
+    }
+    EXPECT_EQ(numero, numero_faute::depassement);
+    EXPECT_EQ(banc.Codes(), "28 1 3 ");
+    EXPECT_EQ(banc.Octets(44, 1), (std::vector<int>{138}));
+}
+
 }  // namespace
 }  // namespace bornika::essai

@@ -70,6 +70,46 @@ TEST(EcritureComplete, SendsEveryFrameInItsOrderWithItsWaits) {
     EXPECT_TRUE(banc.etabli.fautes.empty());
 }
 
+TEST(EcritureComplete, AsksForTheLengthOfEachAnswer) {
+    BancEcriture banc(avecCarte, derniereVersion);
+    Ecrire(banc.poste);
+    std::vector<int> attendues(7, 8);
+    attendues.insert(attendues.end(), 17, 4);
+    attendues.push_back(1);
+    std::vector<int> longueurs;
+    for (const auto& appel : banc.bus.Appels()) {
+        if (appel.genre == simulateur::GenreAppel::lire) longueurs.push_back(appel.argument);
+    }
+    ASSERT_GT(longueurs.size(), attendues.size());
+    longueurs.resize(attendues.size());
+    EXPECT_EQ(longueurs, attendues);
+}
+
+TEST(EcritureComplete, IsTheSameSequenceWhateverIsRecorded) {
+    std::string premiers;
+    for (QRadioButton* Ui::MainScreen::*option :
+         {&Ui::MainScreen::PasDeSeuil, &Ui::MainScreen::UnSeuil, &Ui::MainScreen::DeuxSeuils}) {
+        BancEcriture banc(avecCarte, derniereVersion);
+        (banc.ui.*option)->setChecked(true);
+        Ecrire(banc.poste);
+        if (premiers.empty()) premiers = banc.Codes();
+        EXPECT_EQ(banc.Codes(), premiers) << Clair((banc.ui.*option)->objectName());
+        EXPECT_EQ(banc.etabli.horloge.pauses, PausesCompletes(true));
+    }
+    EXPECT_EQ(premiers.substr(0, 20), "8 28 1 3 7 11 12 30 ");
+}
+
+TEST(EcritureComplete, SendsTheTimeThatItIsWhenTheOperatorHasAnswered) {
+    BancEcriture banc;
+    banc.etabli.dialogues.pendantBoite = [&](const DialoguesNotes::Boite_& boite) {
+        QDateTime& instant = banc.etabli.horloge.instant;
+        if (boite.boutons == Boutons::OkAnnuler) instant = instant.addSecs(90);
+    };
+    Ecrire(banc.poste);
+    EXPECT_EQ(banc.Trames(7),
+              (std::vector<std::vector<std::uint8_t>>{{7, 105, 169, 142, 13 + 90, 0, 16, 32}}));
+}
+
 TEST(EcritureComplete, HasNeitherCardCheckNorForcedContextForAnOlderLoggerWithoutCard) {
     BancEcriture banc;
     Ecrire(banc.poste);

@@ -111,6 +111,30 @@ TEST_F(EnregistreurACarte, WhoseAnswerIsCutShortCountsAsWithoutCard) {
     NAFaitQueLire(banc);
 }
 
+TEST_F(EnregistreurACarte, WhoseAnswerTellsAnythingButOneCountsAsWithoutCard) {
+    banc.enregistreur.pannes.Ordonner({8, GenrePanne::bruit});
+    Ecrire(banc.poste);
+    EXPECT_EQ(banc.Boites(), (std::vector<std::string>{"Carte SD absente"}));
+    EXPECT_EQ(CouleurDe(*banc.ui.SDCardState), 255U);
+    EXPECT_EQ(banc.Codes(), "8 ");
+    EXPECT_EQ(banc.Maintenant(), rendueOuverte);
+}
+
+TEST(EnregistreurACarteDesDeuxTypes, IsAskedForItBeforeAnythingElse) {
+    for (const std::uint8_t type : {19, 20}) {
+        SCOPED_TRACE(static_cast<int>(type));
+        BancEcriture banc(type);
+        banc.enregistreur.cartePresente = false;
+        Ecrire(banc.poste);
+        EXPECT_EQ(banc.Codes(), "8 ");
+        EXPECT_EQ(banc.Boites(), (std::vector<std::string>{"Carte SD absente"}));
+        banc.enregistreur.cartePresente = true;
+        Ecrire(banc.poste);
+        EXPECT_EQ(banc.Codes().substr(0, 11), "8 8 28 1 3 ");
+        EXPECT_EQ(banc.Boites().back(), terminee);
+    }
+}
+
 TEST_F(EnregistreurACarte, IsWrittenOnceTheCardIsIn) {
     banc.enregistreur.cartePresente = false;
     Ecrire(banc.poste);

@@ -246,7 +246,10 @@ TEST_F(MainScreenForm, HoldsEachSetUpControlInItsFrame) {
     for (QWidget* c : {ui.BufferTournant, ui.BufferNonTournant})
         EXPECT_TRUE(ui.Frame2->isAncestorOf(c));
     EXPECT_TRUE(ui.Frame4->isAncestorOf(ui.Commentaire));
-    EXPECT_TRUE(ui.FrameFlowParameter->isAncestorOf(ui.ListeTemps));
+    for (QWidget* c : std::initializer_list<QWidget*>{ui.CoefImpulsion, ui.UniteImpulsion,
+                                                      ui.ListeTemps, ui.LabelCoefImpulsion,
+                                                      ui.LabelUniteImpulsion, ui.LabelSlash})
+        EXPECT_TRUE(ui.FrameFlowParameter->isAncestorOf(c)) << c->objectName().toStdString();
     for (QWidget* c :
          std::initializer_list<QWidget*>{ui.NbMesures, ui.DateDemarrage, ui.Check_advanced})
         for (QWidget* cadre : {ui.Frame1, ui.Frame2, ui.Frame3, ui.Frame4, ui.Frame5})
