@@ -156,6 +156,29 @@ TEST_F(DumpButtons, ADownloadInsideTheDumpEndsWithItsCurve) {
                                      QStringLiteral("Valeurs stockées dans le fichier ") + pages}));
 }
 
+TEST_F(DumpButtons, ADownloadLosesNothingOverTheServiceReadingsInsideIt) {
+    const QString mesures = QStringLiteral("2026-03-05-14-07-09.txt");
+    pod.ViderMesures();
+    for (std::uint32_t i = 0; i < 120; ++i)
+        pod.Stocker(simulateur::MesurePeriodique(maintenantSimule - 1000 + i, 500));
+    BancProgramme::Cliquer(banc.ui().LireValeurs);
+    const QByteArray seul = banc.etabli.Lire(mesures);
+    ASSERT_GT(seul.count('\n'), 100);
+    ASSERT_TRUE(QFile::remove(banc.etabli.Chemin(mesures)));
+
+    banc.etabli.dialogues.fichiers = {banc.etabli.Chemin(contexte)};
+    banc.etabli.respiration.ReglerEvenements([this] {
+        ++tours;
+        if (tours == 20) BancProgramme::Cliquer(banc.ui().LireEeprom);
+        if (tours == 40) BancProgramme::Cliquer(banc.ui().LireLaFlash);
+    });
+    BancProgramme::Cliquer(banc.ui().LireValeurs);
+    EXPECT_EQ(Lignes(contexte).size(), 168);
+    EXPECT_FALSE(banc.ui().resultat->text().isEmpty());
+    EXPECT_EQ(banc.etabli.Lire(mesures).toStdString(), seul.toStdString());
+    EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);
+}
+
 TEST_F(DumpButtons, ClosingTheMainFormInADumpLeavesWithoutABox) {
     AuTour(20, [&] { BancProgramme::Cliquer(banc.ui().Sortir); });
     LirePages("1", "3");

@@ -151,6 +151,13 @@ TEST_F(LectureFlash, NumbersFollowTheLocaleAndTheChosenUnit) {
     EXPECT_EQ(Mesure().substr(Mesure().find("  ")), "  psi-0");
 }
 
+TEST_F(LectureFlash, TheDateFollowsTheLocale) {
+    banc.etabli.systeme.regional.dateCourte = QStringLiteral("M/d/yyyy");
+    Mettre(3, 8, mesure);
+    Lire();
+    EXPECT_EQ(Mesure(), "11/14/2023 22:13:20-640-10  bar-0");
+}
+
 TEST_F(LectureFlash, ThePressureIsCorrectedButNeverAbsolute) {
     Mettre(3, 8, mesure);
     ui.PressionAbsolue->setChecked(true);

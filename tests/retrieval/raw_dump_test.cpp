@@ -264,6 +264,13 @@ TEST(RawDump, NamesTheFileInTheLanguageOfTheForm) {
 TEST(RawDump, OfALoggerInCalibrationSaysSoAndGoesOn) {
     BancDump banc;
     banc.enregistreur.memoire.EcrireOctet(simulateur::adresse::modeEtalonnage, 1);
+    int boites = 0;
+    banc.etabli.dialogues.pendantBoite = [&](const auto&) {
+        EXPECT_FALSE(banc.ui.LireValeursPage->isEnabled());
+        if (++boites > 1) return;
+        EXPECT_EQ(PointeurSouris(banc.ecran), pointeur::fleche);
+        EXPECT_FALSE(banc.FichierFait());
+    };
     banc.Lire();
     ASSERT_EQ(banc.Boites(), 2U);
     AttendreAnnonce(banc, banc.Boite(1));
