@@ -45,6 +45,11 @@ void BrancherTrace(Trace& trace) {
     lier(ui.TChart1, &VueGraphe::Zoom, TChart1_Zoom);
     lier(ui.TChart1, &VueGraphe::AnnulationZoom, TChart1_UndoZoom);
     lier(ui.Imprimer, &QPushButton::clicked, Imprimer_Click);
+    lier(ui.Agrandir, &QAction::triggered, Agrandir_Click);
+    lier(ui.Reduire, &QAction::triggered, Reduire_Click);
+    lier(ui.VueEntiere, &QAction::triggered, VueEntiere_Click);
+    lier(ui.PointPrecedent, &QAction::triggered, PointPrecedent_Click);
+    lier(ui.PointSuivant, &QAction::triggered, PointSuivant_Click);
     lier(ui.CopierImage, &QAction::triggered, CopierImage_Click);
     lier(ui.EnregistrerPng, &QAction::triggered, EnregistrerPng_Click);
     lier(ui.EnregistrerPdf, &QAction::triggered, EnregistrerPdf_Click);

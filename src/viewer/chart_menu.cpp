@@ -9,7 +9,9 @@
 #include "platform/named_fault.h"
 #include "shell/main_screen.h"
 #include "ui_trace_form.h"
+#include "viewer/chart_cursor.h"
 #include "viewer/chart_picture.h"
+#include "viewer/chart_view_keys.h"
 #include "viewer/recording_path.h"
 #include "viewer/trace_form.h"
 
@@ -48,8 +50,33 @@ void MontrerMenuGraphe(Trace& trace, QPoint place) {
     VueGraphe& graphe = *trace.ui->TChart1;
     auto* menu = new QMenu(&graphe);
     menu->setAttribute(Qt::WA_DeleteOnClose);
+    // The chart takes the keys itself: these entries only name them, and are none of its actions.
+    const auto& ui = *trace.ui;
+    menu->addActions({ui.Agrandir, ui.Reduire, ui.VueEntiere});
+    if (CurseurMobile(trace.modele)) menu->addActions({ui.PointPrecedent, ui.PointSuivant});
+    menu->addSeparator();
     menu->addActions(graphe.actions());
     menu->popup(graphe.mapToGlobal(place));
+}
+
+void Agrandir_Click(Trace& trace) {
+    PresserTouche(*trace.ui->TChart1, Qt::Key_Plus);
+}
+
+void Reduire_Click(Trace& trace) {
+    PresserTouche(*trace.ui->TChart1, Qt::Key_Minus);
+}
+
+void VueEntiere_Click(Trace& trace) {
+    PresserTouche(*trace.ui->TChart1, Qt::Key_0);
+}
+
+void PointPrecedent_Click(Trace& trace) {
+    PresserTouche(*trace.ui->TChart1, Qt::Key_Left, Qt::ControlModifier);
+}
+
+void PointSuivant_Click(Trace& trace) {
+    PresserTouche(*trace.ui->TChart1, Qt::Key_Right, Qt::ControlModifier);
 }
 
 void CopierImage_Click(Trace& trace) {

@@ -10,6 +10,14 @@ class Trace;
 /// events.
 void MontrerMenuGraphe(Trace& trace, QPoint place);
 
+/// The entries `Agrandir`, `Reduire`, `VueEntiere`, `PointPrecedent` and `PointSuivant`: what the
+/// key named beside each does on the chart. They tell the operator which keys there are.
+void Agrandir_Click(Trace& trace);
+void Reduire_Click(Trace& trace);
+void VueEntiere_Click(Trace& trace);
+void PointPrecedent_Click(Trace& trace);
+void PointSuivant_Click(Trace& trace);
+
 /// The entry `CopierImage`: the chart as a picture into the clipboard.
 void CopierImage_Click(Trace& trace);
 

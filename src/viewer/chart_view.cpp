@@ -154,6 +154,10 @@ void VueGraphe::Reproduire(const VueGraphe& autre, const Apparence& apparence) {
     echellesFixes_ = autre.echellesFixes_;
     Accorder();
     outils_->Accorder(*modele_, apparence_);
+    // A picture is made once: there is time for smooth edges.
+    setNotAntialiasedElements(QCP::aeNone);
+    for (int i = 0; i < graphCount(); ++i)
+        graph(i)->setAntialiased(true);
 }
 
 void VueGraphe::Accorder() {
@@ -332,7 +336,8 @@ void VueGraphe::focusInEvent(QFocusEvent* evenement) {
 
 void VueGraphe::keyPressEvent(QKeyEvent* evenement) {
     bool prise = gestes_->EnCours();
-    if (!prise) garder([&] { prise = PresserTouche(*this, *evenement); });
+    if (!prise)
+        garder([&] { prise = PresserTouche(*this, evenement->key(), evenement->modifiers()); });
     evenement->setAccepted(prise);
 }
 

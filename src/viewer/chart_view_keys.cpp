@@ -1,7 +1,5 @@
 #include "viewer/chart_view_keys.h"
 
-#include <QKeyEvent>
-
 #include "viewer/chart_view.h"
 
 namespace bornika {
@@ -52,10 +50,8 @@ bool Defiler(VueGraphe& vue, int touche) {
 
 }  // namespace
 
-bool PresserTouche(VueGraphe& vue, const QKeyEvent& evenement) {
-    const int touche = evenement.key();
-    const Qt::KeyboardModifiers avec =
-        evenement.modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier);
+bool PresserTouche(VueGraphe& vue, int touche, Qt::KeyboardModifiers avec) {
+    avec &= ~(Qt::KeypadModifier | Qt::ShiftModifier);
     const bool controle = avec == Qt::ControlModifier;
     if ((avec && !controle) || !vue.PeutNaviguer()) return false;
     if (vue.ZoomPermis() && Zoomer(vue, touche)) return true;

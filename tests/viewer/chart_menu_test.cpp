@@ -54,8 +54,8 @@ TEST_F(MenuGraphe, ARightClickShowsItWhereTheMouseIs) {
     EXPECT_EQ(Menu(), nullptr);
     ClicDroit(Milieu());
     ASSERT_TRUE(Menu());
-    EXPECT_EQ(Textes(), (QStringList{"Copier l'image", "Enregistrer l'image (PNG)...",
-                                     "Enregistrer en PDF..."}));
+    EXPECT_EQ(Textes(), (QStringList{"Agrandir", "Réduire", "Tout montrer", "", "Copier l'image",
+                                     "Enregistrer l'image (PNG)...", "Enregistrer en PDF..."}));
     EXPECT_EQ(Menu()->pos(), Vue().mapToGlobal(Milieu()));
 }
 
@@ -63,7 +63,51 @@ TEST_F(MenuGraphe, ItSpeaksTheLanguageOfTheForm) {
     v.Fiche().close();
     Preparer("English");
     ClicDroit(Milieu());
-    EXPECT_EQ(Textes(), (QStringList{"Copy picture", "Save picture (PNG)...", "Save as PDF..."}));
+    EXPECT_EQ(Textes(), (QStringList{"Zoom in", "Zoom out", "Show all", "", "Copy picture",
+                                     "Save picture (PNG)...", "Save as PDF..."}));
+}
+
+TEST_F(MenuGraphe, ItsFirstEntriesZoomAndNameTheirKeys) {
+    const double entiere = Vue().xAxis->range().size();
+    EXPECT_EQ(v.Ui().Agrandir->shortcut(), QKeySequence(Qt::Key_Plus));
+    Choisir(v.Ui().Agrandir);
+    EXPECT_NEAR(Vue().xAxis->range().size(), entiere * 0.8, 1e-3);
+    EXPECT_FALSE(v.Ui().Pages->isEnabled());
+    Choisir(v.Ui().Agrandir);
+    EXPECT_EQ(v.Ui().Reduire->shortcut(), QKeySequence(Qt::Key_Minus));
+    Choisir(v.Ui().Reduire);
+    EXPECT_NEAR(Vue().xAxis->range().size(), entiere * 0.8, 1e-3);
+    EXPECT_EQ(v.Ui().VueEntiere->shortcut(), QKeySequence(Qt::Key_0));
+    Vue().animation.animee = false;
+    Choisir(v.Ui().VueEntiere);
+    EXPECT_EQ(Vue().xAxis->range().size(), entiere);
+    EXPECT_TRUE(v.Ui().Pages->isEnabled());
+}
+
+TEST_F(MenuGraphe, OffersTheStepsOfACursorThatIsThere) {
+    v.Ui().Curseur->Choisir(2);
+    ClicDroit(Milieu());
+    EXPECT_EQ(Textes().mid(3, 2),
+              (QStringList{"Curseur au point précédent", "Curseur au point suivant"}));
+    Menu()->close();
+    EXPECT_EQ(v.Ui().PointSuivant->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_Right));
+    EXPECT_EQ(v.Ui().PointPrecedent->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_Left));
+    const ModeleGraphe& modele = v.Modele();
+    Choisir(v.Ui().PointSuivant);
+    const int depart = CurseurMobile(modele)->point;
+    Choisir(v.Ui().PointSuivant);
+    EXPECT_EQ(CurseurMobile(modele)->point, depart + 1);
+    Choisir(v.Ui().PointPrecedent);
+    EXPECT_EQ(CurseurMobile(modele)->point, depart);
+    EXPECT_FALSE(v.Ui().date->text().isEmpty());
+}
+
+TEST_F(MenuGraphe, LeavesTheKeysToTheChartWhichTakesEachOfThemOnce) {
+    Vue().activateWindow();
+    Vue().setFocus();
+    const double entiere = Vue().xAxis->range().size();
+    QTest::keyClick(&Vue(), Qt::Key_Plus);
+    EXPECT_NEAR(Vue().xAxis->range().size(), entiere * 0.8, 1e-3);
 }
 
 TEST_F(MenuGraphe, ARightClickBesideTheFrameShowsItToo) {
