@@ -97,6 +97,25 @@ TEST_F(TraceAspect, AllStatesOfTheFormStayWhole) {
     RienNEstCoupe();
 }
 
+TEST_F(TraceAspect, ALongUnitPushesNothingOutOfTheForm) {
+    Montrer("Français");
+    v.Ui().UniteImpulsion->setText("impulsion comptée");
+    v.Ui().Command_Refresh->click();
+    v.Ui().Curseur->Choisir(2);
+    QTest::mouseMove(v.Ui().TChart1, v.Ui().TChart1->axisRect()->rect().center());
+    QCoreApplication::processEvents();
+    ASSERT_EQ(v.Ui().LabelPression->text(), "impulsion comptée/Hrs");
+    Photographier("aids-long");
+    RienNEstCoupe();
+    v.Ui().UniteImpulsion->setText("une unité que personne n'attend, d'une longueur folle");
+    v.Ui().Command_Refresh->click();
+    v.Ui().Curseur->Choisir(2);
+    QTest::mouseMove(v.Ui().TChart1, v.Ui().TChart1->axisRect()->rect().center() / 2);
+    QCoreApplication::processEvents();
+    Photographier("aids-longer");
+    EXPECT_LE(v.Ui().BandeauHaut->geometry().right(), v.Fiche().width());
+}
+
 TEST_F(TraceAspect, TheReadingAidsStayWholeInEachLanguage) {
     for (const char* langue : {"Français", "English"}) {
         Montrer(langue);
