@@ -9,13 +9,36 @@ namespace {
 /// Air above and below the curves, as part of their range.
 constexpr double marge = 0.04;
 
+/// A curve in a picture: its pen is wider than one dot, and stroking thousands of points as one
+/// line takes tens of times as long as stroking them piece by piece.
+class CourbeParMorceaux : public QCPGraph {
+  public:
+    using QCPGraph::QCPGraph;
+
+  protected:
+    void drawLinePlot(QCPPainter* peintre, const QVector<QPointF>& points) const override {
+        if (peintre->modes().testFlag(QCPPainter::pmVectorized) || peintre->pen().widthF() == 0) {
+            QCPGraph::drawLinePlot(peintre, points);
+            return;
+        }
+        QVector<QLineF> morceaux;
+        morceaux.reserve(points.size());
+        for (qsizetype i = 1; i < points.size(); ++i)
+            if (!qIsNaN(points[i - 1].y()) && !qIsNaN(points[i].y()))
+                morceaux.append(QLineF(points[i - 1], points[i]));
+        applyDefaultAntialiasingHint(peintre);
+        peintre->drawLines(morceaux);
+    }
+};
+
 }  // namespace
 
 void CourbesGraphe::Refaire(const ModeleGraphe& modele) {
     dessin_.clearGraphs();
     courbes_.assign(static_cast<std::size_t>(modele.NombreSeries()), Courbe{});
     for (Courbe& courbe : courbes_) {
-        courbe.graphe = dessin_.addGraph(dessin_.xAxis, dessin_.yAxis);
+        // The plot owns it.
+        courbe.graphe = new CourbeParMorceaux(dessin_.xAxis, dessin_.yAxis);
         courbe.graphe->setSelectable(QCP::stNone);
         courbe.graphe->setAntialiased(false);
     }
