@@ -19,9 +19,12 @@ namespace bornika {
 
 namespace {
 
-/// Name of the recording, the first of several, without folder and extension.
+/// Name of the recording, the first of several, without folder and extension; that of the program
+/// for curves whose file was deleted.
 QString NomEnregistrement(const Trace& trace) {
-    return QFileInfo(CheminsFichiers(trace.NomFichierCourant).first()).completeBaseName();
+    const QString nom =
+        QFileInfo(CheminsFichiers(trace.NomFichierCourant).first()).completeBaseName();
+    return nom.isEmpty() ? QStringLiteral("BORNIKA") : nom;
 }
 
 /// Asks for a file and writes into it what `contenu` holds.
@@ -53,7 +56,8 @@ void MontrerMenuGraphe(Trace& trace, QPoint place) {
     // The chart takes the keys itself: these entries only name them, and are none of its actions.
     const auto& ui = *trace.ui;
     menu->addActions({ui.Agrandir, ui.Reduire, ui.VueEntiere});
-    if (CurseurMobile(trace.modele)) menu->addActions({ui.PointPrecedent, ui.PointSuivant});
+    if (ui.Curseur->Index() > 0 && CurseurMobile(trace.modele))
+        menu->addActions({ui.PointPrecedent, ui.PointSuivant});
     menu->addSeparator();
     menu->addActions(graphe.actions());
     menu->popup(graphe.mapToGlobal(place));

@@ -100,6 +100,9 @@ TEST_F(MenuGraphe, OffersTheStepsOfACursorThatIsThere) {
     Choisir(v.Ui().PointPrecedent);
     EXPECT_EQ(CurseurMobile(modele)->point, depart);
     EXPECT_FALSE(v.Ui().date->text().isEmpty());
+    v.Ui().Curseur->Choisir(0);
+    ClicDroit(Milieu());
+    EXPECT_FALSE(Textes().contains("Curseur au point suivant"));
 }
 
 TEST_F(MenuGraphe, LeavesTheKeysToTheChartWhichTakesEachOfThemOnce) {
@@ -193,6 +196,16 @@ TEST_F(MenuGraphe, OfSeveralRecordingsTheFirstGivesTheName) {
     v.etabli.dialogues.demandes.clear();
     v.Ui().EnregistrerPng->trigger();
     EXPECT_EQ(Demande().nom, "2026-3-5.png");
+}
+
+TEST_F(MenuGraphe, OnceTheRecordingIsDeletedTheProgramGivesTheName) {
+    v.Ui().Detruire->click();
+    ASSERT_EQ(v.Fiche().NomFichierCourant, QString());
+    v.Ui().EnregistrerPng->trigger();
+    v.Ui().EnregistrerPdf->trigger();
+    ASSERT_EQ(v.etabli.dialogues.demandes.size(), 2U);
+    EXPECT_EQ(v.etabli.dialogues.demandes[0].nom, "BORNIKA.png");
+    EXPECT_EQ(v.etabli.dialogues.demandes[1].nom, "BORNIKA.pdf");
 }
 
 TEST_F(MenuGraphe, ACancelledDialogWritesNothing) {

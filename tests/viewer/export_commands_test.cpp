@@ -194,6 +194,22 @@ TEST_F(ExportViewer, AFormClosedWhileTheDialogStandsWritesWhatWasChosenAndGoes) 
     EXPECT_FALSE(fiche);
 }
 
+TEST_F(ExportViewer, AFormClosedWhileTheDialogStandsStoresItsCommentsToo) {
+    ChargerMesures("a.txt");
+    v.Ui().Commentaires->setPlainText("note");
+    const QPointer<Trace> fiche = &v.Fiche();
+    v.etabli.dialogues.pendantDemande = [&](const DemandeFichier&) {
+        fiche->close();
+        QCoreApplication::processEvents();
+        EXPECT_TRUE(fiche);
+    };
+    Enregistrer("out.txt");
+    EXPECT_EQ(v.etabli.Lire("out.txt"), v.etabli.Lire("a.txt"));
+    EXPECT_EQ(v.etabli.Lire("out.Cmt"), "note\r\n");
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(fiche);
+}
+
 TEST_F(ExportViewer, EachSourceOfSeveralAddsItsHeaderAndItsLines) {
     v.EcrireEnregistrement("a.txt", 2);
     v.EcrireEnregistrement("b.txt", 1, "Temps;Date Heure;Valeur;Force;N;comptage;M3/sec.");
@@ -222,6 +238,46 @@ TEST_F(ExportViewer, ALineIsKeptIfItFallsWithinTheSpanOfAnotherFilesCurve) {
     ASSERT_EQ(lignes.size(), 21 + 3);
     EXPECT_EQ(lignes[22], "1005000;d;1;abc;;0;");
     EXPECT_EQ(lignes[23], "1019000;d;1;abc;;0;");
+}
+
+TEST_F(ExportViewer, SourcesGoOutInTheOrderOfTheChoiceEachWithAHeaderOfItsOwnForm) {
+    CopierDonnee("nine_fields.txt");
+    v.EcrireEnregistrement("a.txt", 1);
+    ChargerPlusieurs({"nine_fields.txt", "a.txt"});
+    v.Ui().CoefImpulsion->setText("2,5");
+    v.Ui().UniteImpulsion->setText("m³");
+    v.Ui().ListeTemps->Choisir(1);
+    Exporter("out.csv");
+    Enregistrer("out.txt");
+    EXPECT_EQ(
+        v.etabli.Lire("out.csv"),
+        Donnee("nine_fields.csv") + "Temps;Pression;M3/sec.\r\n01/01/1970 00:1000:000;4;1 ;\r\n");
+    EXPECT_EQ(v.etabli.Lire("out.txt"),
+              Donnee("nine_fields_selection.txt") + v.etabli.Lire("a.txt"));
+}
+
+TEST_F(ExportViewer, ASourceWithoutALineInTheSpanGivesItsHeaderAlone) {
+    v.EcrireEnregistrement("a.txt", 20);
+    v.etabli.Ecrire("b.txt",
+                    Visionneuse::enteteAppareil + "\r\n5000000;d;1;4;;0;\r\n5001000;d;1;4;;0;\r\n");
+    ChargerPlusieurs({"a.txt", "b.txt"});
+    v.Modele().MontrerPlage({1005000, 1007000});
+    Enregistrer("out.txt");
+    const QByteArrayList lignes = Lignes("out.txt");
+    ASSERT_EQ(lignes.size(), 1 + 3 + 1);
+    EXPECT_TRUE(lignes[1].startsWith("1005000;"));
+    EXPECT_TRUE(lignes[3].startsWith("1007000;"));
+    EXPECT_EQ(lignes[4], Visionneuse::enteteAppareil);
+}
+
+TEST_F(ExportViewer, AZoomBetweenTwoPointsGivesTheHeaderAlone) {
+    ChargerMesures("a.txt", 20);
+    v.Modele().MontrerPlage({1005200, 1005800});
+    Exporter("out.csv");
+    Enregistrer("out.txt");
+    EXPECT_EQ(v.etabli.Lire("out.csv"), "Temps;Pression;M3/sec.\r\n");
+    EXPECT_EQ(v.etabli.Lire("out.txt"), Visionneuse::enteteAppareil + "\r\n");
+    EXPECT_TRUE(Fautes().empty());
 }
 
 TEST_F(ExportViewer, LinesOutsideTheFirstAndLastPointStayEvenUnzoomed) {
@@ -268,6 +324,13 @@ TEST_F(ExportViewer, CommentsOfANameWithoutTxtGetCmtBehind) {
     EXPECT_EQ(v.etabli.Lire("out.dat.Cmt"), "note\r\n");
     EXPECT_EQ(v.etabli.Lire("out.dat"), v.etabli.Lire("a.txt"));
     EXPECT_FALSE(QFile::exists(v.etabli.Chemin("out.Cmt")));
+}
+
+TEST_F(ExportViewer, EmptyCommentsAreAFileOfOneLineEnd) {
+    ChargerMesures("a.txt", 3);
+    v.Ui().Commentaires->clear();
+    Enregistrer("out.txt");
+    EXPECT_EQ(v.etabli.Lire("out.Cmt"), "\r\n");
 }
 
 TEST_F(ExportViewer, OlderFilesOfTheTargetsNamesAreReplaced) {

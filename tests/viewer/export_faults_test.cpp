@@ -2,6 +2,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <QPointer>
 #include <filesystem>
 
 #include "platform/guard.h"
@@ -90,9 +91,11 @@ TEST_F(ExportFaults, SecondSourceThatIsGoneLeavesTheFirstInTheTarget) {
     v.EcrireEnregistrement("b.txt", 20);
     ChargerPlusieurs({"a.txt", "b.txt"});
     ASSERT_TRUE(QFile::remove(Chemin("b.txt")));
+    v.Ui().Commentaires->setPlainText("note");
     Enregistrer("out.txt");
     EXPECT_EQ(Fautes(), std::vector<int>{numero_faute::fichierIntrouvable});
     EXPECT_EQ(v.etabli.Lire("out.txt"), v.etabli.Lire("a.txt"));
+    EXPECT_EQ(v.etabli.Lire("out.Cmt"), "note\r\n");
 }
 
 TEST_F(ExportFaults, TargetThatCannotBeMadeIsAFault) {
@@ -239,6 +242,18 @@ TEST_F(Destruction, AsksWithTheNameOfTheFileAndNoKeepsIt) {
     EXPECT_EQ(v.Fiche().NomFichierCourant, Chemin("a.txt"));
 }
 
+TEST_F(Destruction, SpeaksTheLanguageOfTheProgram) {
+    v.ecran.configuration.RemplitListeLangues(*v.ecran.ui->ListeLangues, "English");
+    ChargerMesures("a.txt", 20);
+    v.etabli.dialogues.reponses = {Reponse::Non};
+    Cliquer(v.Ui().Detruire);
+    v.Fiche().NomFichierCourant.clear();
+    Cliquer(v.Ui().Detruire);
+    ASSERT_EQ(v.etabli.dialogues.boites.size(), 2U);
+    EXPECT_EQ(v.etabli.dialogues.boites[0].texte, "Delete the file " + Chemin("a.txt") + " ?");
+    EXPECT_EQ(v.etabli.dialogues.boites[1].texte, "Select a file");
+}
+
 TEST_F(Destruction, YesDeletesTheFileAloneAndTheCurvesStay) {
     ChargerMesures("a.txt", 20);
     v.etabli.Ecrire("a.Cmt", "note");
@@ -286,6 +301,32 @@ TEST_F(Destruction, OfAFileThatIsGoneIsAFault) {
     EXPECT_EQ(Fautes(), std::vector<int>{numero_faute::fichierIntrouvable});
     // A name that differs in its letters is another file.
     EXPECT_TRUE(QFile::exists(Chemin("A.TXT")));
+}
+
+TEST_F(Destruction, OfWhatMayNotBeDeletedIsAFaultAndTheViewKeepsItsName) {
+    ChargerMesures("a.txt", 20);
+    // A folder is refused whoever asks.
+    ASSERT_TRUE(QDir().mkdir(Chemin("folder.txt")));
+    v.Fiche().NomFichierCourant = Chemin("folder.txt");
+    Cliquer(v.Ui().Detruire);
+    EXPECT_EQ(Fautes(), std::vector<int>{numero_faute::accesRefuse});
+    EXPECT_TRUE(QFileInfo(Chemin("folder.txt")).isDir());
+    EXPECT_EQ(v.Fiche().NomFichierCourant, Chemin("folder.txt"));
+}
+
+TEST_F(Destruction, AFormClosedWhileTheQuestionStandsIsKeptUntilTheAnswer) {
+    ChargerMesures("a.txt", 20);
+    const QPointer<Trace> fiche = &v.Fiche();
+    v.etabli.dialogues.pendantBoite = [&](const auto&) {
+        fiche->close();
+        QCoreApplication::processEvents();
+        EXPECT_TRUE(fiche);
+    };
+    Cliquer(v.Ui().Detruire);
+    EXPECT_FALSE(QFile::exists(Chemin("a.txt")));
+    EXPECT_TRUE(Fautes().empty());
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(fiche);
 }
 
 TEST_F(Destruction, DeletesTheFileThatWasAskedAbout) {

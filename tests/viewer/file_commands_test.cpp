@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QPointer>
+
 #include "viewer/viewer_bench.h"
 
 namespace bornika {
@@ -43,6 +45,51 @@ TEST(CommandOpen, CancelledKeepsWhatIsOnTheScreenAndEmptiesTheDialogsName) {
     EXPECT_EQ(v.Fiche().NomFichierCourant, v.etabli.Chemin("a.txt"));
     EXPECT_EQ(v.Fiche().NomDialogue, QString());
     EXPECT_EQ(v.Modele().RevisionSeries(), revision);
+}
+
+TEST(CommandOpen, LoadsSeveralFilesIntoOneViewAndNamesTheFormAfterTheirFolder) {
+    Visionneuse v;
+    v.EcrireEnregistrement("a.txt", 30);
+    v.EcrireEnregistrement("b.txt", 20);
+    const QString noms = v.etabli.systeme.dossier + QChar(u'\0') + "b.txt" + QChar(u'\0') + "a.txt";
+    v.etabli.dialogues.fichiers = {noms};
+    v.Fiche().show();
+    v.Ui().CommandOpen->click();
+    EXPECT_EQ(v.Fiche().NomFichierCourant, noms);
+    EXPECT_EQ(v.Fiche().windowTitle(), v.etabli.systeme.dossier);
+    ASSERT_EQ(v.Modele().NombreSeries(), 4);
+    EXPECT_EQ(v.Modele().Serie(0).Nombre(), 20);
+    EXPECT_EQ(v.Modele().Serie(2).Nombre(), 30);
+}
+
+TEST(CommandOpen, ShowsTheNewFileInPlaceOfTheOldOne) {
+    Visionneuse v;
+    v.EcrireEnregistrement("a.txt", 30);
+    v.EcrireEnregistrement("b.txt", 20);
+    v.Fiche().show();
+    v.Ouvrir("a.txt");
+    const int series = v.Modele().NombreSeries();
+    v.Ouvrir("b.txt");
+    EXPECT_EQ(v.Modele().NombreSeries(), series);
+    EXPECT_EQ(v.Modele().Serie(0).Nombre(), 20);
+    EXPECT_EQ(v.Fiche().windowTitle(), v.etabli.Chemin("b.txt"));
+}
+
+TEST(CommandOpen, OfAFormClosedWhileTheDialogStandsLetsTheFormGo) {
+    Visionneuse v;
+    v.EcrireEnregistrement("a.txt");
+    const QPointer<Trace> fiche = &v.Fiche();
+    fiche->show();
+    v.etabli.dialogues.pendantDemande = [&](const DemandeFichier&) {
+        fiche->close();
+        QCoreApplication::processEvents();
+        EXPECT_TRUE(fiche);
+    };
+    v.etabli.dialogues.fichiers = {v.etabli.Chemin("a.txt")};
+    fiche->ui->CommandOpen->click();
+    EXPECT_TRUE(v.etabli.fautes.empty());
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(fiche);
 }
 
 TEST(CommandOpen, FindsUpperCaseNames) {

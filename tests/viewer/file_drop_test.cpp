@@ -134,6 +134,15 @@ TEST_F(FileDrop, OnATextBoxOpensTheRecordingInsteadOfWritingItsAddress) {
     EXPECT_EQ(v.Ui().Commentaires->toPlainText(), QString());
 }
 
+TEST_F(FileDrop, OnTheChartOpensTheRecordingToo) {
+    Montrer("b.txt");
+    Prendre({"a.txt"});
+    EXPECT_TRUE(Deposer(*v.Ui().TChart1));
+    Attendre();
+    EXPECT_EQ(v.Fiche().NomFichierCourant, v.etabli.Chemin("a.txt"));
+    EXPECT_EQ(v.Modele().Serie(0).Nombre(), 30);
+}
+
 TEST_F(FileDrop, LeavesTextsToTheTextBoxes) {
     Montrer("a.txt");
     donnees.setText("valve closed");

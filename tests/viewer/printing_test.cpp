@@ -58,6 +58,14 @@ TEST_F(Impression, ShowsOnePreviewWithTheNameOfTheProductOnALyingPage) {
     EXPECT_TRUE(v.etabli.dialogues.boites.empty());
 }
 
+TEST_F(Impression, ThePreviewIsNamedAfterTheProductOfNow) {
+    v.ecran.etat.NomKpod = "other";
+    Imprimer();
+    ASSERT_EQ(Apercus().size(), 1U);
+    EXPECT_EQ(Apercus()[0].titre, "BORNIKA other");
+    EXPECT_EQ(Page().titre, "BORNIKA other");
+}
+
 TEST_F(Impression, ThePageHoldsTitleAxesLegendAndTimes) {
     Imprimer();
     const Papier page = Page();
@@ -209,6 +217,14 @@ TEST_F(Impression, TheTitleIsMadeAnewFromTheCommentOfNow) {
     EXPECT_FALSE(Page().texte.contains("burst main"));
 }
 
+TEST_F(Impression, WithoutACommentThePageHasNoTitle) {
+    v.Ui().Commentaires->clear();
+    Imprimer();
+    EXPECT_EQ(v.Modele().titre, QStringList{QString()});
+    EXPECT_TRUE(Page().texte.contains("Pression"));
+    EXPECT_FALSE(Page().texte.contains("burst main"));
+}
+
 TEST_F(Impression, TwoLinesOfCommentAreJoinedToOneTitle) {
     v.Ui().Commentaires->setPlainText("burst main \nvalve V12");
     Imprimer();
@@ -221,6 +237,22 @@ TEST_F(Impression, OfThreeLinesOfCommentTheFirstIsTheTitle) {
     EXPECT_TRUE(Page().texte.contains("burst main"));
     EXPECT_FALSE(Page().texte.contains("valve"));
     EXPECT_FALSE(Page().texte.contains("leak"));
+}
+
+TEST_F(Impression, OfAnEmptyRecordingIsAFrameWhoseStatisticsNameNoCurve) {
+    Visionneuse vide;
+    vide.etabli.Ecrire("empty.txt", "");
+    vide.Fiche().show();
+    vide.Ouvrir("empty.txt");
+    ASSERT_EQ(vide.Modele().NombreSeries(), 0);
+    vide.Ui().MinMaxMoy->setChecked(true);
+    vide.etabli.dialogues.pendantApercu = [&](const DemandeApercu& demande) {
+        ImprimerDans(demande, vide.etabli.Chemin("paper.pdf"));
+    };
+    vide.Ui().Imprimer->click();
+    EXPECT_TRUE(vide.etabli.fautes.empty());
+    EXPECT_TRUE(TexteStatistiques(vide.Fiche()).startsWith(" : Min= "));
+    EXPECT_EQ(Papier(vide.etabli.Chemin("paper.pdf")).pages, 1);
 }
 
 TEST_F(Impression, AZoomedChartIsPrintedAsItStands) {
