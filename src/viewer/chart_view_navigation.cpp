@@ -21,6 +21,11 @@ QCPRange Decaler(const QCPRange& etendue, const QCPRange& entiere, double ecart)
     return etendue + std::clamp(ecart, avant, apres);
 }
 
+/// The black cursor of "no cursor" is not to be seen on a black ground.
+bool SeVoit(const OutilGraphe& curseur, const Apparence& apparence) {
+    return VersQColor(curseur.crayon) != apparence.cadre;
+}
+
 }  // namespace
 
 void VueGraphe::ZoomerSur(const QRect& zone) {
@@ -75,12 +80,13 @@ double VueGraphe::CentreZoom() const {
     const QCPRange& montree = xAxis->range();
     const OutilGraphe* curseur = modele_ ? CurseurMobile(std::as_const(*modele_)) : nullptr;
     const bool visible = curseur && curseur->point >= 0 && montree.contains(curseur->x) &&
-                         VersQColor(curseur->crayon) != apparence_.cadre;
+                         SeVoit(*curseur, apparence_);
     return visible ? curseur->x : montree.center();
 }
 
 bool VueGraphe::AvancerCurseur(PasCurseur pas) {
-    if (!modele_ || !CurseurMobile(*modele_)) return false;
+    const OutilGraphe* curseur = modele_ ? CurseurMobile(std::as_const(*modele_)) : nullptr;
+    if (!curseur || !SeVoit(*curseur, apparence_)) return false;
     animation.Terminer();
     if (bornika::AvancerCurseur(*modele_, pas, (Defilement() & 1) != 0)) {
         MontrerCurseur();

@@ -286,6 +286,18 @@ TEST(ChartKeys, WithoutACursorItsKeysAreLeftToOthers) {
     EXPECT_EQ(moves.count(), 0);
 }
 
+TEST(ChartKeys, ACursorThatCannotBeSeenLeavesItsKeysToOthers) {
+    Scene scene;
+    const OutilGraphe& curseur = scene.PoserCurseur(0, 0);
+    scene.SurvolerTemps(200);
+    const int avant = curseur.point;
+    QSignalSpy moves(&scene.vue, &VueGraphe::SourisBougee);
+    EXPECT_FALSE(Presser(scene, Qt::Key_End));
+    EXPECT_FALSE(Presser(scene, Qt::Key_Right, Qt::ControlModifier));
+    EXPECT_EQ(curseur.point, avant);
+    EXPECT_EQ(moves.count(), 0);
+}
+
 TEST(ChartKeys, DoNothingOnAnEmptyChart) {
     Scene scene;
     scene.PoserCurseur(0);
