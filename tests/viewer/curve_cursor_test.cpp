@@ -63,6 +63,18 @@ TEST_F(CurseurChoix, NoCursorKeepsTheToolWithABlackLine) {
     EXPECT_FALSE(v.Ui().Marques->isEnabled());
 }
 
+TEST_F(CurseurChoix, TheBlackToolGoesOnWithTheMouseButNotWithTheKeys) {
+    ChoisirCurseur(1);
+    Survoler(debutSecondes + 3);
+    ChoisirCurseur(0);
+    Survoler(debutSecondes + 8);
+    EXPECT_EQ(Dernier().x, debutSecondes + 8);
+    const QString lue = v.Ui().pression->text();
+    QTest::keyClick(&Vue(), Qt::Key_Right, Qt::ControlModifier);
+    EXPECT_EQ(Dernier().x, debutSecondes + 8);
+    EXPECT_EQ(v.Ui().pression->text(), lue);
+}
+
 TEST_F(CurseurChoix, ALoadGoesBackToNoCursorAndRaisesTheChoice) {
     ChoisirCurseur(1);
     Cliquer(v.Ui().Marques);
@@ -190,6 +202,68 @@ TEST_F(CurseurLecture, TheThirdCurveIsReadWithTheTitleOfTheFlowAndItsOwnColour) 
     EXPECT_EQ(Affiche(), (Lu{"1.", Date(debutSecondes), "M3/sec.", 65535}));
 }
 
+TEST_F(CurseurLecture, OfSeveralFilesTheThirdCurveIsReadInTheSameWay) {
+    Ecrire("a.txt", Montee(20));
+    Ecrire("b.txt", {{1.23456, 1}, {2.34567, 1}, {3.45678, 1}});
+    v.Fiche().show();
+    v.etabli.dialogues.fichiers = {v.etabli.systeme.dossier + QChar(u'\0') + "a.txt" +
+                                   QChar(u'\0') + "b.txt"};
+    v.Ui().CommandOpen->click();
+    ASSERT_EQ(v.Ui().Curseur->Nombre(), 5);
+    ASSERT_EQ(v.Modele().Serie(2).axe, SerieGraphe::Axe::Gauche);
+    ChoisirCurseur(3);
+    Survoler(debutSecondes + 1);
+    EXPECT_EQ(Affiche(), (Lu{"2.3457", Date(debutSecondes + 1), "M3/sec.", Vue().CouleurSerie(2)}));
+}
+
+TEST_F(CurseurLecture, TheTitleGoesBackToThePressureWithItsCurveAndWithoutACursor) {
+    Charger(Montee(20));
+    for (const int index : {1, 0}) {
+        ChoisirCurseur(2);
+        Survoler(debutSecondes + 3);
+        ASSERT_EQ(Affiche().etiquette, "M3/sec.");
+        ChoisirCurseur(index);
+        EXPECT_EQ(Affiche().etiquette, "M3/sec.") << "until the mouse moves";
+        Survoler(debutSecondes + 4);
+        EXPECT_EQ(Affiche().etiquette, "Pression") << index;
+        EXPECT_EQ(Affiche().couleur, Vue().CouleurSerie(0)) << index;
+    }
+}
+
+TEST_F(CurseurLecture, AColourGivenToTheCurveIsThatOfItsValue) {
+    Charger(Montee(20));
+    for (int index = 0; index <= 3; ++index) {
+        const int serie = std::max(index - 1, 0);
+        const Couleur couleur = 0x102030U + static_cast<Couleur>(index);
+        v.Modele().Serie(serie).couleur = couleur;
+        ChoisirCurseur(index);
+        Survoler(debutSecondes + 3);
+        EXPECT_EQ(Affiche().couleur, couleur) << index;
+    }
+}
+
+TEST_F(CurseurLecture, FollowsTheKeysOfTheCursorToo) {
+    Charger(Montee(20));
+    ChoisirCurseur(1);
+    Survoler(debutSecondes + 3);
+    QTest::keyClick(&Vue(), Qt::Key_Right, Qt::ControlModifier);
+    EXPECT_EQ(Affiche().pression, "5.");
+    EXPECT_EQ(Affiche().date, Date(debutSecondes + 4));
+    QTest::keyClick(&Vue(), Qt::Key_End);
+    EXPECT_EQ(Affiche().pression, "20.");
+}
+
+TEST_F(CurseurLecture, TheSecondSmoothedCurveIsNotRead) {
+    Charger(Montee(20));
+    ChoisirCurseur(1);
+    Survoler(debutSecondes + 3);
+    const Lu avant = Affiche();
+    ChoisirCurseur(4);
+    Survoler(debutSecondes + 8);
+    EXPECT_EQ(Dernier().x, debutSecondes + 8);
+    EXPECT_EQ(Affiche(), avant);
+}
+
 TEST_F(CurseurLecture, FromTheFourthCurveOnNothingChanges) {
     Ecrire("a.txt", Montee(20));
     Ecrire("b.txt", Montee(10));
@@ -241,6 +315,15 @@ TEST_F(CurseurLecture, TimesBeyondTenDigitsAreMilliseconds) {
     EXPECT_EQ(v.Ui().date->text(), "26/04/1970 17:46:40");
 }
 
+TEST_F(CurseurLecture, MillisecondsUnderTheMouseAreReadAsSuchWithoutACursorToo) {
+    constexpr qint64 debut = 1'700'000'000'000;
+    Charger(Montee(3), debut);
+    const QPoint souris = Survoler(debut + 1);
+    const double temps = Vue().xAxis->pixelToCoord(souris.x());
+    ASSERT_GT(temps, 9'999'999'999);
+    EXPECT_EQ(v.Ui().date->text(), Date(temps / 1000));
+}
+
 TEST_F(CurseurLecture, ACursorThatWasNotMovedReadsNothing) {
     Charger(Montee(20));
     Survoler(debutSecondes + 3);
@@ -287,6 +370,33 @@ TEST_F(CurseurLecture, DuringALoadACurveCanBeChosenAndRead) {
     v.Ui().Command_Refresh->click();
     EXPECT_EQ(lue, "4.");
     EXPECT_EQ(v.Ui().Curseur->Index(), 0);
+    EXPECT_TRUE(v.etabli.fautes.empty());
+}
+
+using AidesDeLecture = essai::Lectures;
+
+TEST_F(AidesDeLecture, ChangeNoFileAndShowNoBox) {
+    Charger(Montee(30));
+    const auto contenus = [&] {
+        QMap<QString, QByteArray> fichiers;
+        for (const QString& nom : v.etabli.Fichiers())
+            fichiers[nom] = v.etabli.Lire(nom);
+        return fichiers;
+    };
+    const QMap<QString, QByteArray> avant = contenus();
+    ASSERT_FALSE(avant["a.txt"].isEmpty());
+    ASSERT_FALSE(avant["config.xml"].isEmpty());
+    for (int index = 4; index >= 0; --index) {
+        ChoisirCurseur(index);
+        Survoler(debutSecondes + 3 + index);
+        Cliquer(v.Ui().Marques);
+        Cliquer(v.Ui().MinMaxMoy);
+        v.Ui().Lissage->setValue(20 + index);
+        Zoomer(debutSecondes + 1.5, debutSecondes + 20.5);
+        Vue().AnnulerZoom();
+    }
+    EXPECT_EQ(contenus(), avant);
+    EXPECT_TRUE(v.etabli.dialogues.boites.empty());
     EXPECT_TRUE(v.etabli.fautes.empty());
 }
 

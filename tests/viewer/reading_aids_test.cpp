@@ -66,6 +66,29 @@ TEST_F(MinMax, WithoutACursorPressureAndFlowArePooledOnTheLeftAxis) {
     EXPECT_EQ(Maximum().axe, AxeLigne::Gauche);
 }
 
+TEST_F(MinMax, ARecordingWithoutAFlowHasThoseOfItsPressureAlone) {
+    Charger({{2, 0}, {4, 0}, {6, 0}});
+    ASSERT_EQ(v.Modele().Serie(1).Nombre(), 0);
+    Allumer();
+    const QStringList pression{"2.00", "4.00", "6.00"};
+    EXPECT_EQ(Textes(), pression);
+    ChoisirCurseur(2);
+    EXPECT_EQ(Textes(), pression);
+    EXPECT_EQ(Maximum().axe, AxeLigne::Gauche);
+    EXPECT_TRUE(Maximum().crayonVisible);
+}
+
+TEST_F(MinMax, TheirLinesAreCountedFromTheLastTool) {
+    Charger(Montee(9));
+    v.Modele().RetirerOutil(0);
+    ChoisirCurseur(1);
+    Allumer();
+    ASSERT_EQ(v.Modele().NombreOutils(), 5);
+    EXPECT_EQ(v.Modele().Outil(1).valeur, 5);
+    EXPECT_EQ(v.Modele().Outil(2).valeur, 1);
+    EXPECT_EQ(v.Modele().Outil(3).valeur, 9);
+}
+
 TEST_F(MinMax, TakeInTheCurvesOfOtherFiles) {
     Ecrire("a.txt", Montee(9));
     Ecrire("b.txt", {{40, 1}, {60, 1}});
@@ -129,6 +152,16 @@ TEST_F(MinMax, FollowTheZoomAndItsUndoing) {
     EXPECT_EQ(Textes(), QStringList({"1.00", "5.00", "9.00"}));
 }
 
+TEST_F(MinMax, FollowScrolling) {
+    Charger(Montee(9));
+    ChoisirCurseur(1);
+    Allumer();
+    Zoomer(debutSecondes + 0.5, debutSecondes + 4.5);
+    EXPECT_EQ(Textes(), QStringList({"2.00", "3.50", "5.00"}));
+    Vue().Defiler(0.5, 0);
+    EXPECT_EQ(Textes(), QStringList({"4.00", "5.50", "7.00"}));
+}
+
 TEST_F(MinMax, FollowThePages) {
     Charger(Montee(250));
     ChoisirCurseur(1);
@@ -166,6 +199,36 @@ TEST_F(MinMax, WithoutAVisiblePointLinesAndBoxesKeepWhatTheyShow) {
     EXPECT_EQ(Textes(), textes);
     EXPECT_EQ(Lignes(), lignes);
     EXPECT_TRUE(v.etabli.fautes.empty());
+}
+
+TEST_F(MinMax, WithoutAVisiblePointTheirLinesAreShownAllTheSame) {
+    Charger(Montee(9));
+    v.Modele().MontrerPlage({0, 10});
+    Allumer();
+    EXPECT_EQ(Textes(), QStringList({"", "", ""}));
+    for (const OutilGraphe* ligne : {&Minimum(), &Moyenne(), &Maximum()})
+        EXPECT_TRUE(ligne->crayonVisible);
+}
+
+TEST_F(MinMax, OfACurveThatIsGoneAreThoseThatStand) {
+    Charger(Montee(9));
+    ChoisirCurseur(4);
+    Allumer();
+    const QStringList avant = Textes();
+    v.Modele().RetirerSerie(3);
+    Zoomer(debutSecondes + 1.5, debutSecondes + 4.5);
+    EXPECT_EQ(Textes(), avant);
+    EXPECT_TRUE(v.etabli.fautes.empty());
+}
+
+TEST_F(MinMax, SwitchedOffEachRedrawHidesTheirLines) {
+    Charger(Montee(9));
+    const auto lignes = {&Minimum(), &Moyenne(), &Maximum()};
+    for (OutilGraphe* ligne : lignes)
+        ligne->crayonVisible = true;
+    Vue().Repaint();
+    for (const OutilGraphe* ligne : lignes)
+        EXPECT_FALSE(ligne->crayonVisible);
 }
 
 TEST_F(MinMax, SwitchedOffTheyComputeNothing) {
@@ -231,6 +294,17 @@ TEST_F(MinMax, WithoutATemplateNothingIsShownAndNothingFails) {
     Allumer();
     EXPECT_TRUE(v.etabli.fautes.empty());
     EXPECT_TRUE(v.etabli.dialogues.boites.empty());
+}
+
+TEST_F(MinMax, WithoutATemplateEachRedrawClearsTheMarksToo) {
+    ASSERT_TRUE(QFile::remove(v.etabli.Chemin("BORNIKA.TEE")));
+    Charger(Montee(9));
+    ChoisirCurseur(1);
+    Cliquer(v.Ui().Marques);
+    ASSERT_TRUE(v.Modele().Serie(0).marques);
+    Allumer();
+    EXPECT_FALSE(v.Ui().Marques->isChecked());
+    EXPECT_FALSE(v.Modele().Serie(0).marques);
 }
 
 TEST_F(MinMax, DuringALoadTheyWorkOnThePointsSoFar) {
@@ -326,6 +400,22 @@ TEST_F(Lisseur, TheWheelAwayFromTheHandSmoothsMore) {
                      Qt::NoModifier, Qt::NoScrollPhase, false);
     QCoreApplication::sendEvent(&barre, &roue);
     EXPECT_GT(barre.value(), 10);
+}
+
+TEST_F(Lisseur, ReachesFromTheCurveItselfToAHundredPoints) {
+    std::vector<essai::Mesure> mesures(300, {4, 1});
+    mesures[150].pression = 40;
+    Charger(mesures);
+    Activer(true, true);
+    v.Ui().Lissage->setValue(500);
+    EXPECT_EQ(Periode(2), 100);
+    EXPECT_EQ(Periode(3), 100);
+    EXPECT_NEAR(v.Modele().Serie(2).Y()[150], 4.36, 1e-9);
+    v.Ui().Lissage->setValue(-3);
+    EXPECT_EQ(Periode(2), 1);
+    const std::span<const double> lissee = v.Modele().Serie(2).Y();
+    const std::span<const double> source = v.Modele().Serie(0).Y();
+    EXPECT_TRUE(std::equal(lissee.begin(), lissee.end(), source.begin(), source.end()));
 }
 
 TEST_F(Lisseur, AHiddenCurveKeepsItsPeriodUntilItIsShownAndTheSliderMovedAgain) {

@@ -76,6 +76,23 @@ TEST(TraceForm, ComesUpEmpty) {
     EXPECT_TRUE(v.Ui().Sortir->isVisible());
 }
 
+TEST(TraceForm, ReadingAidsComeUpSwitchedOffWithTheirCaptions) {
+    Visionneuse v;
+    const auto& ui = v.Ui();
+    EXPECT_EQ(ui.MinMaxMoy->text(), "Min/Max");
+    EXPECT_EQ(ui.LabelMin->text(), "Min");
+    EXPECT_EQ(ui.LabelMax->text(), "Max");
+    EXPECT_EQ(ui.LabelMoyenne->text(), "Moy.");
+    EXPECT_EQ(ui.LabelCurseur->text(), "Curseur");
+    EXPECT_EQ(ui.LabelLissage->text(), "Lissage");
+    EXPECT_FALSE(ui.MinMaxMoy->isChecked());
+    EXPECT_FALSE(ui.Marques->isChecked());
+    EXPECT_FALSE(ui.Marques->isEnabled());
+    EXPECT_EQ(ui.Lissage->value(), 10);
+    for (const QLineEdit* boite : {ui.Min, ui.Max, ui.Moy, ui.pression, ui.date})
+        EXPECT_EQ(boite->text(), QString()) << boite->objectName().toStdString();
+}
+
 TEST(TraceForm, ZoomIsAnimatedInTenSteps) {
     Visionneuse v;
     EXPECT_TRUE(v.Ui().TChart1->animation.animee);
