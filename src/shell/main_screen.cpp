@@ -32,6 +32,7 @@ MainScreen::MainScreen(Systeme& leSysteme, QWidget* parent)
     ui->Image1->setPixmap(QPixmap(QStringLiteral(":/images/main.png")));
     ui->DTPicker1->setDisplayFormat(systeme.regional.dateCourte);
     GarderLaPlace(*ui->ProgressBar2);
+    GarderLaPlace(*ui->Infos);
     GarderLaPlace(*ui->LireValeurs);
     GarderLaPlace(*ui->LireSD);
     RetenirCaptions(*this);
