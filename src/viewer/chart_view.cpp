@@ -303,7 +303,7 @@ void VueGraphe::BasculerSerie(int serie) {
 }
 
 std::optional<QPointF> VueGraphe::PositionSouris(int serie) const {
-    if (!souris_ || !modele_ || serie < 0 || serie >= modele_->NombreSeries()) return {};
+    if (!souris_ || !PeutNaviguer() || serie < 0 || serie >= modele_->NombreSeries()) return {};
     const bool gauche = modele_->Serie(serie).axe == SerieGraphe::Axe::Gauche;
     return QPointF(xAxis->pixelToCoord(souris_->x()),
                    (gauche ? yAxis : yAxis2)->pixelToCoord(souris_->y()));

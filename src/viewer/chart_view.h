@@ -44,7 +44,8 @@ class VueGraphe : public QCustomPlot {
     void Repaint();
 
     /// Where the mouse was last, in the time of the bottom axis and in values of the vertical axis
-    /// of a series. Nothing before it came over the chart, or without that series.
+    /// of a series. Nothing before it came over the chart, without that series, or on an empty
+    /// chart.
     std::optional<QPointF> PositionSouris(int serie) const;
 
     /// Shows what the model says (the whole range or the present page) with automatic vertical

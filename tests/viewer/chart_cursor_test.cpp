@@ -208,6 +208,9 @@ TEST(ChartMouse, IsNowhereBeforeItsFirstMoveAndOnACurveThatIsNotThere) {
     EXPECT_TRUE(scene.vue.PositionSouris(1).has_value());
     EXPECT_FALSE(scene.vue.PositionSouris(2).has_value());
     EXPECT_FALSE(scene.vue.PositionSouris(-1).has_value());
+    scene.modele.FixerPlage(10, 0);
+    scene.vue.RemettreEchelles();
+    EXPECT_FALSE(scene.vue.PositionSouris(0).has_value()) << "no scale, no value";
 }
 
 TEST(ChartMouse, HasItsPlaceInTimeAndInTheUnitOfEachCurvesAxis) {
