@@ -1,7 +1,9 @@
 // Export of a recording of 20,000,000 bytes by the operation of the button, against a plain loop
-// that reads, splits and writes the same lines. Both in turn, and both files are compared.
+// that reads, splits and writes the same lines. Both bring their file to the disk, as the program
+// does with every file that it closes; both run in turn, and both files are compared.
 
 #include <benchmark/benchmark.h>
+#include <unistd.h>
 
 #include <QApplication>
 #include <QDir>
@@ -109,7 +111,7 @@ void BoucleNue(const Banc& banc, double debutPortee, double finPortee) {
         lignes.clear();
     }
     cible.write(lignes.data(), static_cast<qint64>(lignes.size()));
-    cible.close();
+    if (!cible.flush() || ::fsync(cible.handle()) != 0) std::abort();
 }
 
 double Secondes(const QElapsedTimer& duree) {
@@ -145,7 +147,7 @@ void Export20Mo(benchmark::State& etat) {
     etat.counters["ratio"] = exportation / nue;
     etat.counters["bar"] = 2;
 }
-BENCHMARK(Export20Mo)->UseManualTime()->Iterations(15)->Unit(benchmark::kMillisecond);
+BENCHMARK(Export20Mo)->UseManualTime()->Iterations(40)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 

@@ -20,7 +20,7 @@ namespace bornika {
 
 namespace {
 
-constexpr qsizetype tailleTampon = 1 << 16;
+constexpr std::size_t tailleTampon = 1 << 16;
 
 // The files being written now. They live in the thread of the interface, as the program does.
 std::vector<FichierTexteEcrit*>& Ouverts() {
@@ -78,7 +78,7 @@ void FichierTexteEcrit::EcrireLigne(QStringView texte) {
 }
 
 void FichierTexteEcrit::EcrireLigneOctets(QByteArrayView octets) {
-    tampon_.append(octets);
+    Ajouter(octets);
     Deposer("\r\n");
 }
 
@@ -105,25 +105,28 @@ void FichierTexteEcrit::ViderTous() noexcept {
         ignorer([fichier] { fichier->Vider(); });
 }
 
+void FichierTexteEcrit::Ajouter(QByteArrayView octets) {
+    tampon_.append(octets.data(), static_cast<std::size_t>(octets.size()));
+}
+
 void FichierTexteEcrit::Deposer(QByteArrayView octets) {
-    tampon_.append(octets);
+    Ajouter(octets);
     if (tampon_.size() >= tailleTampon || Instant() - dernierVidage_ >= delai_) Vider();
 }
 
 void FichierTexteEcrit::Vider() {
     dernierVidage_ = Instant();
-    qsizetype ecrits = 0;
+    std::size_t ecrits = 0;
     int erreur = 0;
     while (ecrits < tampon_.size() && erreur == 0) {
         // The toolkit's own unbuffered write does not tell why it failed.
-        const ssize_t n = ::write(descripteur_, tampon_.constData() + ecrits,
-                                  static_cast<std::size_t>(tampon_.size() - ecrits));
-        if (n > 0) ecrits += n;
+        const ssize_t n = ::write(descripteur_, tampon_.data() + ecrits, tampon_.size() - ecrits);
+        if (n > 0) ecrits += static_cast<std::size_t>(n);
         if (n < 0 && errno != EINTR) erreur = errno;
     }
     // What is left waits for the next attempt, so that no line is written twice or cut in the
     // middle.
-    tampon_.remove(0, ecrits);
+    tampon_.erase(0, ecrits);
     if (erreur != 0) Echouer(erreur);
 }
 

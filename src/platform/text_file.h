@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QString>
 #include <chrono>
+#include <string>
 
 /// 8-bit text files: Windows-1252, CR LF at the end of written lines, every line end accepted in
 /// reading.
@@ -39,12 +40,13 @@ class FichierTexteEcrit {
     static void ViderTous() noexcept;
 
   private:
+    void Ajouter(QByteArrayView octets);
     void Deposer(QByteArrayView octets);
     void Vider();
 
     QString chemin_;
     int descripteur_ = -1;
-    QByteArray tampon_;
+    std::string tampon_;
     std::chrono::milliseconds delai_;
     /// By a clock of its own.
     std::chrono::nanoseconds dernierVidage_;

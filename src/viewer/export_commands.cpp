@@ -11,6 +11,7 @@
 #include "platform/named_fault.h"
 #include "platform/numbers.h"
 #include "platform/text_file.h"
+#include "platform/vector_registers.h"
 #include "shell/main_screen.h"
 #include "ui_trace_form.h"
 #include "viewer/comments.h"
@@ -132,6 +133,8 @@ void EcrireVersCible(Trace& trace, QPushButton& bouton, const QString& extension
     const QString cible = DemanderCible(trace, extension);
     if (cible.isEmpty()) return;
     bouton.setEnabled(false);
+    // The dialog painted.
+    LibererRegistresVectoriels();
     ecriture(cible, Sources(trace));
     trace.setWindowTitle(cible);
     bouton.setEnabled(true);

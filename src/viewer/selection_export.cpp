@@ -28,22 +28,34 @@ const char* Chercher(char octet, const char* debut, const char* fin) {
         std::memchr(debut, octet, static_cast<std::size_t>(fin - debut)));
 }
 
+/// End of the field that starts there.
+const char* FinDuChamp(const char* debut, const char* fin) {
+    // Most fields are shorter than a call.
+    constexpr std::ptrdiff_t court = 8;
+    const char* const proche = fin - debut > court ? debut + court : fin;
+    for (; debut != proche; ++debut)
+        if (*debut == finChamp) return debut;
+    const char* const loin = Chercher(finChamp, debut, fin);
+    return loin ? loin : fin;
+}
+
 template <class Champs>
 auto Champ(const Champs& champs, int position) {
     if (position >= static_cast<int>(champs.size())) LeverFaute(numero_faute::indice);
     return champs[position];
 }
 
-/// The first fields of a line, as many as tell which of them the csv takes.
+/// The first fields of a line, as many as tell which of them the csv takes. The line is given from
+/// behind its time, so that field 0 is empty.
 class ChampsLigne {
   public:
-    explicit ChampsLigne(QByteArrayView ligne) {
-        const char* debut = ligne.data();
-        const char* const fin = debut + ligne.size();
+    explicit ChampsLigne(QByteArrayView suite) {
+        const char* debut = suite.data();
+        const char* const fin = debut + suite.size();
         while (nombre_ < maximum) {
-            const char* const finCourant = Chercher(finChamp, debut, fin);
-            champs_[nombre_++] = {debut, finCourant ? finCourant : fin};
-            if (!finCourant) break;
+            const char* const finCourant = FinDuChamp(debut, fin);
+            champs_[nombre_++] = {debut, finCourant};
+            if (finCourant == fin) break;
             debut = finCourant + 1;
         }
     }
@@ -131,9 +143,10 @@ std::optional<QByteArrayView> LecteurSelection::Couper() {
 std::optional<QByteArrayView> LecteurSelection::Suivante() {
     try {
         while (const auto ligne = Couper()) {
-            if (!EstGardee(*ligne)) continue;
-            const QByteArrayView entiere = SansSautDeLigne(*ligne);
-            return demande_.format == FormatSelection::Csv ? Colonnes(entiere) : entiere;
+            const auto suite = SuiteGardee(*ligne);
+            if (!suite) continue;
+            if (demande_.format == FormatSelection::Csv) return Colonnes(SansSautDeLigne(*suite));
+            return SansSautDeLigne(*ligne);
         }
     } catch (const FauteExecution& faute) {
         throw FauteExecution(faute.numero(),
@@ -142,7 +155,7 @@ std::optional<QByteArrayView> LecteurSelection::Suivante() {
     return {};
 }
 
-bool LecteurSelection::EstGardee(QByteArrayView ligne) const {
+std::optional<QByteArrayView> LecteurSelection::SuiteGardee(QByteArrayView ligne) const {
     const char* place = ligne.data();
     const char* const fin = place + ligne.size();
     // In a source with CR LF the line feed stands in front of the time.
@@ -153,19 +166,20 @@ bool LecteurSelection::EstGardee(QByteArrayView ligne) const {
     NombreLu temps = nombres_.LireTemps(place, fin);
     if (!temps.numerique)
         temps.valeur = EnDouble(Depuis8Bits(QByteArrayView(debut, place)), demande_.regional);
-    return std::any_of(demande_.portees.begin(), demande_.portees.end(),
-                       [&](const Plage& portee) { return portee.Contient(temps.valeur); });
+    for (const Plage& portee : demande_.portees)
+        if (portee.Contient(temps.valeur)) return QByteArrayView(place, fin);
+    return {};
 }
 
 QByteArrayView LecteurSelection::SansSautDeLigne(QByteArrayView ligne) {
-    if (ligne.front() == '\n') ligne = ligne.sliced(1);
+    if (ligne.startsWith('\n')) ligne = ligne.sliced(1);
     if (!Chercher('\n', ligne.data(), ligne.data() + ligne.size())) return ligne;
     entiere_ = ligne.toByteArray().replace('\n', "");
     return entiere_;
 }
 
-QByteArrayView LecteurSelection::Colonnes(QByteArrayView ligne) {
-    const ChampsLigne champs(ligne);
+QByteArrayView LecteurSelection::Colonnes(QByteArrayView suite) {
+    const ChampsLigne champs(suite);
     const int troisieme = champs.size() <= champsAppareil ? champComptage : champDebit;
     colonnes_.clear();
     for (const int position : {champDate, champPression, troisieme}) {

@@ -55,9 +55,10 @@ class LecteurSelection {
 
   private:
     std::optional<QByteArrayView> Couper();
-    bool EstGardee(QByteArrayView ligne) const;
+    /// What stands behind the time of a line that goes out.
+    std::optional<QByteArrayView> SuiteGardee(QByteArrayView ligne) const;
     QByteArrayView SansSautDeLigne(QByteArrayView ligne);
-    QByteArrayView Colonnes(QByteArrayView ligne);
+    QByteArrayView Colonnes(QByteArrayView suite);
 
     const DemandeSelection& demande_;
     LecteurNombres nombres_;
