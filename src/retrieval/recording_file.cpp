@@ -28,7 +28,12 @@ void AjouterSurDeuxChiffres(QByteArray& ligne, int valeur) {
 
 template <class Ecriture>
 void EcrireNomme(const FichierTexteEcrit& fichier, Ecriture&& ecriture) {
-    nommer(QFileInfo(fichier.Chemin()).fileName(), ecriture);
+    // The name is made when it is needed: a download writes hundreds of thousands of lines.
+    try {
+        ecriture();
+    } catch (const FauteExecution&) {
+        nommer(QFileInfo(fichier.Chemin()).fileName(), [] { throw; });
+    }
 }
 
 }  // namespace

@@ -61,6 +61,10 @@ std::span<const double> SerieGraphe::Y() const {
     return deduites_;
 }
 
+void SerieGraphe::CommencerSuite() {
+    suites_.push_back(static_cast<int>(x_.size()));
+}
+
 std::span<const int> SerieGraphe::Suites() const {
     if (!EstFonction()) return suites_;
     const auto source = Source();

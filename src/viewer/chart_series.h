@@ -70,7 +70,7 @@ class SerieGraphe {
     }
     void Reserver(std::size_t points);
     void AjouterPoint(double x, double y, MagasinEtiquettes::Place etiquette) {
-        if (x_.empty() || x < x_.back()) suites_.push_back(static_cast<int>(x_.size()));
+        if (x_.empty() || x < x_.back()) CommencerSuite();
         x_.push_back(x);
         y_.push_back(y);
         places_.push_back(etiquette);
@@ -94,6 +94,9 @@ class SerieGraphe {
     std::uint64_t Revision() const;
 
   private:
+    /// A new run of x in order begins with the next point. Out of line: it is rare, and the loop of
+    /// the loader is not.
+    void CommencerSuite();
     std::shared_ptr<SerieGraphe> Source() const { return sourceFaible_.lock(); }
     bool EstFonction() const { return typeFonction_ != 0; }
 
