@@ -4,6 +4,7 @@
 #include "logger/parameter_writing.h"
 #include "platform/code_page.h"
 #include "platform/numbers.h"
+#include "support/fault_number.h"
 #include "writing_bench.h"
 
 namespace bornika::essai {
@@ -333,26 +334,14 @@ TEST(EcritureInterrompue, NoiseInEveryAnswerEndsWithoutFault) {
 TEST(EcritureInterrompue, APeriodThatFitsNoFrameIsAFaultBeforeAnyIsSent) {
     BancEcriture banc;
     banc.ui.ListePeriodeEchantillonage->FixerDonnee(8, 65536);
-    int numero = 0;
-    try {
-        Ecrire(banc.poste);
-    } catch (const FauteExecution& faute) {
-        numero = faute.numero();
-    }
-    EXPECT_EQ(numero, numero_faute::depassement);
+    EXPECT_EQ(NumeroDeFaute([&] { Ecrire(banc.poste); }), numero_faute::depassement);
     EXPECT_EQ(banc.Codes(), "28 ");
 }
 
 TEST(EcritureInterrompue, APeriodAfterTheTriggerThatFitsNoFrameIsAFaultBehindTwoOfThem) {
     BancEcriture banc;
     banc.ui.PeriodeTrigger->FixerDonnee(4, 65536);
-    int numero = 0;
-    try {
-        Ecrire(banc.poste);
-    } catch (const FauteExecution& faute) {
-        numero = faute.numero();
-    }
-    EXPECT_EQ(numero, numero_faute::depassement);
+    EXPECT_EQ(NumeroDeFaute([&] { Ecrire(banc.poste); }), numero_faute::depassement);
     EXPECT_EQ(banc.Codes(), "28 1 3 ");
     EXPECT_EQ(banc.Octets(44, 1), (std::vector<int>{138}));
 }

@@ -4,6 +4,7 @@
 
 #include "logger/parameter_reading.h"
 #include "platform/pointer_shape.h"
+#include "support/fault_number.h"
 #include "writing_bench.h"
 
 namespace bornika::essai {
@@ -366,13 +367,7 @@ TEST_F(MemoireEcrite, AnyOtherPositionWritesNoTimeBase) {
 
 TEST_F(MemoireEcrite, AWeightBeyondSinglePrecisionIsAFaultBehindTheSetUp) {
     ui.CoefImpulsion->setText(QStringLiteral("1E39"));
-    int numero = 0;
-    try {
-        Ecrire(banc.poste);
-    } catch (const FauteExecution& faute) {
-        numero = faute.numero();
-    }
-    EXPECT_EQ(numero, numero_faute::depassement);
+    EXPECT_EQ(NumeroDeFaute([&] { Ecrire(banc.poste); }), numero_faute::depassement);
     EXPECT_EQ(banc.Codes(), "28 1 3 7 11 12 30 ");
 }
 

@@ -2,9 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
-
 #include "logger_bench.h"
+#include "support/fault_number.h"
 
 namespace bornika::essai {
 namespace {
@@ -12,15 +11,6 @@ namespace {
 constexpr EchellePression seizeBar{0, 16};
 constexpr double bar = 10000;
 constexpr double psi = 145038;
-
-int NumeroDeFaute(const std::function<void()>& instruction) {
-    try {
-        instruction();
-    } catch (const FauteExecution& faute) {
-        return faute.numero();
-    }
-    return 0;
-}
 
 TEST(PressionDePoints, TiesRoundAwayFromZero) {
     EXPECT_EQ(PressionDePoints(4, seizeBar, bar, false), 0.063);

@@ -2,21 +2,11 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
-
 #include "logger_bench.h"
+#include "support/fault_number.h"
 
 namespace bornika::essai {
 namespace {
-
-int NumeroDeFaute(const std::function<void()>& instruction) {
-    try {
-        instruction();
-    } catch (const FauteExecution& faute) {
-        return faute.numero();
-    }
-    return 0;
-}
 
 /// A form on the scale of 16 bar, in bar, without threshold.
 class TramesDuFormulaire : public SurFormulaire {

@@ -4,6 +4,7 @@
 
 #include "platform/fault.h"
 #include "retrieval_bench.h"
+#include "support/fault_number.h"
 
 using namespace bornika;
 using namespace bornika::essai;
@@ -12,17 +13,6 @@ using simulateur::GenrePanne;
 namespace {
 
 using Trames = std::vector<std::vector<std::uint8_t>>;
-
-/// Number of the fault that the operation ends with, 0 for none.
-template <class Operation>
-int Faute(Operation&& operation) {
-    try {
-        operation();
-        return 0;
-    } catch (const FauteExecution& faute) {
-        return faute.numero();
-    }
-}
 
 struct FlashParLesControles : testing::Test {
     BancLecture banc;
@@ -66,7 +56,7 @@ struct LectureFlash : FlashParLesControles {
         LireLaFlash(banc.poste);
     }
     int FauteDe(const char* page, const char* offset) {
-        return Faute([&] { Lire(page, offset); });
+        return NumeroDeFaute([&] { Lire(page, offset); });
     }
 };
 
@@ -74,7 +64,7 @@ struct EcritureFlash : FlashParLesControles {
     int Ecrire(const char* octets, const char* page = "3", const char* offset = "8") {
         Adresser(page, offset);
         ui.resultat->setText(QString::fromLatin1(octets));
-        return Faute([&] { EcrireLaFlash(banc.poste); });
+        return NumeroDeFaute([&] { EcrireLaFlash(banc.poste); });
     }
 };
 
@@ -106,7 +96,7 @@ TEST(ValeursDuTexte, RoundsHalfToEvenAndFollowsTheLocalesSeparator) {
 TEST(ValeursDuTexte, FaultsAtTheFirstElementThatIsMissingOrNoNumber) {
     const Regional regional;
     const auto faute = [&](const char* texte) {
-        return Faute([&] { ValeursDuTexte(QString::fromLatin1(texte), regional); });
+        return NumeroDeFaute([&] { ValeursDuTexte(QString::fromLatin1(texte), regional); });
     };
     for (const char* texte : {"", " ", " 1 2 3 4 5 6 7", "1 2 3 4 5 6 7 8"})
         EXPECT_EQ(faute(texte), *texte == ' ' && texte[1] == 0 ? numero_faute::typeIncompatible
@@ -299,7 +289,7 @@ TEST_F(EcritureFlash, WhatAReadHasLeftCanBeSentAsItStands) {
     Mettre(3, 8, octets);
     Adresser("3", "8");
     LireLaFlash(banc.poste);
-    EXPECT_EQ(Faute([&] { EcrireLaFlash(banc.poste); }), numero_faute::indice);
+    EXPECT_EQ(NumeroDeFaute([&] { EcrireLaFlash(banc.poste); }), numero_faute::indice);
     EXPECT_EQ(enregistreur.journal.DeCode(18), (Trames{{18, 0, 0x65, 0x53, 0xF1, 0, 0xFE, 0}}));
 }
 
