@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <QCryptographicHash>
 #include <QFile>
 #include <QFileInfo>
 #include <cerrno>
@@ -11,14 +12,14 @@
 #include <utility>
 
 #include "platform/fault.h"
+#include "platform/file_faults.h"
 
 namespace bornika {
 
 namespace {
 
 [[noreturn]] void Echouer(int erreur) {
-    LeverFaute(erreur == ENOSPC || erreur == EDQUOT ? numero_faute::disquePlein
-                                                    : numero_faute::accesRefuse);
+    LeverFaute(NumeroOuverture(erreur));
 }
 
 // The file that a chain of symbolic links ends at: it is replaced, the links stay.
@@ -30,12 +31,14 @@ QString Cible(const QString& chemin) {
     return cible;
 }
 
-// Two programs may save in one folder at the same time, and one may prepare several files.
+// Two programs may save in one folder at the same time, and one may prepare several files. A long
+// name is shortened to its digest: whatever the folder takes as a name can be waited for.
 QByteArray NomAttente(const QFileInfo& place) {
-    return QFile::encodeName(QStringLiteral("%1/.bornika-%2-%3.tmp")
-                                 .arg(place.absolutePath())
-                                 .arg(getpid())
-                                 .arg(place.fileName()));
+    constexpr qsizetype nomLong = 200;
+    QByteArray nom = QFile::encodeName(place.fileName());
+    if (nom.size() > nomLong) nom = QCryptographicHash::hash(nom, QCryptographicHash::Md5).toHex();
+    return QFile::encodeName(place.absolutePath()) + "/.bornika-" + QByteArray::number(getpid()) +
+           '-' + nom + ".tmp";
 }
 
 // The new name itself must survive a power cut. A folder that cannot be synchronised is no failure:

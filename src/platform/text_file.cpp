@@ -15,6 +15,7 @@
 
 #include "platform/code_page.h"
 #include "platform/fault.h"
+#include "platform/file_faults.h"
 
 namespace bornika {
 
@@ -36,21 +37,8 @@ std::chrono::nanoseconds Instant() {
     return std::chrono::seconds(instant.tv_sec) + std::chrono::nanoseconds(instant.tv_nsec);
 }
 
-bool EstDisquePlein(int erreur) {
-    return erreur == ENOSPC || erreur == EDQUOT;
-}
-
-int NumeroOuverture(int erreur) {
-    if (EstDisquePlein(erreur)) return numero_faute::disquePlein;
-    if (erreur == ENOENT || erreur == ENOTDIR) return numero_faute::cheminIntrouvable;
-    if (erreur == ENAMETOOLONG) return numero_faute::nomDeFichier;
-    return numero_faute::accesRefuse;
-}
-
 [[noreturn]] void Echouer(int erreur) {
-    throw FauteExecution(
-        EstDisquePlein(erreur) ? numero_faute::disquePlein : numero_faute::accesRefuse,
-        qt_error_string(erreur));
+    throw FauteExecution(NumeroEcriture(erreur), qt_error_string(erreur));
 }
 
 }  // namespace

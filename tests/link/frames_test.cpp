@@ -7,6 +7,7 @@
 
 #include "link/command_table.h"
 #include "platform/fault.h"
+#include "support/fault_number.h"
 
 namespace bornika {
 namespace {
@@ -131,28 +132,20 @@ TEST(Frames, CommentIsCutAtFourteenCharactersAndPaddedWithBlanks) {
     EXPECT_EQ(TrameEcritCommentaire(1, "\xE9"), (Octets{11, 233, 32, 32, 32, 32, 32, 32}));
 }
 
-template <class Operation>
-int FauteDe(Operation operation) {
-    try {
-        operation();
-        return 0;
-    } catch (const FauteExecution& faute) {
-        return faute.numero();
-    }
-}
+using essai::NumeroDeFaute;
 
 TEST(Frames, WordsBeyondSixteenBitsAreFaults) {
-    EXPECT_EQ(FauteDe([] { TrameEcritDemarrage(0, 65536); }), numero_faute::depassement);
-    EXPECT_EQ(FauteDe([] { TrameEcritMode(0, -1, 0, 0, 0); }), numero_faute::depassement);
-    EXPECT_EQ(FauteDe([] { TrameLitEeprom(70000); }), numero_faute::depassement);
+    EXPECT_EQ(NumeroDeFaute([] { TrameEcritDemarrage(0, 65536); }), numero_faute::depassement);
+    EXPECT_EQ(NumeroDeFaute([] { TrameEcritMode(0, -1, 0, 0, 0); }), numero_faute::depassement);
+    EXPECT_EQ(NumeroDeFaute([] { TrameLitEeprom(70000); }), numero_faute::depassement);
 }
 
 TEST(Frames, BufferFrameNeedsSevenValues) {
     const std::vector<int> six{1, 2, 3, 4, 5, 6};
-    EXPECT_EQ(FauteDe([&] { TrameFlashTampon(six); }), numero_faute::indice);
+    EXPECT_EQ(NumeroDeFaute([&] { TrameFlashTampon(six); }), numero_faute::indice);
     const std::vector<int> un{1};
-    EXPECT_EQ(FauteDe([&] { TrameEcritPointEtalonnage(1, 1, un); }), numero_faute::indice);
-    EXPECT_EQ(FauteDe([&] { TrameEcritDateEtalonnage(date, 1, un); }), numero_faute::indice);
+    EXPECT_EQ(NumeroDeFaute([&] { TrameEcritPointEtalonnage(1, 1, un); }), numero_faute::indice);
+    EXPECT_EQ(NumeroDeFaute([&] { TrameEcritDateEtalonnage(date, 1, un); }), numero_faute::indice);
 }
 
 }  // namespace

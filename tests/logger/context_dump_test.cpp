@@ -8,6 +8,7 @@
 #include "logger/parameter_reading.h"
 #include "logger_bench.h"
 #include "platform/fault.h"
+#include "support/fault_number.h"
 
 namespace bornika::essai {
 namespace {
@@ -348,12 +349,8 @@ TEST_F(DumpDuContexte, ThatAFullDiskKeepsFromBeingWrittenIsToldAndTheProgramGoes
 
 TEST_F(DumpDuContexte, IsAFaultInAFolderThatIsGone) {
     Choisir(QStringLiteral("absent/dump.txt"));
-    try {
-        DumpContexte(banc.poste);
-        FAIL() << "no fault";
-    } catch (const FauteExecution& faute) {
-        EXPECT_EQ(faute.numero(), numero_faute::accesRefuse);
-    }
+    EXPECT_EQ(essai::NumeroDeFaute([&] { DumpContexte(banc.poste); }),
+              numero_faute::cheminIntrouvable);
     EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);
 }
 

@@ -13,6 +13,7 @@
 
 #include "platform/fault.h"
 #include "platform/program_folder.h"
+#include "support/fault_number.h"
 
 namespace bornika {
 namespace {
@@ -30,12 +31,7 @@ class FichierRemplace : public testing::Test {
         fichier.write(contenu);
     }
     static int NumeroDe(const QString& chemin, const QByteArray& contenu) {
-        try {
-            RemplacerFichier(chemin, contenu);
-        } catch (const FauteExecution& faute) {
-            return faute.numero();
-        }
-        return 0;
+        return essai::NumeroDeFaute([&] { RemplacerFichier(chemin, contenu); });
     }
     QStringList Fichiers() const {
         return QDir(dossier.path()).entryList(QDir::Files | QDir::Hidden | QDir::System);
@@ -100,7 +96,17 @@ TEST_F(FichierRemplace, StandsUntouchedWhenTheNewOneCannotBeWritten) {
 }
 
 TEST_F(FichierRemplace, FaultsInAFolderThatIsNotThere) {
-    EXPECT_EQ(NumeroDe(Chemin("absent/a.xml"), "neuf"), 70);
+    EXPECT_EQ(NumeroDe(Chemin("absent/a.xml"), "neuf"), 76);
+}
+
+TEST_F(FichierRemplace, MayBearTheLongestNameOfTheSystem) {
+    const QByteArray nom(255, 'n');
+    RemplacerFichier(Chemin(nom.constData()), "ancien");
+    RemplacerFichier(Chemin(nom.constData()), "neuf");
+    EXPECT_EQ(Lire(Chemin(nom.constData())), "neuf");
+    EXPECT_EQ(Fichiers(), QStringList{QString::fromLatin1(nom)});
+    EXPECT_EQ(NumeroDe(Chemin(QByteArray(256, 'n').constData()), "neuf"), 52);
+    EXPECT_EQ(Fichiers().size(), 1);
 }
 
 TEST_F(FichierRemplace, IsNoFolder) {
@@ -173,12 +179,7 @@ TEST_F(PreparedFile, SeveralWaitSideBySide) {
 }
 
 TEST_F(PreparedFile, FaultsInAFolderThatIsNotThere) {
-    try {
-        FichierPrepare prepare(Chemin("absent/rec.txt"));
-        FAIL() << "no fault";
-    } catch (const FauteExecution& faute) {
-        EXPECT_EQ(faute.numero(), 70);
-    }
+    EXPECT_EQ(essai::NumeroDeFaute([&] { FichierPrepare(Chemin("absent/rec.txt")); }), 76);
 }
 
 TEST(Dossier, OfTheProgramIsTheOneOfItsFile) {

@@ -7,19 +7,12 @@
 #include <cmath>
 
 #include "platform/fault.h"
+#include "support/fault_number.h"
 
 namespace bornika {
 namespace {
 
-template <class Operation>
-int NumeroDe(Operation operation) {
-    try {
-        operation();
-    } catch (const FauteExecution& faute) {
-        return faute.numero();
-    }
-    return 0;
-}
+using essai::NumeroDeFaute;
 
 class Liste : public testing::Test {
   protected:
@@ -109,8 +102,8 @@ TEST_F(Liste, AddsAtThePositionTold) {
     EXPECT_EQ(liste.TexteA(1), "milieu");
     EXPECT_EQ(liste.TexteA(4), "fin");
     EXPECT_EQ(liste.TexteA(5), "");
-    EXPECT_EQ(NumeroDe([this] { liste.Ajouter(QStringLiteral("x"), 6); }), 5);
-    EXPECT_EQ(NumeroDe([this] { liste.Ajouter(QStringLiteral("x"), -2); }), 5);
+    EXPECT_EQ(NumeroDeFaute([this] { liste.Ajouter(QStringLiteral("x"), 6); }), 5);
+    EXPECT_EQ(NumeroDeFaute([this] { liste.Ajouter(QStringLiteral("x"), -2); }), 5);
     EXPECT_EQ(liste.Nombre(), 5);
 }
 
@@ -120,17 +113,17 @@ TEST_F(Liste, CarriesANumberOfEachEntry) {
     liste.FixerDonnee(1, -2147483647);
     liste.Ajouter(QStringLiteral("zero"), 0);
     EXPECT_EQ(liste.Donnee(2), -2147483647);
-    EXPECT_EQ(NumeroDe([this] { liste.Donnee(4); }), 381);
-    EXPECT_EQ(NumeroDe([this] { liste.Donnee(-1); }), 381);
-    EXPECT_EQ(NumeroDe([this] { liste.FixerDonnee(4, 1); }), 381);
+    EXPECT_EQ(NumeroDeFaute([this] { liste.Donnee(4); }), 381);
+    EXPECT_EQ(NumeroDeFaute([this] { liste.Donnee(-1); }), 381);
+    EXPECT_EQ(NumeroDeFaute([this] { liste.FixerDonnee(4, 1); }), 381);
 }
 
 TEST_F(Liste, FaultsForAChoiceBeyondItsEntries) {
     Remplir();
     liste.Choisir(2);
     clics.clear();
-    EXPECT_EQ(NumeroDe([this] { liste.Choisir(3); }), 380);
-    EXPECT_EQ(NumeroDe([this] { liste.Choisir(-2); }), 380);
+    EXPECT_EQ(NumeroDeFaute([this] { liste.Choisir(3); }), 380);
+    EXPECT_EQ(NumeroDeFaute([this] { liste.Choisir(-2); }), 380);
     EXPECT_EQ(liste.Index(), 2);
     EXPECT_TRUE(clics.empty());
 }
@@ -193,11 +186,11 @@ TEST(Barre, HoldsItsValueBetweenNewLimits) {
 
 TEST(Barre, FaultsForWhatItCannotHold) {
     BarreProgression barre;
-    EXPECT_EQ(NumeroDe([&] { barre.FixerValeur(101); }), 380);
-    EXPECT_EQ(NumeroDe([&] { barre.FixerValeur(-1); }), 380);
-    EXPECT_EQ(NumeroDe([&] { barre.FixerValeur(std::nan("")); }), 380);
-    EXPECT_EQ(NumeroDe([&] { barre.FixerMaximum(-1); }), 380);
-    EXPECT_EQ(NumeroDe([&] { barre.FixerMinimum(101); }), 380);
+    EXPECT_EQ(NumeroDeFaute([&] { barre.FixerValeur(101); }), 380);
+    EXPECT_EQ(NumeroDeFaute([&] { barre.FixerValeur(-1); }), 380);
+    EXPECT_EQ(NumeroDeFaute([&] { barre.FixerValeur(std::nan("")); }), 380);
+    EXPECT_EQ(NumeroDeFaute([&] { barre.FixerMaximum(-1); }), 380);
+    EXPECT_EQ(NumeroDeFaute([&] { barre.FixerMinimum(101); }), 380);
     EXPECT_EQ(barre.Maximum(), 100);
     EXPECT_EQ(barre.Minimum(), 0);
     EXPECT_EQ(barre.Valeur(), 0);

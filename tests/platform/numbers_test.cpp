@@ -6,6 +6,7 @@
 #include <limits>
 
 #include "platform/fault.h"
+#include "support/fault_number.h"
 
 namespace bornika {
 namespace {
@@ -14,15 +15,7 @@ const Regional point;
 const Regional virgule{QStringLiteral(","), QStringLiteral("dd/MM/yyyy")};
 const Regional arabe{QStringLiteral("\u066B"), QStringLiteral("dd/MM/yyyy")};
 
-template <class Operation>
-int NumeroDe(Operation operation) {
-    try {
-        operation();
-    } catch (const FauteExecution& faute) {
-        return faute.numero();
-    }
-    return 0;
-}
+using essai::NumeroDeFaute;
 
 TEST(TexteGeneral, HasUpToFifteenSignificantDigits) {
     EXPECT_EQ(TexteGeneral(16, point), "16");
@@ -103,7 +96,7 @@ TEST(ValeurDebut, IsZeroWhereNoNumberStands) {
 }
 
 TEST(ValeurDebut, OverflowsWhereNoVariableCanHoldTheNumber) {
-    EXPECT_EQ(NumeroDe([] { ValeurDebut(u"1E400 bar"); }), 6);
+    EXPECT_EQ(NumeroDeFaute([] { ValeurDebut(u"1E400 bar"); }), 6);
     EXPECT_EQ(ValeurDebut(u"1E-400"), 0);
 }
 
@@ -152,9 +145,9 @@ TEST(EnDouble, SkipsWhiteSpaceAndLineEndsAtBothEnds) {
 
 TEST(EnDouble, IsATypeFaultForWhatIsNoNumber) {
     for (const char16_t* texte : {u"", u"  ", u"abc", u"1,5", u"5-", u"1.2.3", u"1 2"})
-        EXPECT_EQ(NumeroDe([&] { EnDouble(texte, point); }), 13)
+        EXPECT_EQ(NumeroDeFaute([&] { EnDouble(texte, point); }), 13)
             << QString::fromUtf16(texte).toStdString();
-    EXPECT_EQ(NumeroDe([] { EnDouble(u"1E400", point); }), 6);
+    EXPECT_EQ(NumeroDeFaute([] { EnDouble(u"1E400", point); }), 6);
 }
 
 TEST(ArrondiPair, RoundsHalfToEven) {
@@ -175,11 +168,11 @@ TEST(EnEntier16, RoundsHalfToEvenWithinItsRange) {
 }
 
 TEST(EnEntier16, OverflowsOutsideItsRange) {
-    EXPECT_EQ(NumeroDe([] { EnEntier16(u"40000", point); }), 6);
-    EXPECT_EQ(NumeroDe([] { EnEntier16(32767.5); }), 6);
-    EXPECT_EQ(NumeroDe([] { EnEntier16(-32769); }), 6);
-    EXPECT_EQ(NumeroDe([] { EnEntier16(std::nan("")); }), 6);
-    EXPECT_EQ(NumeroDe([] { EnEntier16(u"abc", point); }), 13);
+    EXPECT_EQ(NumeroDeFaute([] { EnEntier16(u"40000", point); }), 6);
+    EXPECT_EQ(NumeroDeFaute([] { EnEntier16(32767.5); }), 6);
+    EXPECT_EQ(NumeroDeFaute([] { EnEntier16(-32769); }), 6);
+    EXPECT_EQ(NumeroDeFaute([] { EnEntier16(std::nan("")); }), 6);
+    EXPECT_EQ(NumeroDeFaute([] { EnEntier16(u"abc", point); }), 13);
 }
 
 TEST(EnEntier32, RoundsHalfToEvenWithinItsRange) {
@@ -191,17 +184,17 @@ TEST(EnEntier32, RoundsHalfToEvenWithinItsRange) {
 }
 
 TEST(EnEntier32, OverflowsOutsideItsRange) {
-    EXPECT_EQ(NumeroDe([] { EnEntier32(2147483647.5); }), 6);
-    EXPECT_EQ(NumeroDe([] { EnEntier32(-2147483649.0); }), 6);
-    EXPECT_EQ(NumeroDe([] { EnEntier32(u"1E20", point); }), 6);
+    EXPECT_EQ(NumeroDeFaute([] { EnEntier32(2147483647.5); }), 6);
+    EXPECT_EQ(NumeroDeFaute([] { EnEntier32(-2147483649.0); }), 6);
+    EXPECT_EQ(NumeroDeFaute([] { EnEntier32(u"1E20", point); }), 6);
 }
 
 TEST(EnOctet, OverflowsOutsideItsRange) {
     EXPECT_EQ(EnOctet(0), 0);
     EXPECT_EQ(EnOctet(255.5 - 0.1), 255);
     EXPECT_EQ(EnOctet(254.5), 254);
-    EXPECT_EQ(NumeroDe([] { EnOctet(255.5); }), 6);
-    EXPECT_EQ(NumeroDe([] { EnOctet(-1); }), 6);
+    EXPECT_EQ(NumeroDeFaute([] { EnOctet(255.5); }), 6);
+    EXPECT_EQ(NumeroDeFaute([] { EnOctet(-1); }), 6);
 }
 
 TEST(EnSimple, IsTheNearestSinglePrecisionNumberWithinItsRange) {
@@ -209,15 +202,15 @@ TEST(EnSimple, IsTheNearestSinglePrecisionNumberWithinItsRange) {
     EXPECT_EQ(EnSimple(-86400), -86400.0F);
     EXPECT_EQ(EnSimple(1E-60), 0.0F);
     EXPECT_EQ(EnSimple(3.4028234663852886E38), std::numeric_limits<float>::max());
-    EXPECT_EQ(NumeroDe([] { EnSimple(1E39); }), 6);
-    EXPECT_EQ(NumeroDe([] { EnSimple(-1E39); }), 6);
+    EXPECT_EQ(NumeroDeFaute([] { EnSimple(1E39); }), 6);
+    EXPECT_EQ(NumeroDeFaute([] { EnSimple(-1E39); }), 6);
 }
 
 TEST(Diviser, FaultsWhereArithmeticWouldGoOn) {
     EXPECT_EQ(Diviser(1, 4), 0.25);
-    EXPECT_EQ(NumeroDe([] { Diviser(1, 0); }), 11);
-    EXPECT_EQ(NumeroDe([] { Diviser(-1, -0.0); }), 11);
-    EXPECT_EQ(NumeroDe([] { Diviser(0, 0); }), 6);
+    EXPECT_EQ(NumeroDeFaute([] { Diviser(1, 0); }), 11);
+    EXPECT_EQ(NumeroDeFaute([] { Diviser(-1, -0.0); }), 11);
+    EXPECT_EQ(NumeroDeFaute([] { Diviser(0, 0); }), 6);
 }
 
 }  // namespace

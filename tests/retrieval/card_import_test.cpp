@@ -217,7 +217,7 @@ TEST(Joining, AFolderThatIsNotThereIsAFault) {
     Carte carte;
     const Faute faute =
         FauteDe({carte.Poser("A.TXT", "a")}, carte.Chemin("absent/2026-03-05-14-07-09.txt"));
-    EXPECT_EQ(faute.numero, numero_faute::accesRefuse);
+    EXPECT_EQ(faute.numero, numero_faute::cheminIntrouvable);
 }
 
 TEST(CardImport, AsksForSeveralTextFilesStartingInTheProgramsFolder) {

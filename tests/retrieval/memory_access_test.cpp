@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "retrieval_bench.h"
+#include "support/fault_number.h"
 
 using namespace bornika;
 using namespace bornika::essai;
@@ -63,12 +64,10 @@ TEST(MemoireFlash, DoesNotClearTimeOutAndThenReachesNoAnswer) {
 
 TEST(MemoireFlash, WriteSendsTheFirstSevenValuesAndFaultsBeforeTheSecondFrame) {
     BancMemoire banc;
-    try {
-        Memoire_Flash(banc.poste, false, 5, 8, {18, 12, 13, 14, 15, 16, 17, 99});
-        FAIL() << "no fault";
-    } catch (const FauteExecution& faute) {
-        EXPECT_EQ(faute.numero(), numero_faute::indice);
-    }
+    EXPECT_EQ(essai::NumeroDeFaute([&] {
+                  Memoire_Flash(banc.poste, false, 5, 8, {18, 12, 13, 14, 15, 16, 17, 99});
+              }),
+              numero_faute::indice);
     EXPECT_EQ(banc.enregistreur.journal.Total(), 1);
     EXPECT_EQ(banc.Derniere(), (Trame{18, 12, 13, 14, 15, 16, 17, 0}));
     EXPECT_EQ(banc.enregistreur.journal.Nombre(19), 0);
@@ -236,12 +235,7 @@ TEST_P(OutOfRange, AddressesAreAnOverflowAndNothingIsSent) {
     BancMemoire banc;
     const int adresse = GetParam();
     const auto attendre = [](auto&& operation) {
-        try {
-            operation();
-            ADD_FAILURE() << "no fault";
-        } catch (const FauteExecution& faute) {
-            EXPECT_EQ(faute.numero(), numero_faute::depassement);
-        }
+        EXPECT_EQ(essai::NumeroDeFaute(operation), numero_faute::depassement);
     };
     attendre([&] { Memoire_Flash(banc.poste, true, adresse, 0); });
     attendre([&] { Memoire_Flash(banc.poste, true, 0, adresse); });

@@ -7,6 +7,7 @@
 
 #include "platform/fault.h"
 #include "simulator/measure.h"
+#include "support/fault_number.h"
 
 using namespace bornika;
 
@@ -106,12 +107,8 @@ TEST(ControleParite, BeginsAtTheGivenIndex) {
 TEST(ControleParite, AnAnswerThatIsTooShortIsASubscriptFault) {
     bool resultat = true;
     const Reponse courte{10, 0, 0};
-    try {
-        ControleParite(0, courte, resultat);
-        FAIL() << "no fault";
-    } catch (const FauteExecution& faute) {
-        EXPECT_EQ(faute.numero(), numero_faute::indice);
-    }
+    EXPECT_EQ(essai::NumeroDeFaute([&] { ControleParite(0, courte, resultat); }),
+              numero_faute::indice);
 }
 
 TEST(Horodatage, IsReadMostSignificantByteFirst) {

@@ -6,6 +6,7 @@
 
 #include "platform/fault.h"
 #include "platform/format_pattern.h"
+#include "support/fault_number.h"
 
 using namespace bornika;
 
@@ -61,10 +62,5 @@ TEST(TauxImpulsions, ANegativeIntervalGivesANegativeRate) {
 }
 
 TEST(TauxImpulsions, NoIntervalIsADivisionFault) {
-    try {
-        TauxImpulsions(0);
-        FAIL() << "no fault";
-    } catch (const FauteExecution& faute) {
-        EXPECT_EQ(faute.numero(), numero_faute::divisionParZero);
-    }
+    EXPECT_EQ(essai::NumeroDeFaute([] { TauxImpulsions(0); }), numero_faute::divisionParZero);
 }

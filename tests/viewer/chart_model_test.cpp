@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/fault.h"
+#include "support/fault_number.h"
 
 namespace bornika {
 namespace {
@@ -14,14 +15,7 @@ SerieGraphe& AjouterPoints(ModeleGraphe& graphe, std::initializer_list<double> a
     return serie;
 }
 
-int NumeroFaute(const std::function<void()>& action) {
-    try {
-        action();
-    } catch (const FauteExecution& faute) {
-        return faute.numero();
-    }
-    return 0;
-}
+using essai::NumeroDeFaute;
 
 TEST(ModeleGraphe, SeriesAreAddressedByPosition) {
     ModeleGraphe graphe;
@@ -40,12 +34,12 @@ TEST(ModeleGraphe, SeriesAreAddressedByPosition) {
 TEST(ModeleGraphe, PositionOutOfRangeIsASubscriptFault) {
     ModeleGraphe graphe;
     graphe.AjouterSerie();
-    EXPECT_EQ(NumeroFaute([&] { graphe.Serie(1); }), numero_faute::indice);
-    EXPECT_EQ(NumeroFaute([&] { graphe.Serie(-1); }), numero_faute::indice);
-    EXPECT_EQ(NumeroFaute([&] { graphe.RetirerSerie(1); }), numero_faute::indice);
-    EXPECT_EQ(NumeroFaute([&] { graphe.Outil(0); }), numero_faute::indice);
-    EXPECT_EQ(NumeroFaute([&] { graphe.RetirerOutil(-1); }), numero_faute::indice);
-    EXPECT_EQ(NumeroFaute([&] { graphe.Etiquette(0, 0); }), numero_faute::indice);
+    EXPECT_EQ(NumeroDeFaute([&] { graphe.Serie(1); }), numero_faute::indice);
+    EXPECT_EQ(NumeroDeFaute([&] { graphe.Serie(-1); }), numero_faute::indice);
+    EXPECT_EQ(NumeroDeFaute([&] { graphe.RetirerSerie(1); }), numero_faute::indice);
+    EXPECT_EQ(NumeroDeFaute([&] { graphe.Outil(0); }), numero_faute::indice);
+    EXPECT_EQ(NumeroDeFaute([&] { graphe.RetirerOutil(-1); }), numero_faute::indice);
+    EXPECT_EQ(NumeroDeFaute([&] { graphe.Etiquette(0, 0); }), numero_faute::indice);
 }
 
 TEST(ModeleGraphe, VisiblePointsFollowTheTimeAxis) {

@@ -5,6 +5,7 @@
 #include <QFile>
 
 #include "support/fake_system.h"
+#include "support/fault_number.h"
 
 namespace bornika {
 namespace {
@@ -14,12 +15,7 @@ using Genre = OutilGraphe::Genre;
 
 int FauteDe(const Etabli& etabli, const QByteArray& contenu) {
     etabli.Ecrire(QStringLiteral("essai.TEE"), contenu);
-    try {
-        LireGabarit(etabli.Chemin(QStringLiteral("essai.TEE")));
-    } catch (const FauteExecution& faute) {
-        return faute.numero();
-    }
-    return 0;
+    return essai::NumeroDeFaute([&] { LireGabarit(etabli.Chemin(QStringLiteral("essai.TEE"))); });
 }
 
 TEST(ChartTemplate, TheDeliveredOneHoldsTheSixToolsInTheirOrder) {
@@ -82,12 +78,9 @@ TEST(ChartTemplate, WhatAFileDoesNotSayKeepsItsDefault) {
 
 TEST(ChartTemplate, AMissingFileIsAFault) {
     const Etabli etabli;
-    try {
-        LireGabarit(etabli.Chemin(QStringLiteral("absent.TEE")));
-        FAIL();
-    } catch (const FauteExecution& faute) {
-        EXPECT_EQ(faute.numero(), numero_faute::fichierIntrouvable);
-    }
+    EXPECT_EQ(
+        essai::NumeroDeFaute([&] { LireGabarit(etabli.Chemin(QStringLiteral("absent.TEE"))); }),
+        numero_faute::fichierIntrouvable);
 }
 
 TEST(ChartTemplate, AMalformedFileIsAFault) {

@@ -2,6 +2,7 @@
 
 #include <QFile>
 
+#include "support/fault_number.h"
 #include "viewer/loader_form_double.h"
 #include "viewer/trace_loader.h"
 
@@ -15,12 +16,8 @@ class Echantillons : public ::testing::Test {
     int Charger(const QString& nom) {
         const QString copie = fiche.etabli.Chemin(nom);
         QFile::copy(QStringLiteral(BORNIKA_TEST_DATA "/viewer/data/") + nom, copie);
-        try {
-            TraceCourbe(fiche, copie, true, false, Mini, Maxi, false);
-        } catch (const FauteExecution& faute) {
-            return faute.numero();
-        }
-        return 0;
+        return essai::NumeroDeFaute(
+            [&] { TraceCourbe(fiche, copie, true, false, Mini, Maxi, false); });
     }
     std::vector<double> Y(int serie) {
         const auto y = fiche.graphe.Serie(serie).Y();

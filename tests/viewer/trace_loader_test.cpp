@@ -8,6 +8,7 @@
 
 #include "platform/pointer_shape.h"
 #include "shell/dates.h"
+#include "support/fault_number.h"
 #include "viewer/loader_form_double.h"
 
 namespace bornika::essai {
@@ -25,12 +26,8 @@ class TraceCourbeEssai : public ::testing::Test {
     }
     int ChargerFichier(const QString& chemin, bool Multi = false, bool init = true,
                        bool Reload = false) {
-        try {
-            TraceCourbe(fiche, chemin, init, Multi, Mini, Maxi, Reload);
-        } catch (const FauteExecution& faute) {
-            return faute.numero();
-        }
-        return 0;
+        return essai::NumeroDeFaute(
+            [&] { TraceCourbe(fiche, chemin, init, Multi, Mini, Maxi, Reload); });
     }
     const SerieGraphe& Serie(int position) { return fiche.graphe.Serie(position); }
     std::vector<double> Y(int position) {
