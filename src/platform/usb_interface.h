@@ -12,6 +12,10 @@ using IdentifiantUsb = std::int32_t;
 /// A handle on one logger: above 0 when open, 0 for none, -1 for a failed open.
 using PoigneeUsb = std::int32_t;
 
+/// Why loggers may be missing from a count although they are plugged in: no product's USB numbers
+/// are known, or this user has no right to open one that is there.
+enum class AbsenceUsb { Aucune, SansReglage, SansDroits };
+
 /// The narrow interface to whatever carries the bytes: real loggers or simulated ones.
 ///
 /// A handle is one direction of one logger; `Ouvrir` is called twice for one logger and gives two
@@ -27,6 +31,9 @@ class InterfaceUsb {
     /// Unique identifier of the logger at `index` (0 to `Compte() - 1`); 0 beyond. Stable from one
     /// call to the next as long as nothing is plugged or unplugged.
     virtual IdentifiantUsb Identifiant(int index) = 0;
+
+    /// What is known, after a `Compte`, of loggers missing from it.
+    virtual AbsenceUsb Absence() { return AbsenceUsb::Aucune; }
 
     /// A handle on the logger `id`, or -1.
     virtual PoigneeUsb Ouvrir(IdentifiantUsb id) = 0;
