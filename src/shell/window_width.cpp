@@ -18,6 +18,7 @@ constexpr int largeurMaintenance = 957;
 void FixerLargeur(MainScreen& ecran, bool maintenance) {
     auto& ui = *ecran.ui;
     ui.PanneauService->setVisible(maintenance);
+    ui.mnuGSM->setVisible(maintenance);
     // From the inside to the outside, or the form would keep room for frames hidden just before.
     for (QWidget* zone : {ui.ZoneCadres, ui.ZoneEnregistreur})
         zone->layout()->activate();

@@ -135,7 +135,7 @@ const char* const etiquettes[] = {"Label1",
                                   "Image1"};
 const char* const entrees[] = {"mnuconnect",      "mnuEtalonnage", "mnurapport",  "nmuBootLoad",
                                "mnuChargeRapide", "mnuModeAvance", "MnuModeAide", "MnuSplash",
-                               "MnuFlowTest",     "mnuApropos"};
+                               "MnuFlowTest",     "mnuGSM",        "mnuApropos"};
 const char* const barres[] = {"ProgressBar1", "ProgressBar2", "ProgressBar3"};
 const char* const dates[] = {"DTPicker1", "DTPicker2"};
 const char* const menus[] = {"mnuFichier", "mnuOutils", "mnuOptions", "mnuAide"};
@@ -257,15 +257,14 @@ TEST_F(MainScreenForm, HoldsEachSetUpControlInItsFrame) {
 }
 
 TEST_F(MainScreenForm, OffersOnlyWhatItCanDo) {
-    for (const QPushButton* bouton : {ui.ProgNumeroSerie, ui.RAZNumeroSerie, ui.Command2, ui.Test,
-                                      ui.LireValeurDetectionCapteur})
-        EXPECT_FALSE(bouton->isEnabled()) << bouton->objectName().toStdString();
     for (const QPushButton* bouton :
          {ui.Lire, ui.Ecrire, ui.LireEeprom, ui.LireValeursPage, ui.LireValeurs, ui.LireSD,
           ui.VoirLesValeurs, ui.DateDemarrage, ui.Sortir, ui.CommandCorrection, ui.LireLaFlash,
-          ui.EcrireLaFlash, ui.TestDebitON, ui.TestDebitOFF})
+          ui.EcrireLaFlash, ui.TestDebitON, ui.TestDebitOFF, ui.ProgNumeroSerie, ui.RAZNumeroSerie,
+          ui.Command2, ui.Test, ui.LireValeurDetectionCapteur})
         EXPECT_TRUE(bouton->isEnabled()) << bouton->objectName().toStdString();
-    for (const QAction* entree : {ui.mnuEtalonnage, ui.mnurapport, ui.nmuBootLoad, ui.mnuApropos})
+    for (const QAction* entree :
+         {ui.mnuEtalonnage, ui.mnurapport, ui.nmuBootLoad, ui.mnuGSM, ui.mnuApropos})
         EXPECT_FALSE(entree->isEnabled()) << entree->objectName().toStdString();
     for (const QAction* entree :
          {ui.mnuChargeRapide, ui.mnuModeAvance, ui.MnuModeAide, ui.MnuSplash, ui.MnuFlowTest})
@@ -365,6 +364,15 @@ TEST_F(WindowWidth, KeepsTheServiceControlsOutOfReachUnlessInMaintenance) {
         EXPECT_TRUE(
             ui.PanneauService->isAncestorOf(ecran.findChild<QWidget*>(QString::fromLatin1(nom))))
             << nom;
+}
+
+TEST_F(WindowWidth, OffersTheGsmSettingsInMaintenanceAlone) {
+    EXPECT_FALSE(ui.mnuGSM->isVisible());
+    FixerLargeur(ecran, true);
+    EXPECT_TRUE(ui.mnuGSM->isVisible());
+    EXPECT_TRUE(ui.mnuOutils->actions().contains(ui.mnuGSM));
+    FixerLargeur(ecran, false);
+    EXPECT_FALSE(ui.mnuGSM->isVisible());
 }
 
 TEST_F(WindowWidth, LetsNoTextOfAValueWidenTheForm) {
