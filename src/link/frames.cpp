@@ -68,7 +68,13 @@ Octets TrameEcritMode(int mode, double seuil1, double seuil2, int echelle, int c
 }
 
 Octets TrameEcritNumeroSerie(std::int32_t numero) {
-    return Trame(CMD_ECRIT_NUMERO_SERIE).Double(numero).Completer(blanc);
+    // Divisions towards zero: the bytes of a negative number are negative too.
+    return Trame(CMD_ECRIT_NUMERO_SERIE)
+        .Octet(numero / 16777216)
+        .Octet(numero % 16777216 / 65536)
+        .Octet(numero % 65536 / 256)
+        .Octet(numero % 256)
+        .Completer(blanc);
 }
 
 Octets TrameEcritDateCourante(std::int32_t date, double periodeTrigger) {

@@ -23,7 +23,8 @@ Octets TrameEcritDemarrage(std::int32_t date, double periode);
 /// Mode byte (command_table.h), both thresholds in points, scale byte; `charge` is the fast-charge
 /// byte, 1 or 0.
 Octets TrameEcritMode(int mode, double seuil1, double seuil2, int echelle, int charge);
-/// The serial number; its top bit goes out as it stands.
+/// The serial number. A negative one gives negative values, which the link refuses, on purpose: no
+/// logger is given such a number.
 Octets TrameEcritNumeroSerie(std::int32_t numero);
 /// The computer's present date, and the second sampling period, which holds after the trigger.
 Octets TrameEcritDateCourante(std::int32_t date, double periodeTrigger);

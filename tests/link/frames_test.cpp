@@ -121,7 +121,13 @@ TEST(Frames, TheOtherValueOfEachSwitch) {
 
 TEST(Frames, NegativeNumbersGoInTwosComplement) {
     EXPECT_EQ(TrameEcritCorrection(-2), (Octets{31, 254, 255, 255, 255, 0, 0, 0}));
-    EXPECT_EQ(TrameEcritNumeroSerie(-1), (Octets{5, 255, 255, 255, 255, 32, 32, 32}));
+}
+
+TEST(Frames, ANegativeSerialNumberHasValuesThatNoLinkSends) {
+    EXPECT_EQ(TrameEcritNumeroSerie(-1), (Octets{5, 0, 0, 0, -1, 32, 32, 32}));
+    EXPECT_EQ(TrameEcritNumeroSerie(-16777216), (Octets{5, -1, 0, 0, 0, 32, 32, 32}));
+    EXPECT_EQ(TrameEcritNumeroSerie(-2147483647 - 1), (Octets{5, -128, 0, 0, 0, 32, 32, 32}));
+    EXPECT_EQ(TrameEcritNumeroSerie(2147483647), (Octets{5, 127, 255, 255, 255, 32, 32, 32}));
 }
 
 TEST(Frames, CommentIsCutAtFourteenCharactersAndPaddedWithBlanks) {
