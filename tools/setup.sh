@@ -2,7 +2,7 @@
 # Says aloud what it is about to install, and asks for nothing when all is there.
 
 packages_build=(build-essential cmake ninja-build qt6-base-dev libgl-dev libqcustomplot-dev
-    libpugixml-dev fonts-dejavu-core)
+    libpugixml-dev libusb-1.0-0-dev pkg-config fonts-dejavu-core)
 packages_test=(libgtest-dev libgmock-dev clang-format poppler-utils)
 packages_bench=(libbenchmark-dev)
 

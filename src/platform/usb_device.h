@@ -1,0 +1,50 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <vector>
+
+#include "platform/usb_endpoints.h"
+#include "platform/usb_scan.h"
+
+namespace bornika {
+
+/// One opened logger whose interface belongs to this program until the object ends.
+class AppareilUsb {
+  public:
+    /// None when the logger cannot be had; `erreur` then holds the library's number. A driver of
+    /// the system that sits on the interface gives way and comes back at the end.
+    static std::shared_ptr<AppareilUsb> Ouvrir(const EnregistreurUsb& enregistreur, int& erreur);
+    ~AppareilUsb();
+    AppareilUsb(const AppareilUsb&) = delete;
+    AppareilUsb& operator=(const AppareilUsb&) = delete;
+
+    /// Whether the logger was pulled out.
+    bool Perdu() const { return perdu_; }
+
+    /// Sends all bytes in one transfer. Returns 0 or the library's number. What is left of earlier
+    /// answers is dropped first. A stalled endpoint is set free, so that a repetition may succeed.
+    int Ecrire(std::span<const std::uint8_t> octets);
+    /// Reads one answer, cut to `octets`. Returns how many bytes came, with the library's number in
+    /// `erreur`: bytes that came before a failure count.
+    int Lire(std::span<std::uint8_t> octets, int& erreur);
+
+  private:
+    AppareilUsb(const EnregistreurUsb& enregistreur, OuvertureUsb ouverture,
+                const PointsUsb& points);
+
+    int Transferer(const PointUsb& point, std::size_t longueur, int delai, int& transferes);
+    void Vider();
+
+    PeripheriqueUsb peripherique_;
+    ReglageUsb reglage_;
+    std::shared_ptr<LigneUsb> ligne_;
+    OuvertureUsb ouverture_;
+    PointsUsb points_;
+    // Kept so that a long download asks for no memory.
+    std::vector<unsigned char> tampon_;
+    bool perdu_ = false;
+};
+
+}  // namespace bornika

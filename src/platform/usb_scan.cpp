@@ -1,0 +1,122 @@
+#include "platform/usb_scan.h"
+
+#include <algorithm>
+#include <array>
+#include <span>
+
+namespace bornika {
+
+namespace {
+
+constexpr int portsMaximaux = 7;
+
+// The devices on the bus, each with a reference that ends with the list.
+class ListeUsb {
+  public:
+    explicit ListeUsb(libusb_context* contexte)
+        : nombre_(libusb_get_device_list(contexte, &liste_)) {}
+    ~ListeUsb() {
+        if (liste_ != nullptr) libusb_free_device_list(liste_, 1);
+    }
+    ListeUsb(const ListeUsb&) = delete;
+    ListeUsb& operator=(const ListeUsb&) = delete;
+
+    int Erreur() const { return nombre_ < 0 ? static_cast<int>(nombre_) : 0; }
+    std::span<libusb_device* const> Peripheriques() const {
+        return {liste_, nombre_ < 0 ? 0 : static_cast<std::size_t>(nombre_)};
+    }
+
+  private:
+    libusb_device** liste_ = nullptr;
+    ssize_t nombre_;
+};
+
+CheminUsb CheminDe(libusb_device* peripherique) {
+    std::array<std::uint8_t, portsMaximaux> ports{};
+    const int nombre = libusb_get_port_numbers(peripherique, ports.data(), portsMaximaux);
+    CheminUsb chemin{libusb_get_bus_number(peripherique)};
+    if (nombre > 0)
+        chemin.insert(chemin.end(), ports.begin(), ports.begin() + nombre);
+    else
+        chemin.insert(chemin.end(), {0, libusb_get_device_address(peripherique)});
+    return chemin;
+}
+
+// Empty when the device has none or does not tell it.
+std::string SerieDe(libusb_device* peripherique, libusb_device_handle* ouverture) {
+    libusb_device_descriptor descripteur{};
+    libusb_get_device_descriptor(peripherique, &descripteur);
+    if (descripteur.iSerialNumber == 0) return {};
+    std::array<unsigned char, 256> texte{};
+    const int longueur = libusb_get_string_descriptor_ascii(
+        ouverture, descripteur.iSerialNumber, texte.data(), static_cast<int>(texte.size()));
+    return longueur > 0 ? std::string(texte.begin(), texte.begin() + longueur) : std::string();
+}
+
+}  // namespace
+
+RecensementUsb::RecensementUsb(std::vector<ReglageUsb> reglages) : reglages_(std::move(reglages)) {
+    std::erase_if(reglages_, [](const ReglageUsb& reglage) { return reglage.Vendeur == 0; });
+}
+
+const ReglageUsb* RecensementUsb::ReglageDe(libusb_device* peripherique) const {
+    libusb_device_descriptor descripteur{};
+    if (libusb_get_device_descriptor(peripherique, &descripteur) != LIBUSB_SUCCESS) return nullptr;
+    const auto trouve =
+        std::find_if(reglages_.begin(), reglages_.end(), [&](const ReglageUsb& reglage) {
+            return reglage.Vendeur == descripteur.idVendor &&
+                   reglage.Produit == descripteur.idProduct;
+        });
+    return trouve == reglages_.end() ? nullptr : &*trouve;
+}
+
+void RecensementUsb::Noter(libusb_device* peripherique, const ReglageUsb& reglage,
+                           std::map<libusb_device*, Fiche>& presentes) {
+    const auto connue = fiches_.find(peripherique);
+    if (connue != fiches_.end()) {
+        presentes.insert(*connue);
+        return;
+    }
+    int erreur = 0;
+    const OuvertureUsb ouverture = OuvrirPeripherique(peripherique, erreur);
+    if (erreur == LIBUSB_ERROR_ACCESS) sansDroits_ = true;
+    if (!ouverture) return;
+    presentes[peripherique] =
+        Fiche{Reference(peripherique), reglage, SerieDe(peripherique, ouverture.get()),
+              CheminDe(peripherique), std::make_shared<LigneUsb>()};
+}
+
+std::vector<EnregistreurUsb> RecensementUsb::Recenser(int& erreur) {
+    erreur = 0;
+    sansDroits_ = false;
+    if (SansReglage()) return {};
+    if (!contexte_) {
+        libusb_context* contexte = nullptr;
+        erreur = libusb_init(&contexte);
+        if (erreur != LIBUSB_SUCCESS) return {};
+        contexte_.reset(contexte);
+    }
+    const ListeUsb liste(contexte_.get());
+    erreur = liste.Erreur();
+    std::map<libusb_device*, Fiche> presentes;
+    for (libusb_device* const peripherique : liste.Peripheriques())
+        if (const ReglageUsb* const reglage = ReglageDe(peripherique))
+            Noter(peripherique, *reglage, presentes);
+    fiches_ = std::move(presentes);
+
+    std::vector<const Fiche*> ordre;
+    for (const auto& [peripherique, fiche] : fiches_)
+        ordre.push_back(&fiche);
+    std::sort(ordre.begin(), ordre.end(),
+              [](const Fiche* a, const Fiche* b) { return a->chemin < b->chemin; });
+    std::vector<PresenceUsb> presences;
+    for (const Fiche* const fiche : ordre)
+        presences.push_back({fiche->peripherique.get(), fiche->serie, fiche->chemin});
+    const std::vector<IdentifiantUsb> ids = identificateur_.Attribuer(presences);
+    std::vector<EnregistreurUsb> presents;
+    for (std::size_t i = 0; i < ordre.size(); ++i)
+        presents.push_back({ids[i], ordre[i]->reglage, ordre[i]->peripherique, ordre[i]->ligne});
+    return presents;
+}
+
+}  // namespace bornika
