@@ -60,11 +60,15 @@ class BusSimule : public InterfaceUsb {
     /// No journal of frames and no trace of calls, for all loggers attached now.
     void TaireJournaux();
 
+    /// What the bus says about loggers that are missing from its count.
+    void ReglerAbsence(AbsenceUsb absence) { absence_ = absence; }
+
     /// Text of an error number in place of the platform's.
     void ReglerTexteErreur(std::uint32_t code, const QString& texte) { textes_[code] = texte; }
 
     int Compte() override;
     IdentifiantUsb Identifiant(int index) override;
+    AbsenceUsb Absence() override { return absence_; }
     PoigneeUsb Ouvrir(IdentifiantUsb id) override;
     bool Ecrire(PoigneeUsb poignee, std::span<const std::uint8_t> octets) override;
     int Lire(PoigneeUsb poignee, std::span<std::uint8_t> octets) override;
@@ -105,6 +109,7 @@ class BusSimule : public InterfaceUsb {
     std::vector<PoigneeOuverte> ouvertes_;
     PoigneeUsb derniere_ = 0;
     std::uint32_t erreur_ = 0;
+    AbsenceUsb absence_ = AbsenceUsb::Aucune;
     std::map<std::uint32_t, QString> textes_;
     std::vector<simulateur::Appel> appels_;
     std::size_t limiteAppels_ = 20000;

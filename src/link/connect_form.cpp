@@ -11,6 +11,8 @@ namespace bornika {
 
 namespace {
 
+constexpr int periodeVeille = 1000;  // milliseconds
+
 bool EstValidation(const QEvent& evenement) {
     if (evenement.type() != QEvent::KeyPress) return false;
     const int touche = static_cast<const QKeyEvent&>(evenement).key();
@@ -26,6 +28,8 @@ frmConnect::frmConnect(Poste& lePoste, QWidget* parent)
     brancher(ui->Listekrow, &QListWidget::itemClicked, this, [this] { Listekrow_Click(*this); });
     brancher(ui->ExitEtalonnage, &QPushButton::clicked, this,
              [this] { ExitEtalonnage_Click(*this); });
+    brancher(&Veille, &QTimer::timeout, this, [this] { Veiller(*this); });
+    Veille.setInterval(periodeVeille);
     ui->Listekrow->installEventFilter(this);
 }
 
@@ -37,8 +41,10 @@ void frmConnect::Charger() {
     FixerCaption(*ui->ViewAll, poste.ecran.Texte(QStringLiteral("View All")));
     FixerCaption(*ui->ExitEtalonnage, poste.ecran.Texte(QStringLiteral("Cancel")));
     ui->ViewAll->setChecked(false);
+    AncienID = poste.ecran.etat.UsbID;
     Enumere(*this, false);
     Chargement = false;
+    Veille.start();
 }
 
 bool frmConnect::eventFilter(QObject* objet, QEvent* evenement) {

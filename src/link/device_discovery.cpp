@@ -1,6 +1,9 @@
 #include "link/device_discovery.h"
 
+#include <QApplication>
+
 #include "link/connect_form.h"
+#include "link/connect_hint.h"
 #include "link/device_identity.h"
 #include "link/frames.h"
 #include "link/modal.h"
@@ -51,12 +54,38 @@ void Sonder(frmConnect& fiche, int index, bool voirTout, IdentifiantUsb ancienID
     Poste& poste = fiche.poste;
     EtatApplication& etat = poste.ecran.etat;
     etat.UsbID = poste.ecran.systeme.usb.Identifiant(index);
+    fiche.Branches.insert(etat.UsbID);
     etat.TimeOut = false;
     poste.ecran.ui->Version->clear();
     QString numero;
     const bool ok = LireIdentite(poste);
     if (!etat.TimeOut && ok) numero = LitNumeroSerieKpod(poste);
     if (!etat.TimeOut && (voirTout || ok)) AjouterLigne(fiche, index, numero, ancienID);
+}
+
+std::set<IdentifiantUsb> BranchesMaintenant(InterfaceUsb& usb) {
+    std::set<IdentifiantUsb> branches;
+    const int nombre = usb.Compte();
+    for (int i = 0; i < nombre; ++i)
+        branches.insert(usb.Identifiant(i));
+    return branches;
+}
+
+IdentifiantUsb IdentifiantDe(const QListWidgetItem& ligne) {
+    return ligne.data(roleIdentifiant).toInt();
+}
+
+/// Makes the line of that logger the current one, or none.
+void Placer(QListWidget& liste, IdentifiantUsb id) {
+    QListWidgetItem* trouvee = nullptr;
+    for (int i = 0; i < liste.count(); ++i)
+        if (IdentifiantDe(*liste.item(i)) == id) trouvee = liste.item(i);
+    liste.setCurrentItem(trouvee);
+}
+
+bool EstSousUnAutre(const frmConnect& fiche) {
+    const QWidget* modale = QApplication::activeModalWidget();
+    return modale && modale != &fiche;
 }
 
 }  // namespace
@@ -76,6 +105,7 @@ void MontrerSelection(Poste& poste) {
 void Enumere(frmConnect& fiche, bool voirTout) {
     EtatApplication& etat = fiche.poste.ecran.etat;
     fiche.ui->Listekrow->clear();
+    fiche.Branches.clear();
     const int forme = PointeurSouris(fiche);
     FixerPointeurSouris(fiche, pointeur::sablier);
     const IdentifiantUsb ancienID = etat.UsbID;
@@ -85,6 +115,21 @@ void Enumere(frmConnect& fiche, bool voirTout) {
     // Without an earlier choice the identifier of the last logger asked stays.
     if (ancienID != 0) etat.UsbID = ancienID;
     FixerPointeurSouris(fiche, forme);
+    AfficherIndication(fiche, true);
+}
+
+void Veiller(frmConnect& fiche) {
+    if (fiche.Chargement || !fiche.Veille.isActive() || EstSousUnAutre(fiche)) return;
+    if (BranchesMaintenant(fiche.poste.ecran.systeme.usb) == fiche.Branches)
+        return AfficherIndication(fiche, false);
+    const QListWidgetItem* ligne = fiche.ui->Listekrow->currentItem();
+    // A choice made earlier is shown again when its logger comes back; one that was only asked
+    // last is none.
+    const IdentifiantUsb id = ligne ? IdentifiantDe(*ligne) : fiche.AncienID;
+    fiche.Chargement = true;
+    Enumere(fiche, fiche.ui->ViewAll->isChecked());
+    Placer(*fiche.ui->Listekrow, id);
+    fiche.Chargement = false;
 }
 
 void ViewAll_Click(frmConnect& fiche) {
@@ -98,8 +143,9 @@ void Listekrow_Click(frmConnect& fiche) {
     if (!ligne || fiche.ui->ViewAll->isChecked() || fiche.Chargement) return;
     Poste& poste = fiche.poste;
     EtatApplication& etat = poste.ecran.etat;
-    etat.UsbID = ligne->data(roleIdentifiant).toInt();
+    etat.UsbID = IdentifiantDe(*ligne);
     if (etat.UsbID == 0) return;
+    fiche.Veille.stop();
     LireIdentite(poste);
     etat.NomKpod = NomProduit(etat.TypekPod, Drapeau(poste.ecran));
     etat.Connected = true;

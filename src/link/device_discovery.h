@@ -19,6 +19,11 @@ void MontrerSelection(Poste& poste);
 /// too whose answer makes no sense; silent ones never are, and no message is shown.
 void Enumere(frmConnect& fiche, bool voirTout);
 
+/// Rebuilds the list when loggers were plugged in or pulled out since it was built, and keeps the
+/// current line if its logger is still there. Otherwise no logger is asked anything. Does nothing
+/// while the list is being built, once a logger was chosen, and under another dialog.
+void Veiller(frmConnect& fiche);
+
 /// Lists anew, with or without the loggers whose answer makes no sense.
 void ViewAll_Click(frmConnect& fiche);
 /// Chooses the logger of the current line and closes the form; nothing while everything is viewed.

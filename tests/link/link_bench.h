@@ -82,11 +82,23 @@ inline QByteArray TextesDuLien() {
 <Entree><Cle>k-Pod Absent</Cle><Texte>k-Pod absent</Texte></Entree>
 <Entree><Cle>View All</Cle><Texte>Tout voir</Texte></Entree>
 <Entree><Cle>Cancel</Cle><Texte>Annuler</Texte></Entree>
+<Entree><Cle>IndicationChoisir</Cle><Texte>un clic choisit</Texte></Entree>
+<Entree><Cle>IndicationToutVoir</Cle><Texte>tout voir</Texte></Entree>
+<Entree><Cle>IndicationAucun</Cle><Texte>aucun</Texte></Entree>
+<Entree><Cle>IndicationSansReponse</Cle><Texte>sans réponse</Texte></Entree>
+<Entree><Cle>IndicationSansReglage</Cle><Texte>numéros USB :</Texte></Entree>
+<Entree><Cle>IndicationSansDroits</Cle><Texte>règle udev 60-bornika.rules :</Texte></Entree>
 <Entree><Cle>mnuconnect</Cle><Texte>Connexion</Texte></Entree>
 </Langue>
 <Langue NOM="English"><Entree><Cle>k-Pod Absent</Cle><Texte>no k-Pod</Texte></Entree>
 <Entree><Cle>View All</Cle><Texte>View all</Texte></Entree>
 <Entree><Cle>Cancel</Cle><Texte>Cancel</Texte></Entree>
+<Entree><Cle>IndicationChoisir</Cle><Texte>one click chooses</Texte></Entree>
+<Entree><Cle>IndicationToutVoir</Cle><Texte>all is viewed</Texte></Entree>
+<Entree><Cle>IndicationAucun</Cle><Texte>none</Texte></Entree>
+<Entree><Cle>IndicationSansReponse</Cle><Texte>no answer</Texte></Entree>
+<Entree><Cle>IndicationSansReglage</Cle><Texte>USB numbers:</Texte></Entree>
+<Entree><Cle>IndicationSansDroits</Cle><Texte>udev rule 60-bornika.rules:</Texte></Entree>
 <Entree><Cle>mnuconnect</Cle><Texte>Select a logger</Texte></Entree>
 </Langue>
 </Messages></Configuration>
