@@ -1,0 +1,56 @@
+#include "platform/external_program.h"
+
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <QFile>
+#include <cerrno>
+#include <thread>
+
+namespace bornika {
+
+namespace {
+
+pid_t Attendre(pid_t pid, int options) {
+    pid_t rendu;
+    do
+        rendu = waitpid(pid, nullptr, options);
+    while (rendu == -1 && errno == EINTR);
+    return rendu;
+}
+
+class Enfant : public ProgrammeExterne {
+  public:
+    explicit Enfant(pid_t pid) : pid_(pid) {}
+
+    // Somebody has to take note of its end, or it stays behind as a dead entry of the process list.
+    ~Enfant() override {
+        if (EnCours()) std::thread([pid = pid_] { Attendre(pid, 0); }).detach();
+    }
+
+    bool EnCours() override {
+        // The system may give the number of an ended child to another one: it is asked once.
+        if (!fini_) fini_ = Attendre(pid_, WNOHANG) != 0;
+        return !fini_;
+    }
+
+  private:
+    pid_t pid_;
+    bool fini_ = false;
+};
+
+}  // namespace
+
+std::unique_ptr<ProgrammeExterne> LancerProgramme(const QString& programme,
+                                                  const QString& argument) {
+    QByteArray chemin = QFile::encodeName(programme);
+    QByteArray texte = argument.toLocal8Bit();
+    char* const arguments[] = {chemin.data(), texte.data(), nullptr};
+    pid_t pid = 0;
+    if (posix_spawn(&pid, chemin.constData(), nullptr, nullptr, arguments, environ) != 0)
+        return nullptr;
+    return std::make_unique<Enfant>(pid);
+}
+
+}  // namespace bornika
