@@ -4,8 +4,7 @@
 
 namespace bornika {
 
-/// A USB interface on which no logger is ever attached: the program's own one until a product's USB
-/// numbers are known to it.
+/// A USB interface on which no logger is ever attached, for what needs none: benchmarks and tests.
 class AucunEnregistreur : public InterfaceUsb {
   public:
     int Compte() override { return 0; }

@@ -16,8 +16,8 @@ struct ReglageUsb {
     std::uint16_t Produit = 0;
     std::uint8_t Interface = 0;
     /// Endpoint addresses; left out, the first of each direction.
-    std::optional<std::uint8_t> Sortie;
-    std::optional<std::uint8_t> Entree;
+    std::optional<std::uint8_t> Sortie = std::nullopt;
+    std::optional<std::uint8_t> Entree = std::nullopt;
     /// In milliseconds, from 1.
     int Delai = delaiParDefaut;
 };

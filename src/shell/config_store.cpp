@@ -133,6 +133,20 @@ void Configuration::EcritConfig(const QString& valeur, const QString& cle, const
     document_->Enregistrer();
 }
 
+std::vector<GroupeReglages> Configuration::LitGroupes(const QString& cle) {
+    document_->Charger(Chemin());
+    std::vector<GroupeReglages> groupes;
+    for (const pugi::xml_node enfant : document_->Choisir("//Configuration/" + cle.toUtf8())) {
+        if (enfant.type() != pugi::node_element) continue;
+        GroupeReglages& groupe = groupes.emplace_back();
+        groupe.nom = QString::fromUtf8(enfant.name());
+        for (const pugi::xml_node entree : enfant.children())
+            if (entree.type() == pugi::node_element)
+                groupe.entrees.emplace_back(QString::fromUtf8(entree.name()), TexteElement(entree));
+    }
+    return groupes;
+}
+
 bool Configuration::LitSplash() {
     return BooleenDe(LitConfig(QStringLiteral("Splash")));
 }

@@ -4,10 +4,18 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <utility>
+#include <vector>
 
 namespace bornika {
 
 class ListeDeroulante;
+
+/// An element and its child elements by name and text, in the order of the file.
+struct GroupeReglages {
+    QString nom;
+    std::vector<std::pair<QString, QString>> entrees;
+};
 
 /// "config.xml" beside the program: all settings, lists and texts.
 ///
@@ -31,6 +39,10 @@ class Configuration {
     std::optional<QString> LitConfig(const QString& cle, const QString& fichier = {});
     /// Sets that text and saves. A missing element is not made and the file is not touched.
     void EcritConfig(const QString& valeur, const QString& cle, const QString& fichier = {});
+
+    /// The child elements of "//Configuration/" + `cle`, with their own ones. None where there is
+    /// no such element.
+    std::vector<GroupeReglages> LitGroupes(const QString& cle);
 
     /// Whether the splash form is shown: "True" in any case, or a number other than 0. False for
     /// any other text and for a missing element.

@@ -88,6 +88,16 @@ TEST(FusionnerConfiguration, KeepsTheLayoutAroundTheRootAndTheDeclaredEncoding) 
     EXPECT_TRUE(fusion.contains("<Cle>\xC9talonnage</Cle>"));
 }
 
+TEST(FusionnerConfiguration, KeepsUsbNumbersAndBringsTheElementWithItsCommentWhereThereIsNone) {
+    const QByteArray neuf =
+        "<Configuration><Usb><!-- how --><Appareil><Vendeur>0</Vendeur><Delai>1000</Delai>"
+        "</Appareil></Usb></Configuration>";
+    const QByteArray entre =
+        "<Configuration><Usb><Appareil><Vendeur>0x12</Vendeur></Appareil></Usb></Configuration>";
+    EXPECT_EQ(FusionnerConfiguration(entre, neuf), entre);
+    EXPECT_EQ(FusionnerConfiguration("<Configuration/>", neuf).replace("\n", ""), neuf);
+}
+
 TEST(FusionnerConfiguration, LeavesAMalformedUsedFileUntouched) {
     const QByteArray casse = "<Configuration><Langue>";
     EXPECT_EQ(FusionnerConfiguration(casse, livree), casse);

@@ -11,6 +11,7 @@
 #include "shell/help_mode.h"
 #include "shell/language_switch.h"
 #include "shell/main_screen.h"
+#include "shell/usb_element.h"
 #include "support/fake_system.h"
 #include "ui_main_screen.h"
 
@@ -29,6 +30,7 @@ using Liste = std::vector<Ligne>;
 
 struct Livree {
     std::map<QString, QString> reglages;
+    std::vector<std::pair<QString, std::vector<std::pair<QString, QString>>>> appareils;
     std::vector<QString> languesListes;
     std::map<QString, std::map<QString, Liste>> listes;
     std::vector<QString> languesMessages;
@@ -79,6 +81,11 @@ void LireMessages(QXmlStreamReader& xml, Livree& livree) {
     }
 }
 
+void LireUsb(QXmlStreamReader& xml, Livree& livree) {
+    while (xml.readNextStartElement())
+        livree.appareils.push_back({xml.name().toString(), Enfants(xml)});
+}
+
 Livree Lire() {
     Livree livree;
     QFile fichier(QStringLiteral(BORNIKA_RESOURCES "/config.xml"));
@@ -92,6 +99,8 @@ Livree Lire() {
             LireListes(xml, livree);
         else if (nom == QLatin1String("Messages"))
             LireMessages(xml, livree);
+        else if (nom == QLatin1String("Usb"))
+            LireUsb(xml, livree);
         else
             livree.reglages[nom] = xml.readElementText(QXmlStreamReader::ErrorOnUnexpectedElement);
     }
@@ -133,6 +142,24 @@ TEST_F(DeliveredConfig, HasEverySettingThatTheProgramReadsOrWrites) {
         {QStringLiteral("IndexListeTemps"), QStringLiteral("0")},
     };
     EXPECT_EQ(livree.reglages, attendus);
+}
+
+TEST_F(DeliveredConfig, ShowsEveryUsbEntryOfAProductAndLooksForNone) {
+    ASSERT_EQ(livree.appareils.size(), 1U);
+    EXPECT_EQ(livree.appareils[0].first, QStringLiteral("Appareil"));
+    const std::vector<std::pair<QString, QString>> attendues = {
+        {QStringLiteral("Vendeur"), QStringLiteral("0x0000")},
+        {QStringLiteral("Produit"), QStringLiteral("0x0000")},
+        {QStringLiteral("Interface"), QStringLiteral("0")},
+        {QStringLiteral("Sortie"), QStringLiteral("0x01")},
+        {QStringLiteral("Entree"), QStringLiteral("0x81")},
+        {QStringLiteral("Delai"), QStringLiteral("1000")}};
+    EXPECT_EQ(livree.appareils[0].second, attendues);
+    essai::Etabli etabli;
+    Configuration configuration(etabli.systeme.dossier);
+    const ElementUsb element = LireElementUsb(configuration);
+    EXPECT_TRUE(element.reglages.empty());
+    EXPECT_TRUE(element.fausses.empty());
 }
 
 TEST_F(DeliveredConfig, HasTheSameLanguagesForListsAndTextsAndTheDefaultAmongThem) {
