@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QPushButton>
+#include <QTest>
 
 #include "shell/captions.h"
 #include "shell/language_switch.h"
@@ -31,7 +32,7 @@ class ServicePanel : public testing::TestWithParam<const char*> {
 TEST_P(ServicePanel, FitsIntoTheWideWindowAndAnOrdinaryScreen) {
     EXPECT_EQ(ecran.width(), 957);
     EXPECT_LE(ecran.height(), 768);
-    EXPECT_LE(ui.FrameCorrection->geometry().bottom(), ui.PanneauService->height());
+    EXPECT_LE(ui.FramePrecaution->geometry().bottom(), ui.PanneauService->height());
 }
 
 TEST_P(ServicePanel, CutsNoCaptionOff) {
@@ -55,6 +56,12 @@ TEST_P(ServicePanel, HasRoomForEveryValueThatItShows) {
                                 QStringLiteral("31/12/2037 23:59:59-1023-29970.703  mbar-65535"))
                   .height(),
               ui.ResultatMesure->height());
+    EXPECT_TRUE(tient(*ui.Valeurcodetest, "255"));
+    EXPECT_TRUE(tient(*ui.Mesuretest, "65535"));
+    EXPECT_TRUE(tient(*ui.ValeurDetectionCapteur, "65535"));
+    EXPECT_TRUE(tient(*ui.ValeurNumeroSerie, "2147483647"));
+    EXPECT_TRUE(tient(*ui.NbReset, "65535"));
+    EXPECT_TRUE(tient(*ui.DateDernierReset, "31/12/2037 23:59:59"));
     EXPECT_TRUE(tient(*ui.ValeurCorrection_0, "-2147483648.0000"));
     EXPECT_TRUE(tient(*ui.ValeurCorrection_1, "12345678.0000"));
     for (const QWidget* adresse : {ui.page, ui.offset, ui.PageDebut, ui.PageFin, ui.PageEcriture,
@@ -71,11 +78,67 @@ TEST_P(ServicePanel, HoldsItsControlsInTitledGroups) {
     dans(ui.FrameTest, {ui.Test, ui.Valeurcodetest, ui.Mesuretest});
     dans(ui.FrameCapteur, {ui.LireValeurDetectionCapteur, ui.ValeurDetectionCapteur, ui.TestDebitON,
                            ui.TestDebitOFF});
-    dans(ui.FrameFlash, {ui.page, ui.offset, ui.resultat, ui.ResultatMesure, ui.LireLaFlash,
-                         ui.EcrireLaFlash, ui.PageDebut, ui.PageFin, ui.LireValeursPage,
-                         ui.LireEeprom, ui.PageEcriture, ui.BufferLecture});
-    dans(ui.FrameSerie, {ui.ValeurNumeroSerie, ui.ProgNumeroSerie, ui.RAZNumeroSerie, ui.Command2});
+    dans(ui.FrameFlash,
+         {ui.page, ui.offset, ui.resultat, ui.ResultatMesure, ui.LireLaFlash, ui.PageDebut,
+          ui.PageFin, ui.LireValeursPage, ui.LireEeprom, ui.PageEcriture, ui.BufferLecture});
+    dans(ui.FrameSerie,
+         {ui.ValeurNumeroSerie, ui.ProgNumeroSerie, ui.NbReset, ui.DateDernierReset, ui.Command2});
     dans(ui.FrameCorrection, {ui.ValeurCorrection_0, ui.ValeurCorrection_1, ui.CommandCorrection});
+}
+
+TEST_P(ServicePanel, SetsWhatCannotBeUndoneApartBelowAllElse) {
+    for (const QWidget* bouton : {ui.EcrireLaFlash, ui.RAZNumeroSerie})
+        EXPECT_TRUE(ui.FramePrecaution->isAncestorOf(bouton)) << bouton->objectName().toStdString();
+    EXPECT_FALSE(ui.FramePrecaution->title().isEmpty());
+    EXPECT_EQ(ui.FramePrecaution->findChildren<QPushButton*>().size(), 2);
+    const auto ecart = [](const QWidget* haut, const QWidget* bas) {
+        return bas->geometry().top() - haut->geometry().bottom();
+    };
+    EXPECT_GT(ecart(ui.FrameCorrection, ui.FramePrecaution),
+              ecart(ui.FrameSerie, ui.FrameCorrection));
+}
+
+TEST_P(ServicePanel, IsWalkedByTheTabKeyFromTheTopToTheBottom) {
+    const QWidget* const chemin[] = {ui.Test,
+                                     ui.Valeurcodetest,
+                                     ui.Mesuretest,
+                                     ui.LireValeurDetectionCapteur,
+                                     ui.ValeurDetectionCapteur,
+                                     ui.TestDebitON,
+                                     ui.TestDebitOFF,
+                                     ui.page,
+                                     ui.offset,
+                                     ui.resultat,
+                                     ui.LireLaFlash,
+                                     ui.PageDebut,
+                                     ui.PageFin,
+                                     ui.LireValeursPage,
+                                     ui.LireEeprom,
+                                     ui.PageEcriture,
+                                     ui.BufferEcriture,
+                                     ui.PageLecture,
+                                     ui.BufferLecture,
+                                     ui.ValeurNumeroSerie,
+                                     ui.ProgNumeroSerie,
+                                     ui.Command2,
+                                     ui.ValeurCorrection_1,
+                                     ui.ValeurCorrection_0,
+                                     ui.CommandCorrection,
+                                     ui.EcrireLaFlash,
+                                     ui.RAZNumeroSerie};
+    QStringList attendus;
+    for (const QWidget* controle : chemin)
+        attendus << controle->objectName();
+    ecran.activateWindow();
+    ui.Test->setFocus();
+    QStringList suivis;
+    for (qsizetype i = 0; i < attendus.size(); ++i) {
+        ASSERT_NE(ecran.focusWidget(), nullptr);
+        suivis << ecran.focusWidget()->objectName();
+        QTest::keyClick(ecran.focusWidget(), Qt::Key_Tab);
+    }
+    EXPECT_EQ(suivis, attendus);
+    EXPECT_FALSE(ui.PanneauService->isAncestorOf(ecran.focusWidget()));
 }
 
 TEST_P(ServicePanel, PutsEachBoxOfTheClockBehindItsOwnCaption) {
