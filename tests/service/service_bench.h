@@ -1,0 +1,90 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include "simulator/simulated_bus.h"
+#include "support/fake_system.h"
+#include "support/fault_number.h"
+#include "ui_main_screen.h"
+
+namespace bornika::essai {
+
+using Trames = std::vector<std::vector<std::uint8_t>>;
+
+/// A main form with one simulated logger chosen, for operations that hold one conversation each.
+class SurPaillasse : public testing::Test {
+  protected:
+    using GenreAppel = simulateur::GenreAppel;
+    using GenrePanne = simulateur::GenrePanne;
+
+    BusSimule bus;
+    EnregistreurSimule& enregistreur = bus.Brancher(EnregistreurSimule());
+    Etabli etabli{&bus};
+    MainScreen ecran{etabli.systeme};
+    Ui::MainScreen& ui = *ecran.ui;
+    MULTIUSB lien{ecran};
+    Poste poste{ecran, lien};
+
+    void SetUp() override {
+        ecran.etat.UsbID = enregistreur.identite.usb;
+        ecran.etat.NomKpod = QStringLiteral("k-Pod 7");
+    }
+
+    void Panne(int code, GenrePanne genre, int parametre = 0) {
+        enregistreur.pannes.Ordonner({.code = code, .genre = genre, .parametre = parametre});
+    }
+    std::vector<DialoguesNotes::Boite_>& Boites() { return etabli.dialogues.boites; }
+    /// Lengths that were asked for, in order.
+    std::vector<int> Lectures() const {
+        std::vector<int> longueurs;
+        for (const auto& appel : bus.Appels()) {
+            if (appel.genre == GenreAppel::lire) longueurs.push_back(appel.argument);
+        }
+        return longueurs;
+    }
+    /// Two handles were opened and closed again, and nothing was said.
+    void AttendreConversation() {
+        ASSERT_EQ(enregistreur.lien.size(), 4U);
+        EXPECT_TRUE(enregistreur.lien[0].ouverture && enregistreur.lien[1].ouverture);
+        EXPECT_EQ(bus.PoigneesOuvertes(), 0);
+        EXPECT_TRUE(Boites().empty());
+    }
+    /// The operator was told once that the logger is absent, and forgets it again.
+    void AttendreAbsent() {
+        ASSERT_EQ(Boites().size(), 1U);
+        EXPECT_EQ(Boites()[0].titre, QString());
+        EXPECT_EQ(Boites()[0].texte, ecran.Texte(QStringLiteral("k-Pod Absent")));
+        EXPECT_TRUE(ecran.etat.TimeOut);
+        EXPECT_EQ(bus.PoigneesOuvertes(), 0);
+        Boites().clear();
+        ecran.etat.TimeOut = false;
+    }
+    /// Runs an operation on a logger that is silent, whose answer is lost, that takes no frame,
+    /// that cannot be opened, that is pulled out in the exchange, and that is gone; `verifier`
+    /// looks at the rest.
+    template <class Operation, class Verification>
+    void ChaqueAbsence(int code, Operation operation, Verification verifier) {
+        for (const GenrePanne genre : {GenrePanne::silence, GenrePanne::reponsePerdue}) {
+            Panne(code, genre);
+            operation();
+            AttendreAbsent();
+            verifier();
+        }
+        enregistreur.pannes.OrdonnerEchecsEcriture(3);
+        operation();
+        AttendreAbsent();
+        verifier();
+        enregistreur.pannes.OrdonnerEchecOuverture(2);
+        operation();
+        AttendreAbsent();
+        verifier();
+        Panne(code, GenrePanne::debranchement);
+        for (int fois = 0; fois < 2; ++fois) {
+            operation();
+            AttendreAbsent();
+            verifier();
+        }
+    }
+};
+
+}  // namespace bornika::essai
