@@ -75,12 +75,26 @@ IdentifiantUsb IdentifiantDe(const QListWidgetItem& ligne) {
     return ligne.data(roleIdentifiant).toInt();
 }
 
-/// Makes the line of that logger the current one, or none.
-void Placer(QListWidget& liste, IdentifiantUsb id) {
-    QListWidgetItem* trouvee = nullptr;
-    for (int i = 0; i < liste.count(); ++i)
-        if (IdentifiantDe(*liste.item(i)) == id) trouvee = liste.item(i);
-    liste.setCurrentItem(trouvee);
+/// The line of that logger, or null.
+QListWidgetItem* LigneDe(const QListWidget& liste, IdentifiantUsb id) {
+    for (int i = 0; id != 0 && i < liste.count(); ++i)
+        if (IdentifiantDe(*liste.item(i)) == id) return liste.item(i);
+    return nullptr;
+}
+
+/// Rebuilds the list with the selection that the operator sees. Where there is none, a choice made
+/// earlier is shown again when its logger comes back; one that was only asked last is none. The
+/// toolkit's own current line, which the keyboard starts from, is not a selection.
+void Rebatir(frmConnect& fiche) {
+    QListWidget& liste = *fiche.ui->Listekrow;
+    const QListWidgetItem* ligne = liste.currentItem();
+    const IdentifiantUsb courant = ligne ? IdentifiantDe(*ligne) : 0;
+    const IdentifiantUsb choisi = ligne && ligne->isSelected() ? courant : fiche.AncienID;
+    Enumere(fiche, fiche.ui->ViewAll->isChecked());
+    if (QListWidgetItem* retrouvee = LigneDe(liste, choisi))
+        liste.setCurrentItem(retrouvee);
+    else
+        liste.setCurrentItem(LigneDe(liste, courant), QItemSelectionModel::Clear);
 }
 
 bool EstSousUnAutre(const frmConnect& fiche) {
@@ -122,13 +136,8 @@ void Veiller(frmConnect& fiche) {
     if (fiche.Chargement || !fiche.Veille.isActive() || EstSousUnAutre(fiche)) return;
     if (BranchesMaintenant(fiche.poste.ecran.systeme.usb) == fiche.Branches)
         return AfficherIndication(fiche, false);
-    const QListWidgetItem* ligne = fiche.ui->Listekrow->currentItem();
-    // A choice made earlier is shown again when its logger comes back; one that was only asked
-    // last is none.
-    const IdentifiantUsb id = ligne ? IdentifiantDe(*ligne) : fiche.AncienID;
     fiche.Chargement = true;
-    Enumere(fiche, fiche.ui->ViewAll->isChecked());
-    Placer(*fiche.ui->Listekrow, id);
+    Rebatir(fiche);
     fiche.Chargement = false;
 }
 

@@ -159,6 +159,34 @@ TEST_F(HotPlug, SelectsNothingThatTheOperatorHasNotSelected) {
     });
 }
 
+TEST_F(HotPlug, TakesTheLineThatTheKeyboardStartsFromForNoSelection) {
+    b.Attacher(Serie(1));
+    b.Attacher(Serie(2));
+    b.Connexion([&](frmConnect& fiche) {
+        // As the toolkit does when the list gets the focus.
+        fiche.ui->Listekrow->setCurrentRow(0, QItemSelectionModel::NoUpdate);
+        b.Attacher(Serie(3));
+        Regarder(fiche);
+        EXPECT_EQ(Ligne(fiche), 0);
+        EXPECT_TRUE(fiche.ui->Listekrow->selectedItems().empty());
+    });
+}
+
+TEST_F(HotPlug, TheLoggerChosenBeforeIsSelectedThoughAnotherOneWasThereFirst) {
+    auto& premier = b.Attacher(Serie(1));
+    b.Attacher(Serie(2));
+    b.Connexion([](frmConnect& fiche) { BancDeChoix::Cliquer(fiche, 0); });
+    b.bus.Debrancher(premier.identite.usb);
+    b.Connexion([&](frmConnect& fiche) {
+        fiche.ui->Listekrow->setCurrentRow(0, QItemSelectionModel::NoUpdate);
+        b.bus.Rebrancher(premier.identite.usb);
+        Regarder(fiche);
+        EXPECT_EQ(fiche.ui->Listekrow->selectedItems(),
+                  QList<QListWidgetItem*>{fiche.ui->Listekrow->item(0)});
+        EXPECT_EQ(fiche.ui->Listekrow->item(0)->text(), q("k-Pod = 1 2-100-->1"));
+    });
+}
+
 TEST_F(HotPlug, TheLoggerChosenBeforeIsSelectedAgainWhenItComesBack) {
     b.Attacher(Serie(1));
     auto& second = b.Attacher(Serie(2));
