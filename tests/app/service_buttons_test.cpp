@@ -180,9 +180,11 @@ TEST_F(ServiceButtons, AfterAFailureTheyReadNothingUntilLire) {
 TEST_F(ServiceButtons, SayThatAPulledOutLoggerIsAbsentAndNothingEnds) {
     banc.bus.Debrancher(pod.identite.usb);
     Taper(banc.ui().ValeurCorrection_1, "4");
+    Taper(banc.ui().ValeurNumeroSerie, "4");
     for (QPushButton* bouton :
          {banc.ui().CommandCorrection, banc.ui().TestDebitON, banc.ui().TestDebitOFF,
-          banc.ui().LireLaFlash, banc.ui().EcrireLaFlash}) {
+          banc.ui().LireLaFlash, banc.ui().EcrireLaFlash, banc.ui().Test,
+          banc.ui().LireValeurDetectionCapteur, banc.ui().ProgNumeroSerie}) {
         banc.ecran().etat.TimeOut = false;
         banc.etabli.dialogues.boites.clear();
         if (bouton == banc.ui().EcrireLaFlash)
@@ -195,12 +197,110 @@ TEST_F(ServiceButtons, SayThatAPulledOutLoggerIsAbsentAndNothingEnds) {
     EXPECT_TRUE(banc.sorties.empty());
 }
 
+TEST_F(ServiceButtons, TheSelfTestShowsItsCodeAndMeasure) {
+    pod.codeTest = 2;
+    pod.pointsCapteur = 300;
+    BancProgramme::Cliquer(banc.ui().Test);
+    EXPECT_EQ(pod.journal.DeCode(29), (Trames{{29, 0, 0, 0, 0, 0, 0, 0}}));
+    EXPECT_EQ(banc.ui().Valeurcodetest->text(), QStringLiteral("2"));
+    EXPECT_EQ(banc.ui().Mesuretest->text(), QStringLiteral("300"));
+    pod.codeTest = 1;
+    BancProgramme::Cliquer(banc.ui().Test);
+    EXPECT_EQ(banc.ui().Valeurcodetest->text(), QStringLiteral("1"));
+    EXPECT_EQ(banc.ui().Mesuretest->text(), QString());
+    EXPECT_EQ(Boites(), QStringList());
+}
+
+TEST_F(ServiceButtons, TheDetectionOfTheSensorShowsItsValue) {
+    pod.detectionCapteur = 0x012C;
+    BancProgramme::Cliquer(banc.ui().LireValeurDetectionCapteur);
+    EXPECT_EQ(pod.journal.DeCode(32), (Trames{{32, 0, 0, 0, 0, 0, 0, 0}}));
+    EXPECT_EQ(banc.ui().ValeurDetectionCapteur->text(), QStringLiteral("300"));
+    pod.pannes.Ordonner({32, GenrePanne::silence});
+    BancProgramme::Cliquer(banc.ui().LireValeurDetectionCapteur);
+    EXPECT_EQ(banc.ui().ValeurDetectionCapteur->text(), QStringLiteral("0"));
+    EXPECT_EQ(Boites(), QStringList{absent});
+}
+
+TEST_F(ServiceButtons, AProgrammedSerialNumberIsShownByLire) {
+    Taper(banc.ui().ValeurNumeroSerie, "2147483647");
+    BancProgramme::Cliquer(banc.ui().ProgNumeroSerie);
+    EXPECT_EQ(pod.journal.DeCode(5), (Trames{{5, 127, 255, 255, 255, 32, 32, 32}}));
+    EXPECT_EQ(pod.journal.Total(), 1);
+    BancProgramme::Cliquer(banc.ui().Lire);
+    EXPECT_EQ(banc.ui().NumeroSerie->text(), QStringLiteral("2147483647"));
+    EXPECT_EQ(Boites(), QStringList());
+}
+
+TEST_F(ServiceButtons, ASerialNumberThatIsNoneOrTooLargeIsTold) {
+    Taper(banc.ui().ValeurNumeroSerie, "abc");
+    BancProgramme::Cliquer(banc.ui().ProgNumeroSerie);
+    Taper(banc.ui().ValeurNumeroSerie, "2147483648");
+    BancProgramme::Cliquer(banc.ui().ProgNumeroSerie);
+    EXPECT_EQ(Boites(), (QStringList{QStringLiteral("Le n° de série n'est pas valide"),
+                                     QStringLiteral("Le n° de série est trop grand (> 32 bits)")}));
+    EXPECT_EQ(banc.etabli.dialogues.boites[0].titre, banc.ecran().etat.NomKpod);
+    EXPECT_EQ(pod.journal.Total(), 0);
+    EXPECT_TRUE(banc.sorties.empty());
+}
+
+TEST_F(ServiceButtons, ANegativeSerialNumberEndsTheProgramUnsent) {
+    Taper(banc.ui().ValeurNumeroSerie, "-1");
+    BancProgramme::Cliquer(banc.ui().ProgNumeroSerie);
+    AttendreFinGenerale("Run-time error '6':\n\nOverflow");
+    EXPECT_EQ(pod.journal.Total(), 0);
+}
+
+TEST_F(ServiceButtons, TheSerialNumberIsClearedAfterOkAlone) {
+    pod.ReglerNumeroSerie(123);
+    banc.etabli.dialogues.reponses = {Reponse::Annuler, Reponse::Ok};
+    BancProgramme::Cliquer(banc.ui().RAZNumeroSerie);
+    EXPECT_EQ(pod.journal.Total(), 0);
+    BancProgramme::Cliquer(banc.ui().RAZNumeroSerie);
+    EXPECT_EQ(pod.journal.DeCode(15), (Trames{{15, 0, 0, 0, 0, 0, 0, 0}}));
+    EXPECT_TRUE(pod.inhibe);
+    ASSERT_EQ(Boites().size(), 2);
+    EXPECT_EQ(Boites()[1], QStringLiteral("Attention, le datalogger sera inhibé !"));
+    BancProgramme::Cliquer(banc.ui().Lire);
+    EXPECT_EQ(banc.ui().NumeroSerie->text(), QStringLiteral("0"));
+}
+
+TEST_F(ServiceButtons, TheResetsAreReadFromWhereTheFirmwareKeepsThem) {
+    pod.ReglerResets(1772719629, 3);
+    BancProgramme::Cliquer(banc.ui().Command2);
+    EXPECT_EQ(pod.journal.DeCode(29), (Trames{{29, 0, 7, 32, 32, 32, 32, 32}}));
+    EXPECT_EQ(banc.ui().NbReset->text(), QStringLiteral("3"));
+    EXPECT_EQ(banc.ui().DateDernierReset->text(), QStringLiteral("05/03/2026 14:07:09"));
+
+    pod.identite.versionHaute = 20;
+    pod.identite.versionBasse = 95;
+    BancProgramme::Cliquer(banc.ui().Lire);
+    banc.ui().NbReset->clear();
+    pod.journal.Vider();
+    BancProgramme::Cliquer(banc.ui().Command2);
+    EXPECT_EQ(pod.journal.DeCode(20), (Trames{{20, 0, 0, 0, 0, 32, 32, 32}}));
+    EXPECT_EQ(pod.journal.Total(), 1);
+    EXPECT_EQ(banc.ui().NbReset->text(), QStringLiteral("3"));
+}
+
+TEST_F(ServiceButtons, TheResetsOfASilentLoggerEndTheProgram) {
+    pod.pannes.Ordonner({29, GenrePanne::silence});
+    BancProgramme::Cliquer(banc.ui().Command2);
+    EXPECT_EQ(Boites(), (QStringList{absent, QStringLiteral("Run-time error '9':\n\nSubscript out "
+                                                            "of range")}));
+    EXPECT_EQ(banc.sorties, std::vector<int>{1});
+    EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);
+    EXPECT_EQ(banc.ui().NbReset->text(), QStringLiteral("--"));
+}
+
 TEST(ServicePanelOfTheProgram, IsOutOfReachWithoutMaintenance) {
     BancProgramme banc;
     banc.bus.Brancher(EnregistreurSimule());
     ASSERT_TRUE(banc.Demarrer());
-    for (const QPushButton* bouton : {banc.ui().CommandCorrection, banc.ui().TestDebitON,
-                                      banc.ui().LireLaFlash, banc.ui().EcrireLaFlash})
+    for (const QPushButton* bouton :
+         {banc.ui().CommandCorrection, banc.ui().TestDebitON, banc.ui().LireLaFlash,
+          banc.ui().EcrireLaFlash, banc.ui().Test, banc.ui().LireValeurDetectionCapteur,
+          banc.ui().ProgNumeroSerie, banc.ui().RAZNumeroSerie, banc.ui().Command2})
         EXPECT_FALSE(bouton->isVisible());
     EXPECT_TRUE(banc.ui().MnuFlowTest->isEnabled());
 }
