@@ -2,6 +2,7 @@
 
 #include "platform/dialogs.h"
 #include "platform/text_file.h"
+#include "shell/application_state.h"
 
 namespace bornika {
 

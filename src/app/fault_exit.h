@@ -8,9 +8,6 @@ namespace bornika {
 
 class Dialogues;
 
-/// Title of the application, on the standard box of a fault.
-inline constexpr char titreApplication[] = "k-Pod";
-
 /// The general failure of the program: the standard box with the fault's number and text, then
 /// `fermerLien`, then every open text file brought to the disk, then `sortir` with status 1.
 void FinirSurFaute(const FauteExecution& faute, Dialogues& dialogues,

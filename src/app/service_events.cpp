@@ -1,5 +1,6 @@
 #include "app/service_events.h"
 
+#include "calibration/calibration.h"
 #include "link/station.h"
 #include "logger/clock_correction.h"
 #include "logger/context_dump.h"
@@ -7,7 +8,11 @@
 #include "platform/numbers.h"
 #include "retrieval/flash_service.h"
 #include "retrieval/raw_dump.h"
+#include "service/about_form.h"
+#include "service/firmware_update.h"
 #include "service/flow_test.h"
+#include "service/gsm_form.h"
+#include "service/production_form.h"
 #include "service/self_test.h"
 #include "service/serial_number.h"
 #include "ui_main_screen.h"
@@ -34,6 +39,7 @@ void BrancherService(Poste& poste) {
              [&poste] { CommandCorrection_Click(poste); });
     brancher(ui.TestDebitON, &QPushButton::clicked, fiche, [&poste] { Test_Debit(poste, true); });
     brancher(ui.TestDebitOFF, &QPushButton::clicked, fiche, [&poste] { Test_Debit(poste, false); });
+    brancher(ui.nmuBootLoad, &QAction::triggered, fiche, [&poste] { nmuBootLoad_Click(poste); });
     brancher(ui.MnuFlowTest, &QAction::triggered, fiche, [&poste] { MnuFlowTest_Click(poste); });
     brancher(ui.LireLaFlash, &QPushButton::clicked, fiche, [&poste] { LireLaFlash(poste); });
     brancher(ui.EcrireLaFlash, &QPushButton::clicked, fiche, [&poste] { EcrireLaFlash(poste); });
@@ -48,6 +54,12 @@ void BrancherService(Poste& poste) {
     brancher(ui.Test, &QPushButton::clicked, fiche, [&poste] { Test_Click(poste); });
     brancher(ui.LireValeurDetectionCapteur, &QPushButton::clicked, fiche,
              [&poste] { LireValeurDetectionCapteur_Click(poste); });
+    brancher(ui.mnuEtalonnage, &QAction::triggered, fiche, [&poste] { MontrerEtalonnage(poste); });
+    brancher(ui.mnurapport, &QAction::triggered, fiche,
+             [&poste] { mnurapport_Click(poste.ecran); });
+    brancher(ui.mnuGSM, &QAction::triggered, fiche, [&poste] { mnuGSM_Click(poste.ecran); });
+    brancher(ui.mnuApropos, &QAction::triggered, fiche,
+             [&poste] { mnuApropos_Click(poste.ecran); });
 }
 
 }  // namespace bornika

@@ -7,6 +7,9 @@
 
 namespace bornika {
 
+/// Title of the application: in the about box, and on the standard box of a fault.
+inline constexpr char titreApplication[] = "k-Pod";
+
 /// Seven figures of the sensor's calibration, in points. A high pair of zeros means that the logger
 /// has one point only.
 struct Etalonnage7 {

@@ -30,6 +30,43 @@ TEST(FastChargeMenu, IsCheckedAtTheStartWhenTheSettingIsOne) {
     EXPECT_TRUE(banc.ui().mnuChargeRapide->isChecked());
 }
 
+/// Takes an element with its text out of the configuration; what is left of it.
+QByteArray SansElement(BancProgramme& banc, const QByteArray& nom) {
+    const QString fichier = QStringLiteral("config.xml");
+    QByteArray texte = banc.etabli.Lire(fichier);
+    const auto debut = texte.indexOf("<" + nom + ">");
+    const auto fin = texte.indexOf("</" + nom + ">") + nom.size() + 3;
+    texte.remove(debut, fin - debut);
+    banc.etabli.Ecrire(fichier, texte);
+    return texte;
+}
+
+TEST(MenuSwitches, FlipTheirMarkAndLeaveAFileWithoutTheirElementAlone) {
+    BancProgramme banc;
+    ASSERT_TRUE(banc.Demarrer(-1));
+    SansElement(banc, "Charge_Rapide");
+    const QByteArray avant = SansElement(banc, "Splash");
+    ASSERT_FALSE(avant.contains("Splash>") || avant.contains("Charge_Rapide>"));
+    for (QAction* entree : {banc.ui().mnuChargeRapide, banc.ui().MnuSplash}) {
+        const bool coche = entree->isChecked();
+        entree->trigger();
+        EXPECT_EQ(entree->isChecked(), !coche) << entree->objectName().toStdString();
+        EXPECT_EQ(banc.etabli.Lire(QStringLiteral("config.xml")), avant);
+    }
+    EXPECT_TRUE(banc.sorties.empty());
+}
+
+TEST(SplashMenu, WritesTheWordsTrueAndFalse) {
+    BancProgramme banc;
+    ASSERT_TRUE(banc.Demarrer(-1));
+    for (int i = 0; i < 2; ++i) {
+        banc.ui().MnuSplash->trigger();
+        const QByteArray mot = banc.ui().MnuSplash->isChecked() ? "True" : "False";
+        EXPECT_TRUE(banc.etabli.Lire(QStringLiteral("config.xml"))
+                        .contains("<Splash>" + mot + "</Splash>"));
+    }
+}
+
 TEST(SplashMenu, FlipsItsMarkAndStoresTrueOrFalse) {
     BancProgramme banc;
     ASSERT_TRUE(banc.Demarrer(-1));
