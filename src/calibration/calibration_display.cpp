@@ -82,7 +82,10 @@ void AffichePoints(Etalonnage& fiche, int mode) {
         const RangeePoint rangee = fiche.Rangee(rang);
         for (QLabel* caption : {rangee.Labeltextepressionreelle, rangee.Labeltextepressionlue}) {
             const QString nu = SansNumero(caption->text());
-            caption->setText(mode == 1 ? AvecNumero(nu, rang + 1) : nu);
+            caption->setText(AvecNumero(nu, rang + 1));
+            // Room for the number also while it is not shown: the form keeps its width.
+            caption->setMinimumWidth(caption->sizeHint().width());
+            if (mode != 1) caption->setText(nu);
         }
     }
 }

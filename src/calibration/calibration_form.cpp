@@ -17,6 +17,14 @@ void GarderLaPlace(QWidget& controle) {
     controle.setSizePolicy(regle);
 }
 
+// The reference that is not typed now is still one to be read.
+void GarderLisible(QLineEdit& saisie) {
+    QPalette couleurs = saisie.palette();
+    couleurs.setColor(QPalette::Disabled, QPalette::Text,
+                      couleurs.color(QPalette::Active, QPalette::WindowText));
+    saisie.setPalette(couleurs);
+}
+
 }  // namespace
 
 std::array<QWidget*, 6> RangeePoint::Controles() const {
@@ -29,6 +37,8 @@ Etalonnage::Etalonnage(Poste& lePoste, QWidget* parent)
     ui->setupUi(this);
     for (QWidget* controle : Rangee(1).Controles())
         GarderLaPlace(*controle);
+    for (const int rang : {0, 1})
+        GarderLisible(*Rangee(rang).ValeurPressionReelle);
     const auto lier = [this](QPushButton* bouton, void (*operation)(Etalonnage&)) {
         brancher(bouton, &QPushButton::clicked, this, [this, operation] { operation(*this); });
     };

@@ -102,6 +102,24 @@ TEST(CalibrationForm, StartsWithTheUnitOfTheMainFormAndEmptyPressures) {
     }
 }
 
+TEST(CalibrationForm, StartedOverForgetsWhatItShowed) {
+    BancEtalonnage banc;
+    banc.Amener(Avance::PointDeux);
+    banc.f().Sortir->setEnabled(false);
+    banc.bus.Debrancher(banc.enregistreur.identite.usb);
+    ChargerEtalonnage(*banc.fiche);
+    EXPECT_EQ(banc.Situation(), "start - read quit, 1 row, types 1, point 1");
+    EXPECT_EQ(Texte(*banc.fiche, "Labeltextepressionreelle_0"), "Pression réelle");
+    EXPECT_EQ(Texte(*banc.fiche, "ValeurCapteurEtalonnage"), "--");
+    for (const int rang : {0, 1}) {
+        const RangeePoint rangee = banc.fiche->Rangee(rang);
+        EXPECT_EQ(rangee.Labelpressionreelle->text(), QStringLiteral("bar"));
+        EXPECT_EQ(rangee.Labelpressionlue->text(), QStringLiteral("bar"));
+        EXPECT_EQ(rangee.ValeurPressionReelle->text(), QString());
+        EXPECT_EQ(rangee.ValeurPressionLue->text(), QString());
+    }
+}
+
 TEST(CalibrationForm, ShowsTheSixControlsOfTheSecondRowTogether) {
     BancEtalonnage banc;
     banc.Ouvrir();
@@ -123,7 +141,7 @@ TEST(CalibrationForm, ShowsTheSixControlsOfTheSecondRowTogether) {
     }
 }
 
-TEST(CalibrationForm, KeepsItsHeightAndCutsNoTextInEitherState) {
+TEST(CalibrationForm, KeepsItsSizeAndCutsNoTextInEitherState) {
     for (const QString& langue : {QStringLiteral("Français"), QStringLiteral("English")}) {
         BancEtalonnage banc(Firmware::Nouveau, langue);
         banc.ChoisirUnite(QStringLiteral("mbar"));
@@ -131,11 +149,11 @@ TEST(CalibrationForm, KeepsItsHeightAndCutsNoTextInEitherState) {
         banc.enregistreur.ReglerEtalonnage(1000, 0x72, 1023, 1023, 1024, 1023);
         banc.Ouvrir();
         EXPECT_EQ(banc.f().ValeurPressionReelle_1->text(), QStringLiteral("30000.0"));
-        const int hauteur = banc.fiche->height();
+        const QSize taille = banc.fiche->size();
         for (const int mode : {0, 1}) {
             AffichePoints(*banc.fiche, mode);
             QCoreApplication::processEvents();
-            EXPECT_EQ(banc.fiche->height(), hauteur);
+            EXPECT_EQ(banc.fiche->size(), taille);
             for (const QWidget* controle : banc.fiche->findChildren<QWidget*>()) {
                 if (!aCaption(*controle) || !controle->isVisible()) continue;
                 EXPECT_LE(controle->sizeHint().width(), controle->width())
