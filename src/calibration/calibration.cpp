@@ -39,7 +39,7 @@ bool DemanderVersion(const Etalonnage& fiche, Tampon& buffer) {
     return Demander(fiche, CMD_LIT_VERSION, buffer, longueurVersion);
 }
 
-/// A frame of its own over a link opened anew. False when nothing came.
+/// A frame that is more than a code. False when nothing came back.
 bool Envoyer(const Etalonnage& fiche, const Octets& trame) {
     EchangeDirect(fiche.poste, trame, longueurTrame, longueurReponse);
     return !fiche.poste.ecran.etat.TimeOut;
@@ -138,8 +138,8 @@ void GuiderMesure(const Etalonnage& fiche) {
         Dire(fiche, Icone::Information, Boutons::Ok, etape);
 }
 
-/// Takes the logger out of calibration and reads what it holds now. False when it did not answer
-/// to the first; a reading that fails has ended the calibration all the same.
+/// Takes the logger out of calibration and reads what it holds now. False when it stayed silent
+/// about the end; a reading that fails behind it leaves the calibration ended all the same.
 bool FinirEtalonnage(Etalonnage& fiche) {
     const Poste& poste = fiche.poste;
     Tampon buffer{};
@@ -212,6 +212,9 @@ void EntrerEtalonnage(Etalonnage& fiche) {
 
 void SortirEtalonnage(Etalonnage& fiche) {
     const Poste& poste = fiche.poste;
+    // For both points: with the flag of an earlier failure standing, the button would stay enabled
+    // and do nothing, and the logger would be left in calibration.
+    poste.ecran.etat.TimeOut = false;
     if (fiche.DeuxiemePoint != 0) {
         if (!FinirEtalonnage(fiche)) return;
         fiche.DeuxiemePoint = 0;
@@ -219,7 +222,6 @@ void SortirEtalonnage(Etalonnage& fiche) {
         return;
     }
     Tampon version{};
-    poste.ecran.etat.TimeOut = false;
     Ouvrir(poste);
     if (!DemanderVersion(fiche, version)) return poste.lien.FermeUSB();
     if (!EstAncienFirmware(version) && VeutDeuxiemePoint(fiche))

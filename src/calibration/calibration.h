@@ -25,7 +25,7 @@ void EntrerEtalonnage(Etalonnage& fiche);
 
 /// Ends the taking of a point: on new firmware the operator may go on to the second one, otherwise
 /// the logger leaves calibration and what it holds is read. A logger that does not answer to the
-/// version or to the end of calibration leaves the buttons as they were.
+/// version or to the end of calibration leaves the buttons as they were, for another try.
 void SortirEtalonnage(Etalonnage& fiche);
 
 }  // namespace bornika
