@@ -120,6 +120,34 @@ INSTANTIATE_TEST_SUITE_P(Table, CalibrationQuit,
                          testing::Values(Avance::Repos, Avance::PointUn, Avance::AttenteDeux,
                                          Avance::PointDeux));
 
+// Nothing disables the way out; every step but the way to a second point enables it all the same.
+TEST(CalibrationWayOut, IsEnabledByEveryStepButTheWayToASecondPoint) {
+    const struct {
+        Firmware firmware;
+        Avance avance;
+        Bouton bouton;
+        Reponse reponse;
+        bool ouvert;
+    } etapes[] = {
+        {nouveau, Avance::Repos, Bouton::Entrer, oui, true},
+        {nouveau, Avance::PointUn, Bouton::Fin, oui, false},
+        {nouveau, Avance::PointUn, Bouton::Fin, non, true},
+        {nouveau, Avance::AttenteDeux, Bouton::Entrer, oui, true},
+        {nouveau, Avance::PointDeux, Bouton::Fin, oui, true},
+        {ancien, Avance::PointUn, Bouton::Fin, oui, true},
+    };
+    for (const auto& etape : etapes) {
+        BancEtalonnage banc(etape.firmware);
+        banc.Amener(etape.avance);
+        banc.f().ValeurPressionReelle_1->setText(QStringLiteral("0"));
+        banc.f().Sortir->setEnabled(false);
+        banc.Repondre(etape.reponse);
+        banc.Cliquer(etape.bouton == Bouton::Entrer ? banc.f().EntrerEtalonnage
+                                                    : banc.f().SortirEtalonnage);
+        EXPECT_EQ(banc.f().Sortir->isEnabled(), etape.ouvert) << banc.Situation();
+    }
+}
+
 TEST(CalibrationTwoPoints, AreBehindALoggerThatHoldsThem) {
     BancEtalonnage banc;
     banc.enregistreur.ReglerEtalonnage(1000, 0x01, 102, 104, 820, 815);

@@ -162,6 +162,7 @@ TEST(CalibrationReference, ThatIsNoNumberBecomesZeroWithoutAWord) {
 
 TEST(CalibrationBoxes, GuideTheOperatorWithTheLinkClosedAndTheButtonsSet) {
     BancEtalonnage banc;
+    banc.ecran.etat.NomKpod = QStringLiteral("k-Pod TX");
     banc.Ouvrir();
     banc.Taper(0, "5");
     std::vector<std::string> situations;
@@ -182,7 +183,7 @@ TEST(CalibrationBoxes, GuideTheOperatorWithTheLinkClosedAndTheButtonsSet) {
     for (const auto& boite : banc.etabli.dialogues.boites) {
         EXPECT_EQ(boite.icone, Icone::Information);
         EXPECT_EQ(boite.boutons, Boutons::Ok);
-        EXPECT_EQ(boite.titre, QStringLiteral("k-Pod"));
+        EXPECT_EQ(boite.titre, QStringLiteral("k-Pod TX"));
     }
 }
 
@@ -204,6 +205,7 @@ TEST(CalibrationBoxes, SpeakEnglishToo) {
 
 TEST(CalibrationBoxes, AskForTheSecondPointWithTheLinkStillOpen) {
     BancEtalonnage banc;
+    banc.ecran.etat.NomKpod = QStringLiteral("k-Pod TX");
     banc.Amener(Avance::PointUn);
     int ouvertes = -1;
     banc.etabli.dialogues.pendantBoite = [&](const auto&) {
@@ -215,7 +217,7 @@ TEST(CalibrationBoxes, AskForTheSecondPointWithTheLinkStillOpen) {
     const auto& boite = banc.etabli.dialogues.boites.front();
     EXPECT_EQ(boite.icone, Icone::Question);
     EXPECT_EQ(boite.boutons, Boutons::OuiNon);
-    EXPECT_EQ(boite.titre, QStringLiteral("k-Pod"));
+    EXPECT_EQ(boite.titre, QStringLiteral("k-Pod TX"));
     EXPECT_EQ(boite.texte, QStringLiteral("Voulez-vous étalonner un 2e point ?"));
     EXPECT_EQ(ouvertes, 2);
 }
