@@ -70,7 +70,7 @@ GSM::~GSM() = default;
 void GSM::Charger() {
     ui->ValeurImpulsion->setText(ValeurEnregistree(ecran));
     ui->ListeUniteImpulsion->Choisir(UniteEnregistree(ecran, ui->ListeUniteImpulsion->Nombre()));
-    setWindowTitle(ecran.Texte(QStringLiteral("mnuGSM")));
+    ignorer([this] { setWindowTitle(ecran.Texte(QStringLiteral("mnuGSM"))); });
     TraduireFiche(*this, ecran);
 }
 

@@ -20,7 +20,7 @@ frmProduction::frmProduction(MainScreen& lEcran, QWidget* parent)
 frmProduction::~frmProduction() = default;
 
 void frmProduction::Preparer() {
-    setWindowTitle(ecran.Texte(QStringLiteral("mnurapport")));
+    ignorer([this] { setWindowTitle(ecran.Texte(QStringLiteral("mnurapport"))); });
     TraduireFiche(*this, ecran);
     ui->Commande->setFocus();
     ui->Commande->selectAll();

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QFile>
+
 #include "dialog_bench.h"
 #include "ui_production_form.h"
 
@@ -78,6 +80,17 @@ TEST_F(FicheProduction, WalksWithTheTabKeyFromOrderToCommentToButton) {
             EXPECT_EQ(fiche.focusWidget(), attendu) << Clair(attendu->objectName());
         }
     });
+}
+
+TEST_F(FicheProduction, OpensWithTheCaptionsOfItsDesignWhenTheCatalogueCannotBeRead) {
+    ASSERT_TRUE(QFile::remove(banc.etabli.Chemin(QStringLiteral("config.xml"))));
+    Montrer([](frmProduction& fiche) {
+        EXPECT_EQ(Clair(fiche.ui->LabelNumeroCommande->text()), "N° de commande");
+        fiche.ui->Commande->setText(QStringLiteral("19"));
+        BancDialogue::Cliquer(fiche.ui->PrintReport);
+    });
+    EXPECT_EQ(banc.etabli.Lire(QStringLiteral("19.log")).count("\r\n"), 22);
+    EXPECT_TRUE(banc.etabli.fautes.empty());
 }
 
 TEST_F(FicheProduction, FindsAllItsTextsInTheDeliveredCatalogue) {
