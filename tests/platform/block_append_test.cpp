@@ -1,17 +1,15 @@
 #include "platform/block_append.h"
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <QFile>
 #include <QTemporaryDir>
-#include <csignal>
 #include <cstring>
 
 #include "platform/fault.h"
 #include "support/fault_number.h"
+#include "support/limits.h"
 
 namespace bornika::essai {
 namespace {
@@ -32,34 +30,6 @@ struct BlocAjoute : testing::Test {
     int Numero(const QString& chemin) {
         return NumeroDeFaute([&] { AjouterBloc(chemin, "bloc\r\n"); });
     }
-};
-
-/// While it lives no file of this process grows beyond so many bytes.
-class TailleLimitee {
-  public:
-    explicit TailleLimitee(rlim_t octets) {
-        std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &avant_);
-        const rlimit etroite{octets, avant_.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &etroite);
-    }
-    ~TailleLimitee() { setrlimit(RLIMIT_FSIZE, &avant_); }
-
-  private:
-    rlimit avant_{};
-};
-
-/// While it lives this process is an ordinary user: the superuser may write everything.
-class SansPrivilege {
-  public:
-    SansPrivilege() : avant_(geteuid()) {
-        if (avant_ == 0) [[maybe_unused]]
-            const int rendu = seteuid(65534);
-    }
-    ~SansPrivilege() { [[maybe_unused]] const int rendu = seteuid(avant_); }
-
-  private:
-    uid_t avant_;
 };
 
 TEST_F(BlocAjoute, CreatesTheFileAndPutsEachBlockBehindTheLast) {

@@ -104,6 +104,23 @@ TEST_F(FicheGsm, AStoredUnitThatTheListDoesNotHaveStaysUntilOneIsChosen) {
     EXPECT_TRUE(banc.etabli.fautes.empty());
 }
 
+TEST_F(FicheGsm, SettingsThatTheConfigurationDoesNotHaveAreEmptyAndAreNotAdded) {
+    QByteArray sans = banc.etabli.Lire(QStringLiteral("config.xml"));
+    sans.replace("<valeur_impulsion>1</valeur_impulsion>", "");
+    sans.replace("<unite_impulsion>0</unite_impulsion>", "");
+    ASSERT_FALSE(sans.contains("_impulsion>"));
+    banc.etabli.Ecrire(QStringLiteral("config.xml"), sans);
+    Montrer([](GSM& fiche) {
+        EXPECT_EQ(Clair(fiche.ui->ValeurImpulsion->text()), "");
+        EXPECT_EQ(fiche.ui->ListeUniteImpulsion->Index(), 0);
+        fiche.ui->ValeurImpulsion->setText(QStringLiteral("3"));
+        BancDialogue::Cliquer(fiche.ui->Valider);
+        EXPECT_FALSE(fiche.isVisible());
+    });
+    EXPECT_EQ(banc.etabli.Lire(QStringLiteral("config.xml")), sans);
+    EXPECT_TRUE(banc.etabli.dialogues.boites.empty());
+}
+
 TEST_F(FicheGsm, ThePresenceMessageShowsAndEnablesItsPeriod) {
     Montrer([](GSM& fiche) {
         auto& ui = *fiche.ui;

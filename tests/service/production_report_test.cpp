@@ -1,14 +1,14 @@
 #include "service/production_report.h"
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 
+#include <QDir>
 #include <QFile>
-#include <csignal>
 
 #include "dialog_bench.h"
 #include "service/production_form.h"
 #include "support/fault_number.h"
+#include "support/limits.h"
 #include "ui_production_form.h"
 
 namespace bornika::essai {
@@ -111,6 +111,13 @@ TEST_F(Rapport, OfALoggerThatWasChosenAndNotReadShowsTheLabelAsItStands) {
     Imprimer();
     EXPECT_TRUE(Journal().contains("Version : k-Pod 33 k-Pod 33 = 20 2-120\r\n"));
     EXPECT_TRUE(banc.etabli.fautes.empty());
+}
+
+TEST_F(Rapport, InAFolderOfTheOtherEditionBearsItsNames) {
+    ASSERT_TRUE(QDir(banc.etabli.systeme.dossier).mkdir(QStringLiteral("Z907")));
+    banc.etabli.systeme.dossier += QStringLiteral("/Z907");
+    Imprimer();
+    EXPECT_TRUE(Journal().contains("Version : Z907PT--\r\n"));
 }
 
 TEST_F(Rapport, SpeaksTheLanguageOfTheMainFormAtThatMoment) {
@@ -228,16 +235,34 @@ TEST_F(Rapport, OnAFullDiskNamesTheFileAndLeavesTheFormShown) {
 
 TEST_F(Rapport, OfADiskThatFillsUpInTheMiddleLeavesOnlyWholeBlocks) {
     Imprimer();
+    fiche.show();
     const QByteArray avant = Journal();
-    std::signal(SIGXFSZ, SIG_IGN);
-    rlimit large{};
-    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &large), 0);
-    const rlimit etroite{static_cast<rlim_t>(avant.size()) + 100, large.rlim_max};
-    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &etroite), 0);
-    const FauteExecution faute = Faute();
-    setrlimit(RLIMIT_FSIZE, &large);
+    FauteExecution faute(0);
+    {
+        const TailleLimitee limite(static_cast<rlim_t>(avant.size()) + 100);
+        faute = Faute();
+    }
     EXPECT_EQ(faute.numero(), 70);
     EXPECT_EQ(Journal(), avant);
+    EXPECT_TRUE(fiche.isVisible());
+}
+
+TEST_F(Rapport, OfAReadOnlyLogIsAClearFaultAndLeavesItAsItIs) {
+    Poser("ancien\r\n");
+    const QString journal = banc.etabli.Chemin(QStringLiteral("CDE-17.log"));
+    ASSERT_TRUE(QFile::setPermissions(journal, QFile::ReadOwner | QFile::ReadOther));
+    ASSERT_TRUE(QFile::setPermissions(banc.etabli.systeme.dossier,
+                                      QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner |
+                                          QFile::ReadOther | QFile::ExeOther));
+    FauteExecution faute(0);
+    {
+        const SansPrivilege ordinaire;
+        faute = Faute();
+    }
+    EXPECT_EQ(faute.numero(), 70);
+    EXPECT_TRUE(faute.texte().startsWith(journal)) << Clair(faute.texte());
+    EXPECT_EQ(Journal(), "ancien\r\n");
+    EXPECT_TRUE(fiche.isVisible());
 }
 
 TEST_F(Rapport, OfAnOrderNumberThatCannotBeAFileNameIsAClearFault) {
