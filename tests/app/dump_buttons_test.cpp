@@ -101,9 +101,8 @@ TEST_F(DumpButtons, ACancelledDialogAndALostLoggerLeaveNoContextFile) {
 TEST_F(DumpButtons, AContextFileThatCannotBeMadeIsTheGeneralFailure) {
     banc.etabli.dialogues.fichiers = {banc.etabli.Chemin(QStringLiteral("absent/") + contexte)};
     BancProgramme::Cliquer(banc.ui().LireEeprom);
-    EXPECT_EQ(
-        Boites(),
-        QStringList{QStringLiteral("Run-time error '70':\n\nContexte.txt : Permission denied")});
+    EXPECT_EQ(Boites(),
+              QStringList{QStringLiteral("Run-time error '76':\n\nContexte.txt : Path not found")});
     EXPECT_EQ(banc.sorties, std::vector<int>{1});
 }
 
