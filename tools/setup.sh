@@ -1,8 +1,8 @@
 # Sourced by ./run, ./test and .ci/run: installs the Debian packages that are missing.
 # Says aloud what it is about to install, and asks for nothing when all is there.
 
-packages_build=(build-essential cmake ninja-build qt6-base-dev libgl-dev libqcustomplot-dev
-    libpugixml-dev libusb-1.0-0-dev pkg-config fonts-dejavu-core)
+packages_build=(build-essential cmake ninja-build qt6-base-dev qt6-translations-l10n libgl-dev
+    libqcustomplot-dev libpugixml-dev libusb-1.0-0-dev pkg-config fonts-dejavu-core)
 packages_test=(libgtest-dev libgmock-dev clang-format poppler-utils)
 packages_bench=(libbenchmark-dev)
 

@@ -5,6 +5,7 @@
 #include "shell/main_screen.h"
 #include "shell/text_catalogue.h"
 #include "shell/threshold_labels.h"
+#include "shell/toolkit_texts.h"
 #include "ui_main_screen.h"
 
 namespace bornika {
@@ -85,6 +86,7 @@ void NommerSeuils(MainScreen& ecran) {
 void ChangeTextes(MainScreen& ecran, const QString& langue, bool init) {
     auto& ui = *ecran.ui;
     const SansDessin sansDessin(ecran);
+    TraduireOutils(langue);
     if (init) ecran.configuration.RemplitListeLangues(*ui.ListeLangues, langue);
     RemplirListes(ecran, langue);
     TraduireControles(ecran, langue);
