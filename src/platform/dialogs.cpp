@@ -159,6 +159,7 @@ std::optional<QString> DialoguesQt::Enregistrer(const DemandeFichier& demande) {
     Preparer(dialogue, demande);
     dialogue.setAcceptMode(QFileDialog::AcceptSave);
     dialogue.setFileMode(QFileDialog::AnyFile);
+    dialogue.setOption(QFileDialog::DontConfirmOverwrite, demande.ajout);
     return Demander(dialogue);
 }
 

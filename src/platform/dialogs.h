@@ -15,8 +15,8 @@ enum class Boutons { Ok, OkAnnuler, OuiNon };
 enum class Reponse { Ok, Annuler, Oui, Non };
 
 /// What a file dialog is asked for. `filtre` is in the form "label|*.txt" with several pairs joined
-/// by
-/// "|"; `suffixe` in the form "*.txt". Both letter cases of an extension are accepted when shown.
+/// by "|"; `suffixe` in the form "*.txt". Both letter cases of an extension are accepted when
+/// shown.
 struct DemandeFichier {
     QString titre;
     QString nom;
@@ -24,6 +24,8 @@ struct DemandeFichier {
     QString filtre;
     QString dossier;
     bool plusieurs = false;
+    /// The file will be added to, so that nobody has to be asked whether it may be replaced.
+    bool ajout = false;
 };
 
 /// What a print preview is asked for: one page.
@@ -51,7 +53,8 @@ class Dialogues {
     /// one text: the folder, then each name, separated by NUL.
     virtual std::optional<QString> Ouvrir(const DemandeFichier& demande) = 0;
 
-    /// File to save to (the dialog asks before it gives an existing one), nothing when cancelled.
+    /// File to save to, nothing when cancelled. The dialog asks before it gives an existing one
+    /// that would be replaced.
     virtual std::optional<QString> Enregistrer(const DemandeFichier& demande) = 0;
 
     /// Colour dialog starting at `depart`, both in the form 0xBBGGRR; nothing when cancelled.

@@ -29,6 +29,7 @@ QString DemanderJournal(Systeme& systeme) {
     DemandeFichier demande;
     demande.filtre = QStringLiteral("Log Files (*.LOG)|*.LOG");
     demande.dossier = systeme.dossier;
+    demande.ajout = true;
     return systeme.dialogues.Enregistrer(demande).value_or(QString());
 }
 

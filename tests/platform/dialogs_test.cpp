@@ -243,6 +243,17 @@ TEST_F(DialogueFichier, AsksBeforeItGivesAnExistingFileToSave) {
     EXPECT_TRUE(demandee);
 }
 
+TEST_F(DialogueFichier, GivesAnExistingFileToAddToWithoutAsking) {
+    demande.ajout = true;
+    DesQuilEstLa<QFileDialog>([](QFileDialog& dialogue) {
+        if (dialogue.testOption(QFileDialog::DontConfirmOverwrite))
+            Taper(QStringLiteral("a.txt"))(dialogue);
+        else
+            dialogue.reject();
+    });
+    EXPECT_EQ(DialoguesQt().Enregistrer(demande), Chemin("a.txt"));
+}
+
 TEST_F(DialogueFichier, ShowsTheNameTold) {
     demande.nom = QStringLiteral("REC.txt");
     QString montre;

@@ -195,6 +195,7 @@ TEST_F(Rapport, WithoutAnOrderNumberAsksForTheFile) {
     EXPECT_EQ(demande.filtre, QStringLiteral("Log Files (*.LOG)|*.LOG"));
     EXPECT_EQ(demande.dossier, banc.etabli.systeme.dossier);
     EXPECT_FALSE(demande.plusieurs);
+    EXPECT_TRUE(demande.ajout);
     QByteArray attendu = blocSansEnregistreur;
     attendu.replace("CDE-17", "");
     EXPECT_EQ(Journal("a part.txt"), attendu);
