@@ -341,6 +341,17 @@ TEST_F(DeliveredConfig, GivesValueLabelsNeutralTextsAndHelpASentence) {
     }
 }
 
+TEST_F(DeliveredConfig, NamesInTheHintsBelowTheListOfLoggersWhatTheySendTo) {
+    const QString regle = QStringLiteral("60-bornika.rules");
+    ASSERT_TRUE(QFile::exists(QStringLiteral(BORNIKA_RESOURCES "/../packaging/") + regle));
+    for (const auto& [langue, textes] : livree.messages) {
+        const std::map<QString, QString> parCle(textes.begin(), textes.end());
+        EXPECT_TRUE(parCle.at(QStringLiteral("IndicationSansDroits")).contains(regle));
+        EXPECT_TRUE(
+            parCle.at(QStringLiteral("IndicationSansReglage")).contains(QLatin1String("Usb")));
+    }
+}
+
 TEST_F(DeliveredConfig, HasNoEntryForTheComputedDuration) {
     for (const auto& [langue, entrees] : livree.messages)
         for (const auto& [cle, texte] : entrees)
