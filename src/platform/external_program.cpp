@@ -40,15 +40,35 @@ class Enfant : public ProgrammeExterne {
     bool fini_ = false;
 };
 
+/// A session of its own: what ends this program from its terminal, such as Ctrl+C, does not reach
+/// the other one.
+class AttributsDeLancement {
+  public:
+    AttributsDeLancement() {
+        posix_spawnattr_init(&attributs_);
+        posix_spawnattr_setflags(&attributs_, POSIX_SPAWN_SETSID);
+    }
+    ~AttributsDeLancement() { posix_spawnattr_destroy(&attributs_); }
+    AttributsDeLancement(const AttributsDeLancement&) = delete;
+    AttributsDeLancement& operator=(const AttributsDeLancement&) = delete;
+
+    const posix_spawnattr_t* Adresse() const { return &attributs_; }
+
+  private:
+    posix_spawnattr_t attributs_;
+};
+
 }  // namespace
 
 std::unique_ptr<ProgrammeExterne> LancerProgramme(const QString& programme,
                                                   const QString& argument) {
     QByteArray chemin = QFile::encodeName(programme);
-    QByteArray texte = argument.toLocal8Bit();
+    QByteArray texte = argument.toUtf8();
     char* const arguments[] = {chemin.data(), texte.data(), nullptr};
+    const AttributsDeLancement attributs;
     pid_t pid = 0;
-    if (posix_spawn(&pid, chemin.constData(), nullptr, nullptr, arguments, environ) != 0)
+    if (posix_spawn(&pid, chemin.constData(), nullptr, attributs.Adresse(), arguments, environ) !=
+        0)
         return nullptr;
     return std::make_unique<Enfant>(pid);
 }

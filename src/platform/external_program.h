@@ -22,7 +22,7 @@ using Lanceur = std::function<std::unique_ptr<ProgrammeExterne>(const QString& p
 
 /// The operating system's own way, without a shell: whatever blanks, quotes or letters the argument
 /// holds, the program gets it in one piece, in UTF-8. It runs in the current folder, with the
-/// environment of this program.
+/// environment of this program, and in a session of its own.
 std::unique_ptr<ProgrammeExterne> LancerProgramme(const QString& programme,
                                                   const QString& argument);
 

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 #include <sys/wait.h>
+#include <unistd.h>
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -61,6 +62,23 @@ TEST_F(ProgrammeLance, RunsUntilItsEndIsSeenAndThenNoMore) {
     ASSERT_TRUE(Attendre([&] { return !programme->EnCours(); }));
     EXPECT_FALSE(programme->EnCours());
     EXPECT_EQ(outil.Version(), QByteArray("1"));
+    EXPECT_TRUE(SansEnfant());
+}
+
+TEST_F(ProgrammeLance, IsOutOfReachOfTheTerminalThatStartedThisOne) {
+    const auto programme = LancerProgramme(chemin, QStringLiteral("x:1"));
+    ASSERT_TRUE(programme);
+    ASSERT_TRUE(Attendre([&] { return !programme->EnCours(); }));
+    EXPECT_FALSE(outil.Session().isEmpty());
+    EXPECT_NE(outil.Session(), QByteArray::number(getsid(0)));
+}
+
+TEST_F(ProgrammeLance, IsAtItsEndWhenItDies) {
+    outil.FaireMourir();
+    const auto programme = LancerProgramme(chemin, QStringLiteral("x:1"));
+    ASSERT_TRUE(programme);
+    EXPECT_TRUE(Attendre([&] { return !programme->EnCours(); }));
+    EXPECT_EQ(outil.Version(), QByteArray());
     EXPECT_TRUE(SansEnfant());
 }
 

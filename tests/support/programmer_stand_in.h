@@ -15,10 +15,14 @@ class OutilDEssai {
 
     /// It runs on until it is let go.
     void Retenir() const { QFile(Chemin("tool-hold")).open(QIODevice::WriteOnly); }
+    /// It dies in the middle of its work.
+    void FaireMourir() const { QFile(Chemin("tool-die")).open(QIODevice::WriteOnly); }
     void Liberer() const { QFile::remove(Chemin("tool-hold")); }
 
     /// What it was given, each argument followed by NUL.
     QByteArray Arguments() const { return Lire("tool-arguments"); }
+    /// The session that it runs in.
+    QByteArray Session() const { return Lire("tool-session"); }
     /// The version that it has transferred; empty before its end.
     QByteArray Version() const { return Lire("tool-version"); }
 
