@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QSet>
+
 namespace bornika {
 namespace {
 
@@ -64,6 +66,34 @@ TEST(NomFirmware, MustTellAVersionWithinTheBoundsOfItsType) {
     for (const CasNom& c : cas)
         EXPECT_EQ(EstFirmwarePour(q(c.chemin), c.type, c.drapeau), c.accepte)
             << c.chemin << " for type " << c.type;
+}
+
+// Every type of the family and some beyond it, in both editions, with every name and a ladder of
+// versions around each bound.
+TEST(NomFirmware, IsHeldAgainstTypeEditionNameAndVersionTogether) {
+    const char* const noms[] = {"K-POD", "K-POD-33", "Z907PT", "Z907FPT"};
+    const char* const echelle[] = {"0.289", "2.098", "2.109", "2.1099", "2.11",   "2.1101",
+                                   "2.111", "2.112", "2.119", "2.1199", "2.12",   "2.1201",
+                                   "2.2",   "3",     "10.1",  "0",      "2.1119", "2.113"};
+    // What each type with a rule takes, spelled out.
+    const QSet<QString> bas{"0.289", "2.098", "2.109", "2.1099", "0"};
+    const QSet<QString> des2112{"2.112",  "2.113", "2.119", "2.1199", "2.12",
+                                "2.1201", "2.2",   "3",     "10.1"};
+    const QSet<QString> des2120{"2.12", "2.1201", "2.2", "3", "10.1"};
+    for (int type = 0; type <= 24; ++type)
+        for (const bool z907 : {false, true})
+            for (const char* nom : noms)
+                for (const char* version : echelle) {
+                    bool attendu = true;
+                    if (type == 1)
+                        attendu = q(nom) == q(z907 ? "Z907PT" : "K-POD") && bas.contains(version);
+                    if (type == 19 || type == 20)
+                        attendu = q(nom) == q(z907 ? "Z907FPT" : "K-POD-33") &&
+                                  (type == 19 ? des2112 : des2120).contains(version);
+                    const QString chemin = QStringLiteral("/f/%1_V%2.HEX").arg(nom, version);
+                    EXPECT_EQ(EstFirmwarePour(chemin, type, z907), attendu)
+                        << chemin.toStdString() << " for type " << type << (z907 ? ", Z907" : "");
+                }
 }
 
 TEST(NomFirmware, WithoutAVersionInItCountsAsVersionZero) {
