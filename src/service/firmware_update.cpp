@@ -2,6 +2,7 @@
 
 #include "link/device_identity.h"
 #include "service/firmware_file.h"
+#include "service/firmware_notice.h"
 #include "service/serial_number.h"
 #include "shell/text_catalogue.h"
 #include "ui_main_screen.h"
@@ -42,13 +43,17 @@ class MiseAJourFirmware {
     bool ProduitPermis();
     bool NomValide();
     void Transferer();
+    QString RelireVersion();
     void RendreIdentite();
+    void SignalerNumero();
 
     Poste& poste_;
     MainScreen& ecran_;
     EtatApplication& etat_;
     const bool drapeau_;
     const IdentifiantUsb usb_;
+    AvisFirmware avis_{ecran_};
+    bool transferee_ = false;
     double ancienneVersion_ = 0;
     QString numeroSerie_;
     QString fichier_;
@@ -100,22 +105,41 @@ void MiseAJourFirmware::Transferer() {
     const AppelChargeur appel =
         CommandeChargeur(systeme.dossier, ecran_.Langue(), usb_, fichier_, etat_.TypekPod);
     const auto outil = systeme.lancer(appel.programme, appel.argument);
-    while (outil && !etat_.EnFermeture && outil->EnCours()) {
+    if (!outil) return avis_.SansOutil(appel.programme);
+    transferee_ = true;
+    avis_.EnCours(fichier_);
+    while (!etat_.EnFermeture && outil->EnCours()) {
         systeme.horloge.Pause(pauseEntreRegards);
         systeme.respiration.Ceder();
     }
+    avis_.Fini();
+}
+
+/// The form shows what the logger is now. "" from a logger that gives no version.
+QString MiseAJourFirmware::RelireVersion() {
+    bool ok = true;
+    const QString version = LitVersionKpod(poste_, ok);
+    if (!version.isEmpty()) ecran_.ui->Version->setText(version);
+    return version;
 }
 
 void MiseAJourFirmware::RendreIdentite() {
-    if (etat_.TimeOut) return;
-    bool ok = true;
-    LitVersionKpod(poste_, ok);
+    if (etat_.TimeOut) return SignalerNumero();
+    const QString version = RelireVersion();
+    // Another logger may have been chosen meanwhile: it keeps its own number.
+    const bool autre = etat_.UsbID != usb_;
+    if (autre || version.isEmpty()) SignalerNumero();
     const bool franchie =
         ancienneVersion_ < versionNumeroSerie && etat_.VersionLogiciel >= versionNumeroSerie;
-    // Another logger may have been chosen meanwhile: it keeps its own number.
-    if (!franchie || etat_.UsbID != usb_) return;
+    if (autre || !franchie) return;
     ecran_.ui->ValeurNumeroSerie->setText(numeroSerie_);
     ProgNumeroSerie_Click(poste_);
+}
+
+/// The logger cannot be asked whether it has lost its number: the operator gets it instead.
+void MiseAJourFirmware::SignalerNumero() {
+    const bool menace = transferee_ && ancienneVersion_ < versionNumeroSerie;
+    if (menace && !numeroSerie_.isEmpty()) avis_.NumeroNonRendu(numeroSerie_);
 }
 
 /// Disables the entry while the operation lasts.

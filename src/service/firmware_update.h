@@ -10,7 +10,8 @@ namespace bornika {
 ///
 /// The menu entry is disabled meanwhile: one update at a time. A tool that cannot be started counts
 /// as one that has ended. Closing the program ends the waiting, never the tool: it goes on to the
-/// end of its transfer.
+/// end of its transfer. What the operator should know of all this stands in `Infos`, a number that
+/// could not be written back above all; no box tells it.
 void nmuBootLoad_Click(Poste& poste);
 
 }  // namespace bornika

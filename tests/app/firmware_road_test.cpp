@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QTimer>
+#include <utility>
 
 #include "app/program_bench.h"
 #include "support/programmer_stand_in.h"
@@ -49,13 +50,14 @@ struct FirmwareRoad : testing::Test {
             auto processus = LancerProgramme(programme, argument);
             lances.push_back(processus != nullptr);
             if (!processus) return nullptr;
-            return std::make_unique<OutilQuiReprogramme>(std::move(processus),
-                                                         [this] { Reprogrammer(); });
+            return std::make_unique<OutilQuiReprogramme>(std::move(processus), fin);
         };
         ASSERT_TRUE(banc.Demarrer());
         ASSERT_EQ(banc.ui().ListeLangues->Texte(), QString::fromUtf8("Français"));
         pod.journal.Vider();
     }
+    /// The line below the bars as the operator sees it.
+    QString Ligne() { return banc.ui().Infos->isVisible() ? banc.ui().Infos->text() : QString(); }
     QString CheminOutil() { return banc.etabli.Chemin(QStringLiteral("Chargeur_m_v239.exe")); }
     /// The logger takes over the version that the tool has left for it; its number is gone.
     void Reprogrammer() {
@@ -71,6 +73,8 @@ struct FirmwareRoad : testing::Test {
         banc.ui().nmuBootLoad->trigger();
     }
 
+    /// What has become of the logger once the tool has ended.
+    std::function<void()> fin = [this] { Reprogrammer(); };
     /// For each start: whether there was a process.
     std::vector<bool> lances;
 };
@@ -80,10 +84,12 @@ TEST_F(FirmwareRoad, FromTheClickToTheNumberWrittenBackWithALivingWindow) {
     outil.Retenir();
     // The hand clicks while the tool runs; the tool is let go only after that.
     int battements = 0;
+    QString pendant;
     QTimer main;
     QObject::connect(&main, &QTimer::timeout, &main, [&] {
         if (outil.Arguments().isEmpty() || ++battements != 5) return;
         BancProgramme::Cliquer(banc.ui().PressionAbsolue);
+        pendant = Ligne();
         banc.ui().nmuBootLoad->trigger();
         outil.Liberer();
     });
@@ -92,6 +98,8 @@ TEST_F(FirmwareRoad, FromTheClickToTheNumberWrittenBackWithALivingWindow) {
     Cliquer();
 
     EXPECT_GE(battements, 5);
+    EXPECT_EQ(pendant, QString::fromUtf8("Mise à jour du firmware : K-POD_V2_100.HEX"));
+    EXPECT_EQ(Ligne(), QString());
     EXPECT_NE(banc.ui().PressionAbsolue->isChecked(), avant);
     EXPECT_EQ(outil.Arguments(), QStringLiteral("LANGUE=Français ;device=k-pod;USBID=%1;prg=%2;"
                                                 "prodcode=1:2.100")
@@ -104,6 +112,7 @@ TEST_F(FirmwareRoad, FromTheClickToTheNumberWrittenBackWithALivingWindow) {
     EXPECT_EQ(pod.journal.DeCode(5),
               (std::vector<std::vector<std::uint8_t>>{{5, 0x12, 0x34, 0x56, 0x78, 32, 32, 32}}));
     EXPECT_EQ(banc.ecran().etat.VersionLogiciel, 2.1);
+    EXPECT_EQ(banc.ui().Version->text(), QStringLiteral("k-Pod = 1 2-100"));
     EXPECT_EQ(banc.etabli.dialogues.boites.size(), 1U);
     EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);
 
@@ -116,8 +125,56 @@ TEST_F(FirmwareRoad, WithoutTheToolLooksAtTheVersionAgainAndChangesNothing) {
     EXPECT_EQ(lances, std::vector{false});
     EXPECT_EQ(pod.journal.Codes(), (std::vector<int>{9, 6, 9}));
     EXPECT_EQ(banc.etabli.dialogues.boites.size(), 1U);
+    EXPECT_TRUE(Ligne().endsWith(CheminOutil())) << Ligne().toStdString();
     EXPECT_TRUE(banc.ui().nmuBootLoad->isEnabled());
     EXPECT_TRUE(banc.sorties.empty());
+}
+
+TEST_F(FirmwareRoad, AToolThatDiesLeavesTheLoggerAsItIs) {
+    const OutilDEssai outil(CheminOutil());
+    outil.FaireMourir();
+    fin = [] {};
+    Cliquer();
+    EXPECT_EQ(lances, std::vector{true});
+    EXPECT_EQ(pod.journal.Codes(), (std::vector<int>{9, 6, 9}));
+    EXPECT_EQ(banc.etabli.dialogues.boites.size(), 1U);
+    EXPECT_EQ(banc.ui().Version->text(), QStringLiteral("k-Pod = 1 20-95"));
+    EXPECT_TRUE(banc.ui().nmuBootLoad->isEnabled());
+}
+
+TEST_F(FirmwareRoad, ALoggerPulledOutMeanwhileLosesNoNumberWithoutAWord) {
+    const OutilDEssai outil(CheminOutil());
+    fin = [this] { banc.bus.Debrancher(pod.identite.usb); };
+    Cliquer();
+    EXPECT_EQ(pod.journal.Codes(), (std::vector<int>{9, 6}));
+    EXPECT_EQ(banc.etabli.dialogues.boites.size(), 1U);
+    EXPECT_EQ(
+        Ligne(),
+        QString::fromUtf8("N° de série qui n'a pas été rendu à l'enregistreur : %1").arg(numero));
+    EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);
+    EXPECT_TRUE(banc.ui().nmuBootLoad->isEnabled());
+    EXPECT_TRUE(banc.sorties.empty());
+}
+
+TEST_F(FirmwareRoad, ReadingWhileTheToolHasTheLoggerLosesNoNumberWithoutAWord) {
+    const OutilDEssai outil(CheminOutil());
+    outil.Retenir();
+    bool lu = false;
+    QTimer main;
+    QObject::connect(&main, &QTimer::timeout, &main, [&] {
+        if (outil.Arguments().isEmpty() || std::exchange(lu, true)) return;
+        // The logger hears nobody but the tool.
+        banc.bus.Debrancher(pod.identite.usb);
+        BancProgramme::Cliquer(banc.ui().Lire);
+        banc.bus.Rebrancher(pod.identite.usb);
+        outil.Liberer();
+    });
+    main.start(1);
+    Cliquer();
+    EXPECT_TRUE(lu);
+    ASSERT_EQ(banc.etabli.dialogues.boites.size(), 2U);
+    EXPECT_EQ(banc.etabli.dialogues.boites[1].texte, QStringLiteral("k-Pod absent"));
+    EXPECT_TRUE(Ligne().endsWith(QString::number(numero))) << Ligne().toStdString();
 }
 
 TEST_F(FirmwareRoad, ClosingTheProgramLeavesTheToolToItsTransfer) {

@@ -1,130 +1,7 @@
-#include "service/firmware_update.h"
+#include "service/firmware_bench.h"
 
-#include <gtest/gtest.h>
-
-#include <QDir>
-
-#include "simulator/presets.h"
-#include "simulator/simulated_bus.h"
-#include "support/fake_system.h"
-#include "ui_main_screen.h"
-
-namespace bornika::essai {
+namespace bornika::essai::firmware {
 namespace {
-
-using simulateur::GenrePanne;
-using Codes = std::vector<int>;
-using Contenus = std::vector<std::vector<std::uint8_t>>;
-
-constexpr std::uint32_t maintenant = 1772719629;
-const Codes identite{9, 6};
-const Codes identiteEtVersion{9, 6, 9};
-const Codes identiteVersionEtNumero{9, 6, 9, 5};
-
-QString q(const char* texte) {
-    return QString::fromUtf8(texte);
-}
-
-/// Stands in for the starting of programs: notes each call; the program runs for some looks.
-struct LanceurNote {
-    struct Appel {
-        QString programme;
-        QString argument;
-        bool operator==(const Appel&) const = default;
-    };
-    class Programme : public ProgrammeExterne {
-      public:
-        explicit Programme(LanceurNote& note) : note_(note) {}
-        ~Programme() override { ++note_.laisses; }
-        bool EnCours() override {
-            if (note_.regards == note_.duree) {
-                if (note_.fin) note_.fin();
-                return false;
-            }
-            ++note_.regards;
-            return true;
-        }
-
-      private:
-        LanceurNote& note_;
-    };
-
-    std::vector<Appel> appels;
-    bool introuvable = false;
-    /// Looks that find the program running.
-    int duree = 1;
-    int regards = 0;
-    int laisses = 0;
-    /// Runs at the start, and once the program is found at its end.
-    std::function<void()> debut;
-    std::function<void()> fin;
-
-    std::unique_ptr<ProgrammeExterne> operator()(const QString& programme,
-                                                 const QString& argument) {
-        appels.push_back({programme, argument});
-        if (introuvable) return nullptr;
-        if (debut) debut();
-        return std::make_unique<Programme>(*this);
-    }
-};
-
-/// A program's folder, with one of its own in it for the Z907 edition.
-struct Edition : Etabli {
-    Edition(InterfaceUsb& usb, bool drapeau) : Etabli(&usb) {
-        if (!drapeau) return;
-        const QString sousDossier = systeme.Chemin(QStringLiteral("Z907 tools"));
-        QDir().mkpath(sousDossier);
-        QFile::copy(systeme.Chemin(QStringLiteral("config.xml")),
-                    sousDossier + QStringLiteral("/config.xml"));
-        systeme.dossier = sousDossier;
-    }
-};
-
-struct Banc {
-    explicit Banc(simulateur::PtrEnregistreur logger, bool drapeau = false)
-        : pod(bus.Brancher(std::move(logger))), etabli(bus, drapeau) {
-        etabli.systeme.lancer = std::ref(outil);
-        ecran.ui->ListeLangues->Ajouter(q("Français"));
-        ecran.ui->ListeLangues->Choisir(0);
-        ecran.etat.UsbID = pod.identite.usb;
-        ecran.etat.TypekPod = pod.identite.type;
-        ecran.etat.NomKpod = q("k-Pod of Zoé");
-        Prendre("/f/K-POD_V2.100.HEX");
-    }
-    void Prendre(const char* fichier) { etabli.dialogues.fichiers = {q(fichier)}; }
-    void Maintenance() {
-        ecran.configuration.EcritConfig(QStringLiteral("True"), QStringLiteral("Maintenance"));
-    }
-    /// What the tool does to the logger: another version, and no serial number any more.
-    void Reprogrammer(std::uint8_t haute, std::uint8_t basse) {
-        pod.identite.versionHaute = haute;
-        pod.identite.versionBasse = basse;
-        pod.ReglerNumeroSerie(0xFFFFFFFF);
-    }
-    void Cliquer() { nmuBootLoad_Click(poste); }
-
-    Codes Trames() const { return pod.journal.Codes(); }
-    /// Texts of the boxes after the question.
-    QStringList Boites() const {
-        QStringList textes;
-        for (std::size_t i = 1; i < etabli.dialogues.boites.size(); ++i)
-            textes << etabli.dialogues.boites[i].texte;
-        return textes;
-    }
-
-    BusSimule bus;
-    EnregistreurSimule& pod;
-    Edition etabli;
-    LanceurNote outil;
-    MainScreen ecran{etabli.systeme};
-    MULTIUSB lien{ecran};
-    Poste poste{ecran, lien};
-};
-
-/// A k-Pod 2.095.
-struct MiseAJourFirmware : testing::Test, Banc {
-    MiseAJourFirmware() : Banc(simulateur::Simple(1, 20, 95, maintenant)) {}
-};
 
 TEST_F(MiseAJourFirmware, AsksFirstAndWithoutAYesSendsNothing) {
     etabli.dialogues.reponses = {Reponse::Non};
@@ -154,12 +31,17 @@ TEST_F(MiseAJourFirmware, RemembersVersionAndNumberBeforeItAsksForTheFile) {
 }
 
 TEST_F(MiseAJourFirmware, CancelledInTheFileDialogSendsNothingMore) {
-    etabli.dialogues.fichiers = {std::nullopt};
-    Cliquer();
-    EXPECT_EQ(Trames(), identite);
-    EXPECT_TRUE(outil.appels.empty());
-    EXPECT_EQ(Boites(), QStringList());
-    EXPECT_TRUE(ecran.ui->nmuBootLoad->isEnabled());
+    for (const std::optional<QString>& rien :
+         {std::optional<QString>(), std::optional(QString())}) {
+        pod.journal.Vider();
+        etabli.dialogues.boites.clear();
+        etabli.dialogues.fichiers = {rien};
+        Cliquer();
+        EXPECT_EQ(Trames(), identite);
+        EXPECT_TRUE(outil.appels.empty());
+        EXPECT_EQ(Boites(), QStringList());
+        EXPECT_TRUE(ecran.ui->nmuBootLoad->isEnabled());
+    }
 }
 
 TEST_F(MiseAJourFirmware, HandsTheFileToTheToolBesideTheProgram) {
@@ -254,6 +136,15 @@ TEST(MiseAJourFirmwareVersions, WriteTheNumberBackFromBelow2098UpTo2098OrMoreOnl
             << '-' << int{c.apres.basse};
         EXPECT_EQ(banc.Boites(), QStringList());
     }
+}
+
+TEST_F(MiseAJourFirmware, TakesTheVersionReadLastForTheOldOneWhenTheEchoIsWrong) {
+    ecran.etat.VersionLogiciel = 2.098;
+    pod.pannes.Ordonner({.code = 9, .genre = GenrePanne::mauvaisEcho});
+    outil.fin = [&] { Reprogrammer(2, 100); };
+    Cliquer();
+    EXPECT_EQ(Trames(), identiteEtVersion);
+    EXPECT_EQ(Boites(), QStringList());
 }
 
 TEST_F(MiseAJourFirmware, SaysThatANumberItCouldNotReadIsNotValid) {
@@ -435,4 +326,4 @@ TEST_F(MiseAJourFirmware, GivesTheNumberToNoOtherLogger) {
 }
 
 }  // namespace
-}  // namespace bornika::essai
+}  // namespace bornika::essai::firmware

@@ -43,6 +43,8 @@ inline constexpr const char* clesMessages[] = {
     "Ouvrir Fichier HEX",
     "Invalid File Name",
     "Invalid Version Number",
+    "FirmwareSansOutil",
+    "FirmwareNumeroNonRendu",
 };
 
 // Captions and messages of the other forms.
