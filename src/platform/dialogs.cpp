@@ -15,6 +15,13 @@ namespace bornika {
 
 namespace {
 
+// The form below. Right behind another box the window system has not activated it again yet: then
+// it is the dialog that waits for both, so that the second box comes up where the first one was.
+QWidget* Parent() {
+    QWidget* active = QApplication::activeWindow();
+    return active ? active : QApplication::activeModalWidget();
+}
+
 // A box that is answered by one of its buttons only.
 class BoiteSansFuite : public QMessageBox {
   public:
@@ -128,7 +135,7 @@ QString FiltrePourDialogue(const QString& filtre) {
 
 Reponse DialoguesQt::Boite(Icone icone, Boutons boutons, const QString& titre,
                            const QString& texte) {
-    QWidget* parent = QApplication::activeWindow();
+    QWidget* parent = Parent();
     if (boutons == Boutons::OuiNon) {
         BoiteSansFuite boite(parent);
         Preparer(boite, icone, titre, texte);
@@ -146,7 +153,7 @@ Reponse DialoguesQt::Boite(Icone icone, Boutons boutons, const QString& titre,
 }
 
 std::optional<QString> DialoguesQt::Ouvrir(const DemandeFichier& demande) {
-    QFileDialog dialogue(QApplication::activeWindow());
+    QFileDialog dialogue(Parent());
     Preparer(dialogue, demande);
     dialogue.setAcceptMode(QFileDialog::AcceptOpen);
     dialogue.setFileMode(demande.plusieurs ? QFileDialog::ExistingFiles
@@ -155,7 +162,7 @@ std::optional<QString> DialoguesQt::Ouvrir(const DemandeFichier& demande) {
 }
 
 std::optional<QString> DialoguesQt::Enregistrer(const DemandeFichier& demande) {
-    QFileDialog dialogue(QApplication::activeWindow());
+    QFileDialog dialogue(Parent());
     Preparer(dialogue, demande);
     dialogue.setAcceptMode(QFileDialog::AcceptSave);
     dialogue.setFileMode(QFileDialog::AnyFile);
@@ -164,7 +171,7 @@ std::optional<QString> DialoguesQt::Enregistrer(const DemandeFichier& demande) {
 }
 
 std::optional<std::uint32_t> DialoguesQt::Couleur(std::uint32_t depart) {
-    const QColor choisie = QColorDialog::getColor(VersQColor(depart), QApplication::activeWindow());
+    const QColor choisie = QColorDialog::getColor(VersQColor(depart), Parent());
     if (!choisie.isValid()) return {};
     return DepuisQColor(choisie);
 }

@@ -82,6 +82,24 @@ TEST(Boite, OfYesAndNoCanBeLeftByItsButtonsOnly) {
     EXPECT_EQ(Repondre(Boutons::OuiNon, resister(QMessageBox::No)), Reponse::Non);
 }
 
+TEST(Boite, BehindAnotherBoxBelongsToTheDialogThatWaitsForBoth) {
+    QDialog dialogue;
+    dialogue.setModal(true);
+    dialogue.show();
+    for (const bool active : {true, false}) {
+        if (active)
+            dialogue.activateWindow();
+        else
+            QApplication::setActiveWindow(nullptr);
+        const QWidget* parent = nullptr;
+        Repondre(Boutons::Ok, [&](QMessageBox& boite) {
+            parent = boite.parentWidget();
+            boite.accept();
+        });
+        EXPECT_EQ(parent, &dialogue) << active;
+    }
+}
+
 TEST(Boite, ShowsItsTextAsPlainText) {
     const auto regarder = [](QMessageBox& boite) {
         EXPECT_EQ(boite.textFormat(), Qt::PlainText);
