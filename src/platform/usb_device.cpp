@@ -10,27 +10,39 @@ namespace {
 // polls of it.
 constexpr int silenceMs = 50;
 constexpr std::size_t placeVidage = 1024;
-// A logger that never stops talking is left alone after so many transfers.
-constexpr int transfertsVidage = 64;
+// So many transfers at most, lest the program hang with a logger that never stops talking.
+constexpr int transfertsVidage = 16;
 
-std::optional<PointsUsb> PointsDe(libusb_device* peripherique, const ReglageUsb& reglage) {
+// The alternate setting of the interface that carries the frames, and its endpoints.
+struct AccesUsb {
+    int alternatif = 0;
+    PointsUsb points;
+};
+
+std::vector<PointDecrit> PointsDecrits(const libusb_interface_descriptor& decrit) {
+    std::vector<PointDecrit> points;
+    for (const auto& point : std::span(decrit.endpoint, decrit.bNumEndpoints))
+        points.push_back(
+            {point.bEndpointAddress, point.bmAttributes, point.wMaxPacketSize, point.bInterval});
+    return points;
+}
+
+// None also for a device that the system has not configured: it has its reasons, such as a hub that
+// lacks the current for it.
+std::optional<AccesUsb> AccesDe(libusb_device* peripherique, const ReglageUsb& reglage) {
     libusb_config_descriptor* configuration = nullptr;
     if (libusb_get_active_config_descriptor(peripherique, &configuration) != LIBUSB_SUCCESS)
         return {};
     const std::unique_ptr<libusb_config_descriptor, decltype(&libusb_free_config_descriptor)> garde(
         configuration, libusb_free_config_descriptor);
     const bool rapide = libusb_get_device_speed(peripherique) >= LIBUSB_SPEED_HIGH;
-    for (const auto& interface :
-         std::span(configuration->interface, configuration->bNumInterfaces)) {
-        if (interface.num_altsetting < 1) continue;
-        const libusb_interface_descriptor& premier = interface.altsetting[0];
-        if (premier.bInterfaceNumber != reglage.Interface) continue;
-        std::vector<PointDecrit> decrits;
-        for (const auto& point : std::span(premier.endpoint, premier.bNumEndpoints))
-            decrits.push_back({point.bEndpointAddress, point.bmAttributes, point.wMaxPacketSize,
-                               point.bInterval});
-        return ChoisirPoints(decrits, reglage, rapide);
-    }
+    for (const auto& interface : std::span(configuration->interface, configuration->bNumInterfaces))
+        for (const auto& decrit :
+             std::span(interface.altsetting, static_cast<std::size_t>(interface.num_altsetting))) {
+            if (decrit.bInterfaceNumber != reglage.Interface) break;
+            if (const auto points = ChoisirPoints(PointsDecrits(decrit), reglage, rapide))
+                return AccesUsb{decrit.bAlternateSetting, *points};
+        }
     return {};
 }
 
@@ -40,17 +52,23 @@ std::shared_ptr<AppareilUsb> AppareilUsb::Ouvrir(const EnregistreurUsb& enregist
     libusb_device* const peripherique = enregistreur.peripherique.get();
     OuvertureUsb ouverture = OuvrirPeripherique(peripherique, erreur);
     if (!ouverture) return {};
-    const auto points = PointsDe(peripherique, enregistreur.reglage);
-    if (!points) {
+    const int interface = enregistreur.reglage.Interface;
+    const auto acces = AccesDe(peripherique, enregistreur.reglage);
+    if (!acces) {
         erreur = LIBUSB_ERROR_NOT_FOUND;
         return {};
     }
     // Where the system knows no detaching, there is no driver in the way either.
     libusb_set_auto_detach_kernel_driver(ouverture.get(), 1);
-    erreur = libusb_claim_interface(ouverture.get(), enregistreur.reglage.Interface);
+    erreur = libusb_claim_interface(ouverture.get(), interface);
     if (erreur != LIBUSB_SUCCESS) return {};
-    return std::shared_ptr<AppareilUsb>(
-        new AppareilUsb(enregistreur, std::move(ouverture), *points));
+    const std::shared_ptr<AppareilUsb> appareil(
+        new AppareilUsb(enregistreur, std::move(ouverture), acces->points));
+    // Setting 0 is in force after a claim, and some devices refuse to be told so.
+    if (acces->alternatif != 0)
+        erreur = libusb_set_interface_alt_setting(appareil->ouverture_.get(), interface,
+                                                  acces->alternatif);
+    return erreur == LIBUSB_SUCCESS ? appareil : nullptr;
 }
 
 AppareilUsb::AppareilUsb(const EnregistreurUsb& enregistreur, OuvertureUsb ouverture,
@@ -112,6 +130,8 @@ int AppareilUsb::Lire(std::span<std::uint8_t> octets, int& erreur) {
     // Not an empty answer but the end of the one before.
     if (erreur == LIBUSB_SUCCESS && recus == 0 && ligne_->finPossible)
         erreur = Transferer(points_.entree, place, reglage_.Delai, recus);
+    // A packet larger than the endpoint's own: nothing says which of the bytes are whole.
+    if (erreur == LIBUSB_ERROR_OVERFLOW) recus = 0;
     ligne_->finPossible = static_cast<std::size_t>(recus) == place;
     ligne_->aVider = erreur != LIBUSB_SUCCESS || recus == 0;
     const std::size_t rendus = std::min(static_cast<std::size_t>(recus), octets.size());
