@@ -1,5 +1,6 @@
 #include "platform/usb_loggers.h"
 
+#include <algorithm>
 #include <limits>
 #include <system_error>
 
@@ -31,12 +32,22 @@ AbsenceUsb EnregistreursUsb::Absence() {
 std::shared_ptr<AppareilUsb> EnregistreursUsb::OuvrirParmi(
     const std::vector<EnregistreurUsb>& presents, IdentifiantUsb id) {
     erreur_ = LIBUSB_ERROR_NO_DEVICE;
-    for (const EnregistreurUsb& present : presents)
-        if (present.id == id) return AppareilUsb::Ouvrir(present, erreur_);
-    return {};
+    const auto present = std::find_if(presents.begin(), presents.end(),
+                                      [id](const auto& un) { return un.id == id; });
+    if (present == presents.end()) return {};
+    std::weak_ptr<AppareilUsb>& ouvert = ouverts_[present->peripherique.get()];
+    if (auto appareil = ouvert.lock()) {
+        if (appareil->Perdu()) return {};
+        erreur_ = LIBUSB_SUCCESS;
+        return appareil;
+    }
+    auto appareil = AppareilUsb::Ouvrir(*present, erreur_);
+    ouvert = appareil;
+    return appareil;
 }
 
 std::shared_ptr<AppareilUsb> EnregistreursUsb::OuvrirAppareil(IdentifiantUsb id) {
+    std::erase_if(ouverts_, [](const auto& ouvert) { return ouvert.second.expired(); });
     if (auto appareil = OuvrirParmi(presents_, id)) return appareil;
     if (erreur_ != LIBUSB_ERROR_NO_DEVICE) return {};
     // Plugged in again since the count, whose indices stay as they are.
@@ -45,13 +56,8 @@ std::shared_ptr<AppareilUsb> EnregistreursUsb::OuvrirAppareil(IdentifiantUsb id)
 }
 
 PoigneeUsb EnregistreursUsb::Ouvrir(IdentifiantUsb id) {
-    erreur_ = 0;
-    const auto ouvert = ouverts_.find(id);
-    std::shared_ptr<AppareilUsb> appareil =
-        ouvert == ouverts_.end() ? nullptr : ouvert->second.lock();
-    if (!appareil || appareil->Perdu()) appareil = OuvrirAppareil(id);
+    std::shared_ptr<AppareilUsb> appareil = OuvrirAppareil(id);
     if (!appareil) return -1;
-    ouverts_[id] = appareil;
     do {
         dernierePoignee_ =
             dernierePoignee_ == std::numeric_limits<PoigneeUsb>::max() ? 1 : dernierePoignee_ + 1;

@@ -7,6 +7,8 @@
 #include "platform/usb_interface.h"
 #include "platform/usb_settings.h"
 
+struct libusb_device;
+
 namespace bornika {
 
 class AppareilUsb;
@@ -51,7 +53,8 @@ class EnregistreursUsb : public InterfaceUsb {
 
     std::unique_ptr<RecensementUsb> recensement_;
     std::vector<EnregistreurUsb> presents_;
-    std::map<IdentifiantUsb, std::weak_ptr<AppareilUsb>> ouverts_;
+    /// What the second handle of a pair shares with the first.
+    std::map<const libusb_device*, std::weak_ptr<AppareilUsb>> ouverts_;
     std::map<PoigneeUsb, std::shared_ptr<AppareilUsb>> poignees_;
     PoigneeUsb dernierePoignee_ = 0;
     /// Of the call just made, as the USB library numbers it.
