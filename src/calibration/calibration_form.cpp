@@ -4,18 +4,12 @@
 
 #include "calibration/calibration.h"
 #include "platform/guard.h"
+#include "platform/kept_place.h"
 #include "ui_calibration_form.h"
 
 namespace bornika {
 
 namespace {
-
-// The second row comes and goes: the form keeps its size.
-void GarderLaPlace(QWidget& controle) {
-    QSizePolicy regle = controle.sizePolicy();
-    regle.setRetainSizeWhenHidden(true);
-    controle.setSizePolicy(regle);
-}
 
 // The reference that is not typed now is still one to be read.
 void GarderLisible(QLineEdit& saisie) {

@@ -11,6 +11,7 @@
 #include <cstdio>
 #include <utility>
 
+#include "platform/disk_write.h"
 #include "platform/fault.h"
 #include "platform/file_faults.h"
 
@@ -41,28 +42,6 @@ QByteArray NomAttente(const QFileInfo& place) {
            '-' + nom + ".tmp";
 }
 
-// The new name itself must survive a power cut. A folder that cannot be synchronised is no failure:
-// the file is whole in any case.
-void SynchroniserDossierDe(const QByteArray& chemin) {
-    const QString dossier = QFileInfo(QFile::decodeName(chemin)).absolutePath();
-    const int descripteur =
-        ::open(QFile::encodeName(dossier).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (descripteur < 0) return;
-    ::fsync(descripteur);
-    ::close(descripteur);
-}
-
-// 0, or the error that kept the rest from being written.
-int ToutEcrire(int descripteur, QByteArrayView octets) {
-    for (qsizetype ecrits = 0; ecrits < octets.size();) {
-        const ssize_t n = ::write(descripteur, octets.data() + ecrits,
-                                  static_cast<std::size_t>(octets.size() - ecrits));
-        if (n < 0 && errno != EINTR) return errno;
-        if (n > 0) ecrits += n;
-    }
-    return 0;
-}
-
 // A device or a pipe.
 bool EstPeripherique(const QString& chemin) {
     struct stat infos {};
@@ -75,7 +54,8 @@ void EcrireDansPeripherique(const QString& chemin, QByteArrayView octets) {
     const int descripteur =
         ::open(QFile::encodeName(chemin).constData(), O_WRONLY | O_CLOEXEC | O_NONBLOCK);
     if (descripteur < 0) Echouer(errno);
-    const int erreur = ToutEcrire(descripteur, octets);
+    qsizetype ecrits = 0;
+    const int erreur = EcrireTout(descripteur, octets, ecrits);
     ::close(descripteur);
     if (erreur != 0) Echouer(erreur);
 }
@@ -96,7 +76,8 @@ FichierPrepare::~FichierPrepare() {
 }
 
 void FichierPrepare::Ecrire(QByteArrayView octets) {
-    if (const int erreur = ToutEcrire(descripteur_, octets); erreur != 0) Echouer(erreur);
+    qsizetype ecrits = 0;
+    if (const int erreur = EcrireTout(descripteur_, octets, ecrits); erreur != 0) Echouer(erreur);
 }
 
 void FichierPrepare::GarderPermissions() {
@@ -110,7 +91,7 @@ void FichierPrepare::GarderPermissions() {
 }
 
 void FichierPrepare::MettreEnPlace() {
-    if (::fsync(descripteur_) != 0) Echouer(errno);
+    if (const int erreur = Synchroniser(descripteur_); erreur != 0) Echouer(erreur);
     if (::close(std::exchange(descripteur_, -1)) != 0) Echouer(errno);
     if (std::rename(attente_.constData(), place_.constData()) != 0) Echouer(errno);
     enPlace_ = true;

@@ -7,6 +7,7 @@
 #include <QFile>
 #include <cerrno>
 
+#include "platform/disk_write.h"
 #include "platform/fault.h"
 #include "platform/file_faults.h"
 
@@ -30,15 +31,11 @@ class FinDeFichier {
 
     // 0, or the error that kept the rest from being written.
     int Ecrire(QByteArrayView octets) {
-        while (ecrits_ < octets.size()) {
-            const ssize_t n = ::write(descripteur_, octets.data() + ecrits_,
-                                      static_cast<std::size_t>(octets.size() - ecrits_));
-            if (n < 0 && errno != EINTR) return errno;
-            if (n > 0) ecrits_ += n;
-        }
-        // Some file systems tell of a full disk only here. What is no disk file cannot be asked.
-        return ::fsync(descripteur_) != 0 && errno != EINVAL && errno != EROFS ? errno : 0;
+        const int erreur = EcrireTout(descripteur_, octets, ecrits_);
+        return erreur != 0 ? erreur : Synchroniser(descripteur_);
     }
+
+    bool EtaitVide() const { return avant_ == 0; }
 
     // What another program has put behind it meanwhile is not ours to cut.
     void Retirer() {
@@ -57,11 +54,13 @@ class FinDeFichier {
 
 void AjouterBloc(const QString& chemin, QByteArrayView bloc) {
     if (chemin.isEmpty() || chemin.contains(QChar(u'\0'))) LeverFaute(numero_faute::nomDeFichier);
-    FinDeFichier fin(QFile::encodeName(chemin));
-    const int erreur = fin.Ecrire(bloc);
-    if (erreur == 0) return;
-    fin.Retirer();
-    throw FauteExecution(NumeroEcriture(erreur), qt_error_string(erreur));
+    const QByteArray nom = QFile::encodeName(chemin);
+    FinDeFichier fin(nom);
+    if (const int erreur = fin.Ecrire(bloc); erreur != 0) {
+        fin.Retirer();
+        throw FauteExecution(NumeroEcriture(erreur), qt_error_string(erreur));
+    }
+    if (fin.EtaitVide()) SynchroniserDossierDe(nom);
 }
 
 }  // namespace bornika

@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "platform/code_page.h"
+#include "platform/disk_write.h"
 #include "platform/fault.h"
 #include "platform/file_faults.h"
 
@@ -79,8 +80,7 @@ void FichierTexteEcrit::Fermer() {
     const auto fermer = [this] { return ::close(std::exchange(descripteur_, -1)); };
     try {
         Vider();
-        // Some file systems tell of a full disk only here. What is no disk file cannot be asked.
-        if (::fsync(descripteur_) != 0 && errno != EINVAL && errno != EROFS) Echouer(errno);
+        if (const int erreur = Synchroniser(descripteur_); erreur != 0) Echouer(erreur);
     } catch (const FauteExecution&) {
         fermer();
         throw;
@@ -104,17 +104,11 @@ void FichierTexteEcrit::Deposer(QByteArrayView octets) {
 
 void FichierTexteEcrit::Vider() {
     dernierVidage_ = Instant();
-    std::size_t ecrits = 0;
-    int erreur = 0;
-    while (ecrits < tampon_.size() && erreur == 0) {
-        // The toolkit's own unbuffered write does not tell why it failed.
-        const ssize_t n = ::write(descripteur_, tampon_.data() + ecrits, tampon_.size() - ecrits);
-        if (n > 0) ecrits += static_cast<std::size_t>(n);
-        if (n < 0 && errno != EINTR) erreur = errno;
-    }
+    qsizetype ecrits = 0;
+    const int erreur = EcrireTout(descripteur_, tampon_, ecrits);
     // What is left waits for the next attempt, so that no line is written twice or cut in the
     // middle.
-    tampon_.erase(0, ecrits);
+    tampon_.erase(0, static_cast<std::size_t>(ecrits));
     if (erreur != 0) Echouer(erreur);
 }
 

@@ -2,6 +2,7 @@
 
 #include "link/modal.h"
 #include "platform/guard.h"
+#include "platform/kept_place.h"
 #include "platform/numbers.h"
 #include "shell/captions.h"
 #include "shell/form_captions.h"
@@ -33,13 +34,6 @@ void RemplirUnites(ListeDeroulante& liste) {
         liste.Ajouter(QString::fromLatin1(unite));
         liste.FixerDonnee(liste.Nombre() - 1, liste.Nombre() - 1);
     }
-}
-
-// The form does not jump while the period comes and goes.
-void GarderLaPlace(QWidget& controle) {
-    QSizePolicy regle = controle.sizePolicy();
-    regle.setRetainSizeWhenHidden(true);
-    controle.setSizePolicy(regle);
 }
 
 void MontrerPeriode(GSM& fiche, bool montree) {

@@ -3,6 +3,7 @@
 #include <QCloseEvent>
 #include <QPixmap>
 
+#include "platform/kept_place.h"
 #include "shell/captions.h"
 #include "shell/images.h"
 #include "shell/text_catalogue.h"
@@ -10,17 +11,6 @@
 #include "ui_main_screen.h"
 
 namespace bornika {
-
-namespace {
-
-// Controls that come and go while one looks at the form keep their place.
-void GarderLaPlace(QWidget& controle) {
-    QSizePolicy regle = controle.sizePolicy();
-    regle.setRetainSizeWhenHidden(true);
-    controle.setSizePolicy(regle);
-}
-
-}  // namespace
 
 MainScreen::MainScreen(Systeme& leSysteme, QWidget* parent)
     : QMainWindow(parent),

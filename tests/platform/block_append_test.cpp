@@ -61,6 +61,16 @@ TEST_F(BlocAjoute, CutsAHalfWrittenBlockOffAgain) {
     EXPECT_EQ(Lire("a.log"), "ancien\r\nnouveau\r\n");
 }
 
+TEST_F(BlocAjoute, LeavesAFileEmptyThatItCouldOnlyBegin) {
+    {
+        const TailleLimitee limite(3);
+        EXPECT_EQ(Numero(Chemin("a.log")), 70);
+    }
+    EXPECT_EQ(Lire("a.log"), "");
+    EXPECT_EQ(Numero(Chemin("a.log")), 0);
+    EXPECT_EQ(Lire("a.log"), "bloc\r\n");
+}
+
 TEST_F(BlocAjoute, TellsOfAFullDisk) {
     ASSERT_TRUE(QFile::link(QStringLiteral("/dev/full"), Chemin("plein.log")));
     EXPECT_EQ(Numero(Chemin("plein.log")), 61);
