@@ -3,8 +3,21 @@
 
 packages_build=(build-essential cmake ninja-build qt6-base-dev qt6-translations-l10n libgl-dev
     libqcustomplot-dev libpugixml-dev libusb-1.0-0-dev pkg-config fonts-dejavu-core)
-packages_test=(libgtest-dev libgmock-dev clang-format poppler-utils)
+packages_test=(libgtest-dev libgmock-dev clang-format poppler-utils umockdev libumockdev-dev)
+packages_kernel=(qemu-system-x86 kmod busybox-static udev) # see tests/usb_kernel/prepare
 packages_bench=(libbenchmark-dev)
+
+# as_root COMMAND...: runs it with root's rights, through sudo where need be.
+as_root() {
+    if [ "$(id -u)" -eq 0 ]; then
+        "$@"
+    elif command -v sudo >/dev/null; then
+        sudo "$@"
+    else
+        echo "Neither root nor sudo is at hand for: $*" >&2
+        return 1
+    fi
+}
 
 install_missing() {
     local missing=() package
@@ -13,17 +26,9 @@ install_missing() {
             missing+=("$package")
     done
     [ ${#missing[@]} -eq 0 ] && return 0
-    local as_root=()
-    if [ "$(id -u)" -ne 0 ]; then
-        command -v sudo >/dev/null || {
-            echo "These packages are missing and neither root nor sudo is at hand: ${missing[*]}" >&2
-            return 1
-        }
-        as_root=(sudo)
-    fi
-    echo "Installing Debian packages${as_root[0]:+ with sudo}: ${missing[*]}"
-    "${as_root[@]}" apt-get update -qq &&
-        "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+    echo "Installing Debian packages: ${missing[*]}"
+    as_root apt-get update -qq &&
+        as_root env DEBIAN_FRONTEND=noninteractive \
             apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
 }
 
