@@ -11,7 +11,11 @@
 #include <vector>
 
 #include "app/program.h"
+#include "calibration/calibration_form.h"
+#include "link/connect_form.h"
 #include "service/splash_form.h"
+#include "ui_calibration_form.h"
+#include "ui_connect_form.h"
 #include "ui_main_screen.h"
 #include "ui_trace_form.h"
 #include "viewer/trace_form.h"
@@ -44,7 +48,17 @@ class Technicien : public QObject {
     bool AFini() const { return etape_ == Etape::Fini; }
 
   private:
-    enum class Etape { Choisir, Ouvrir, Lire, Telecharger, AttendreCourbe, Zoomer, Fini };
+    enum class Etape {
+        Choisir,
+        Ouvrir,
+        Lire,
+        Telecharger,
+        AttendreCourbe,
+        Zoomer,
+        Etalonner,
+        Service,
+        Fini
+    };
 
     // The next look is planned before anything is done: a click may return only when a download or
     // a box has ended, and the hand has to go on meanwhile.
@@ -72,13 +86,18 @@ class Technicien : public QObject {
             recit_(QStringLiteral("  the program says: ") + boite->text());
             Photographier(*boite, QStringLiteral("box"));
             EnvoyerClic(*boite->buttons().first(), boite->buttons().first()->rect().center());
-            return;
+        } else if (auto* etalonnage = qobject_cast<Etalonnage*>(&modale)) {
+            if (etape_ == Etape::Etalonner) QuitterEtalonnage(*etalonnage);
+        } else if (auto* connexion = qobject_cast<frmConnect*>(&modale)) {
+            if (etape_ == Etape::Choisir) ChoisirEnregistreur(*connexion);
         }
-        auto* liste = modale.findChild<QListWidget*>(QStringLiteral("Listekrow"));
-        if (liste == nullptr || etape_ != Etape::Choisir) return;
+    }
+
+    void ChoisirEnregistreur(frmConnect& fiche) {
+        QListWidget* liste = fiche.ui->Listekrow;
         for (int ligne = 0; ligne < liste->count(); ++ligne)
             recit_(QStringLiteral("  attached: ") + liste->item(ligne)->text());
-        Photographier(modale, QStringLiteral("select"));
+        Photographier(fiche, QStringLiteral("select"));
         etape_ = Etape::Ouvrir;
         recit_(QStringLiteral("Picking the first logger."));
         EnvoyerClic(*liste->viewport(), liste->visualItemRect(liste->item(0)).center());
@@ -110,6 +129,11 @@ class Technicien : public QObject {
                 break;
             case Etape::Zoomer:
                 ZoomerCourbe();
+                break;
+            case Etape::Etalonner:
+                break;
+            case Etape::Service:
+                MontrerService(ecran);
                 break;
             case Etape::Fini:
                 break;
@@ -145,9 +169,27 @@ class Technicien : public QObject {
         // The zoom is animated: some looks later it stands.
         if (++attente_ < 30) return;
         Photographier(*programme_.trace.Presente(), QStringLiteral("zoom"));
+        etape_ = Etape::Etalonner;
+        // The main form looks at this whenever it comes to the front.
+        recit_(QStringLiteral("Switching to maintenance mode in config.xml."));
+        programme_.ecran.configuration.EcritConfig(QStringLiteral("True"),
+                                                   QStringLiteral("Maintenance"));
+        recit_(QStringLiteral("Opening the calibration."));
+        programme_.ecran.ui->mnuEtalonnage->trigger();
+    }
+
+    void QuitterEtalonnage(Etalonnage& fiche) {
+        Photographier(fiche, QStringLiteral("calibration"));
+        etape_ = Etape::Service;
+        Cliquer(fiche.ui->Sortir, "Leaving the calibration.");
+    }
+
+    void MontrerService(MainScreen& ecran) {
+        if (!ecran.ui->PanneauService->isVisible()) return ecran.activateWindow();
+        Photographier(ecran, QStringLiteral("service"));
         recit_(QStringLiteral("Done."));
         etape_ = Etape::Fini;
-        Cliquer(programme_.ecran.ui->Sortir, "Leaving the program.");
+        Cliquer(ecran.ui->Sortir, "Leaving the program.");
     }
 
     void Cliquer(QWidget* bouton, const char* pourquoi) {

@@ -40,7 +40,8 @@ TEST(Tour, WalksTheRoadAndLeavesTheRecordingAndThePictures) {
             photos << fichier.section(QLatin1Char('-'), 1);
             EXPECT_TRUE(EstUnePhoto(etabli.Chemin(fichier))) << fichier.toStdString();
         }
-    for (const char* nom : {"select.png", "main.png", "box.png", "curve.png", "zoom.png"})
+    for (const char* nom : {"select.png", "main.png", "box.png", "curve.png", "zoom.png",
+                            "calibration.png", "service.png"})
         EXPECT_TRUE(photos.contains(QLatin1String(nom))) << nom;
     EXPECT_GT(etabli.Lire(QStringLiteral("2026-03-05-14-07-09.txt")).size(), 1'000'000);
 }
