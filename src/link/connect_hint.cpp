@@ -14,7 +14,8 @@ EtatListe EtatDe(const frmConnect& fiche) {
 
 /// The file that the hint sends to; empty for none.
 QString Fichier(const MainScreen& ecran, Indication indication) {
-    if (indication == Indication::SansReglage) return ecran.configuration.Chemin();
+    if (indication == Indication::SansReglage || indication == Indication::SansPoints)
+        return ecran.configuration.Chemin();
     if (indication == Indication::SansDroits)
         return ecran.systeme.Chemin(QStringLiteral("install-udev-rule"));
     return {};
@@ -24,6 +25,7 @@ QString Fichier(const MainScreen& ecran, Indication indication) {
 
 Indication IndicationPour(const EtatListe& etat) {
     if (etat.absence == AbsenceUsb::SansDroits) return Indication::SansDroits;
+    if (etat.absence == AbsenceUsb::SansPoints) return Indication::SansPoints;
     if (etat.lignes > 0) return etat.voirTout ? Indication::ToutVoir : Indication::Choisir;
     if (etat.branches > 0) return Indication::SansReponse;
     if (etat.absence == AbsenceUsb::SansReglage) return Indication::SansReglage;
@@ -42,6 +44,8 @@ QString CleIndication(Indication indication) {
             return QStringLiteral("IndicationSansReglage");
         case Indication::SansDroits:
             return QStringLiteral("IndicationSansDroits");
+        case Indication::SansPoints:
+            return QStringLiteral("IndicationSansPoints");
         case Indication::AucunBranche:
             break;
     }

@@ -16,6 +16,7 @@ enum class Indication {
     SansReponse,
     SansReglage,
     SansDroits,
+    SansPoints,
 };
 
 /// What a hint is made from.

@@ -13,39 +13,6 @@ constexpr std::size_t placeVidage = 1024;
 // So many transfers at most, lest the program hang with a logger that never stops talking.
 constexpr int transfertsVidage = 16;
 
-// The alternate setting of the interface that carries the frames, and its endpoints.
-struct AccesUsb {
-    int alternatif = 0;
-    PointsUsb points;
-};
-
-std::vector<PointDecrit> PointsDecrits(const libusb_interface_descriptor& decrit) {
-    std::vector<PointDecrit> points;
-    for (const auto& point : std::span(decrit.endpoint, decrit.bNumEndpoints))
-        points.push_back(
-            {point.bEndpointAddress, point.bmAttributes, point.wMaxPacketSize, point.bInterval});
-    return points;
-}
-
-// None also for a device that the system has not configured: it has its reasons, such as a hub that
-// lacks the current for it.
-std::optional<AccesUsb> AccesDe(libusb_device* peripherique, const ReglageUsb& reglage) {
-    libusb_config_descriptor* configuration = nullptr;
-    if (libusb_get_active_config_descriptor(peripherique, &configuration) != LIBUSB_SUCCESS)
-        return {};
-    const std::unique_ptr<libusb_config_descriptor, decltype(&libusb_free_config_descriptor)> garde(
-        configuration, libusb_free_config_descriptor);
-    const bool rapide = libusb_get_device_speed(peripherique) >= LIBUSB_SPEED_HIGH;
-    for (const auto& interface : std::span(configuration->interface, configuration->bNumInterfaces))
-        for (const auto& decrit :
-             std::span(interface.altsetting, static_cast<std::size_t>(interface.num_altsetting))) {
-            if (decrit.bInterfaceNumber != reglage.Interface) break;
-            if (const auto points = ChoisirPoints(PointsDecrits(decrit), reglage, rapide))
-                return AccesUsb{decrit.bAlternateSetting, *points};
-        }
-    return {};
-}
-
 }  // namespace
 
 std::shared_ptr<AppareilUsb> AppareilUsb::Ouvrir(const EnregistreurUsb& enregistreur, int& erreur) {
@@ -53,31 +20,26 @@ std::shared_ptr<AppareilUsb> AppareilUsb::Ouvrir(const EnregistreurUsb& enregist
     OuvertureUsb ouverture = OuvrirPeripherique(peripherique, erreur);
     if (!ouverture) return {};
     const int interface = enregistreur.reglage.Interface;
-    const auto acces = AccesDe(peripherique, enregistreur.reglage);
-    if (!acces) {
-        erreur = LIBUSB_ERROR_NOT_FOUND;
-        return {};
-    }
     // Where the system knows no detaching, there is no driver in the way either.
     libusb_set_auto_detach_kernel_driver(ouverture.get(), 1);
     erreur = libusb_claim_interface(ouverture.get(), interface);
     if (erreur != LIBUSB_SUCCESS) return {};
     const std::shared_ptr<AppareilUsb> appareil(
-        new AppareilUsb(enregistreur, std::move(ouverture), acces->points));
+        new AppareilUsb(enregistreur, std::move(ouverture)));
     // Setting 0 is in force after a claim, and some devices refuse to be told so.
-    if (acces->alternatif != 0)
-        erreur = libusb_set_interface_alt_setting(appareil->ouverture_.get(), interface,
-                                                  acces->alternatif);
+    const int alternatif = enregistreur.acces.alternatif;
+    if (alternatif != 0)
+        erreur =
+            libusb_set_interface_alt_setting(appareil->ouverture_.get(), interface, alternatif);
     return erreur == LIBUSB_SUCCESS ? appareil : nullptr;
 }
 
-AppareilUsb::AppareilUsb(const EnregistreurUsb& enregistreur, OuvertureUsb ouverture,
-                         const PointsUsb& points)
+AppareilUsb::AppareilUsb(const EnregistreurUsb& enregistreur, OuvertureUsb ouverture)
     : peripherique_(enregistreur.peripherique),
       reglage_(enregistreur.reglage),
+      points_(enregistreur.acces.points),
       ligne_(enregistreur.ligne),
-      ouverture_(std::move(ouverture)),
-      points_(points) {}
+      ouverture_(std::move(ouverture)) {}
 
 AppareilUsb::~AppareilUsb() {
     libusb_release_interface(ouverture_.get(), reglage_.Interface);

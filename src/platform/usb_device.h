@@ -41,17 +41,16 @@ class AppareilUsb {
     int Lire(std::span<std::uint8_t> octets, int& erreur);
 
   private:
-    AppareilUsb(const EnregistreurUsb& enregistreur, OuvertureUsb ouverture,
-                const PointsUsb& points);
+    AppareilUsb(const EnregistreurUsb& enregistreur, OuvertureUsb ouverture);
 
     int Transferer(const PointUsb& point, std::size_t longueur, int delai, int& transferes);
     void Vider();
 
     PeripheriqueUsb peripherique_;
     ReglageUsb reglage_;
+    PointsUsb points_;
     std::shared_ptr<LigneUsb> ligne_;
     OuvertureUsb ouverture_;
-    PointsUsb points_;
     // Kept so that a long download asks for no memory.
     std::vector<unsigned char> tampon_;
     bool perdu_ = false;

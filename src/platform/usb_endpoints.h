@@ -32,6 +32,13 @@ struct PointsUsb {
     PointUsb entree;
 };
 
+/// Where the frames of a product go on one device: the alternate setting of its interface that
+/// carries them, and the endpoints there.
+struct AccesUsb {
+    int alternatif = 0;
+    PointsUsb points;
+};
+
 /// The endpoint of each direction that the setting names, else the first one of that direction.
 /// Only bulk and interrupt ones count. Nothing when one direction has none. `rapide` is a speed of
 /// 480 Mbit/s or more, where polls are counted in microframes.

@@ -13,8 +13,9 @@ using IdentifiantUsb = std::int32_t;
 using PoigneeUsb = std::int32_t;
 
 /// Why loggers may be missing from a count although they are plugged in: no product's USB numbers
-/// are known, or this user has no right to open one that is there.
-enum class AbsenceUsb { Aucune, SansReglage, SansDroits };
+/// are known, this user has no right to open one that is there, or one has neither the interface
+/// nor the endpoints that the setting of its product names.
+enum class AbsenceUsb { Aucune, SansReglage, SansDroits, SansPoints };
 
 /// The narrow interface to whatever carries the bytes: real loggers or simulated ones.
 ///

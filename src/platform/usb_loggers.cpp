@@ -26,7 +26,8 @@ IdentifiantUsb EnregistreursUsb::Identifiant(int index) {
 
 AbsenceUsb EnregistreursUsb::Absence() {
     if (recensement_->SansReglage()) return AbsenceUsb::SansReglage;
-    return recensement_->SansDroits() ? AbsenceUsb::SansDroits : AbsenceUsb::Aucune;
+    if (recensement_->SansDroits()) return AbsenceUsb::SansDroits;
+    return recensement_->SansPoints() ? AbsenceUsb::SansPoints : AbsenceUsb::Aucune;
 }
 
 std::shared_ptr<AppareilUsb> EnregistreursUsb::OuvrirParmi(

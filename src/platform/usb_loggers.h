@@ -28,7 +28,8 @@ class EnregistreursUsb : public InterfaceUsb {
     EnregistreursUsb(const EnregistreursUsb&) = delete;
     EnregistreursUsb& operator=(const EnregistreursUsb&) = delete;
 
-    /// Looks at the bus anew. A logger that this user may not open is not counted.
+    /// Looks at the bus anew. A logger is not counted that this user may not open, or that lacks
+    /// the interface or the endpoints of its product.
     int Compte() override;
     /// As the last `Compte` found them.
     IdentifiantUsb Identifiant(int index) override;

@@ -42,6 +42,33 @@ CheminUsb CheminDe(libusb_device* peripherique) {
     return chemin;
 }
 
+std::vector<PointDecrit> PointsDecrits(const libusb_interface_descriptor& decrit) {
+    std::vector<PointDecrit> points;
+    for (const auto& point : std::span(decrit.endpoint, decrit.bNumEndpoints))
+        points.push_back(
+            {point.bEndpointAddress, point.bmAttributes, point.wMaxPacketSize, point.bInterval});
+    return points;
+}
+
+// Setting 0 is looked at first. None also for a device that the system has not configured: it has
+// its reasons, such as a hub that lacks the current for it.
+std::optional<AccesUsb> AccesDe(libusb_device* peripherique, const ReglageUsb& reglage) {
+    libusb_config_descriptor* configuration = nullptr;
+    if (libusb_get_active_config_descriptor(peripherique, &configuration) != LIBUSB_SUCCESS)
+        return {};
+    const std::unique_ptr<libusb_config_descriptor, decltype(&libusb_free_config_descriptor)> garde(
+        configuration, libusb_free_config_descriptor);
+    const bool rapide = libusb_get_device_speed(peripherique) >= LIBUSB_SPEED_HIGH;
+    for (const auto& interface : std::span(configuration->interface, configuration->bNumInterfaces))
+        for (const auto& decrit :
+             std::span(interface.altsetting, static_cast<std::size_t>(interface.num_altsetting))) {
+            if (decrit.bInterfaceNumber != reglage.Interface) break;
+            if (const auto points = ChoisirPoints(PointsDecrits(decrit), reglage, rapide))
+                return AccesUsb{decrit.bAlternateSetting, *points};
+        }
+    return {};
+}
+
 // Empty when the device has none or does not tell it.
 std::string SerieDe(libusb_device* peripherique, libusb_device_handle* ouverture) {
     libusb_device_descriptor descripteur{};
@@ -77,18 +104,25 @@ void RecensementUsb::Noter(libusb_device* peripherique, const ReglageUsb& reglag
         presentes.insert(*connue);
         return;
     }
+    const auto acces = AccesDe(peripherique, reglage);
+    if (!acces) {
+        sansPoints_ = true;
+        return;
+    }
     int erreur = 0;
     const OuvertureUsb ouverture = OuvrirPeripherique(peripherique, erreur);
     if (erreur == LIBUSB_ERROR_ACCESS) sansDroits_ = true;
     if (!ouverture) return;
-    presentes[peripherique] =
-        Fiche{Reference(peripherique), reglage, SerieDe(peripherique, ouverture.get()),
-              CheminDe(peripherique), std::make_shared<LigneUsb>()};
+    presentes[peripherique] = {
+        {0, reglage, *acces, Reference(peripherique), std::make_shared<LigneUsb>()},
+        SerieDe(peripherique, ouverture.get()),
+        CheminDe(peripherique)};
 }
 
 std::vector<EnregistreurUsb> RecensementUsb::Recenser(int& erreur) {
     erreur = 0;
     sansDroits_ = false;
+    sansPoints_ = false;
     if (SansReglage()) return {};
     if (!contexte_) {
         libusb_context* contexte = nullptr;
@@ -111,11 +145,13 @@ std::vector<EnregistreurUsb> RecensementUsb::Recenser(int& erreur) {
               [](const Fiche* a, const Fiche* b) { return a->chemin < b->chemin; });
     std::vector<PresenceUsb> presences;
     for (const Fiche* const fiche : ordre)
-        presences.push_back({fiche->peripherique.get(), fiche->serie, fiche->chemin});
+        presences.push_back({fiche->enregistreur.peripherique.get(), fiche->serie, fiche->chemin});
     const std::vector<IdentifiantUsb> ids = identificateur_.Attribuer(presences);
     std::vector<EnregistreurUsb> presents;
-    for (std::size_t i = 0; i < ordre.size(); ++i)
-        presents.push_back({ids[i], ordre[i]->reglage, ordre[i]->peripherique, ordre[i]->ligne});
+    for (std::size_t i = 0; i < ordre.size(); ++i) {
+        presents.push_back(ordre[i]->enregistreur);
+        presents.back().id = ids[i];
+    }
     return presents;
 }
 

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/usb_endpoints.h"
 #include "platform/usb_identifier.h"
 #include "platform/usb_library.h"
 #include "platform/usb_settings.h"
@@ -23,6 +24,7 @@ struct LigneUsb {
 struct EnregistreurUsb {
     IdentifiantUsb id = 0;
     ReglageUsb reglage;
+    AccesUsb acces;
     PeripheriqueUsb peripherique;
     std::shared_ptr<LigneUsb> ligne;
 };
@@ -39,15 +41,15 @@ class RecensementUsb {
     bool SansReglage() const { return reglages_.empty(); }
     /// Whether the last look met a logger that this user may not open.
     bool SansDroits() const { return sansDroits_; }
+    /// Whether the last look met a device without the interface or the endpoints of its product.
+    bool SansPoints() const { return sansPoints_; }
 
   private:
     // A device is opened once to learn its serial string, and that it may be opened.
     struct Fiche {
-        PeripheriqueUsb peripherique;
-        ReglageUsb reglage;
+        EnregistreurUsb enregistreur;
         std::string serie;
         CheminUsb chemin;
-        std::shared_ptr<LigneUsb> ligne;
     };
 
     const ReglageUsb* ReglageDe(libusb_device* peripherique) const;
@@ -59,6 +61,7 @@ class RecensementUsb {
     std::map<libusb_device*, Fiche> fiches_;
     IdentificateurUsb identificateur_;
     bool sansDroits_ = false;
+    bool sansPoints_ = false;
 };
 
 }  // namespace bornika

@@ -38,11 +38,18 @@ TEST(IndicationPour, TellsOfMissingRightsBesideLoggersThatAreListedToo) {
               Indication::SansDroits);
 }
 
+TEST(IndicationPour, TellsOfMissingEndpointsBesideLoggersThatAreListedToo) {
+    EXPECT_EQ(IndicationPour({.absence = AbsenceUsb::SansPoints}), Indication::SansPoints);
+    EXPECT_EQ(IndicationPour({.branches = 1, .lignes = 1, .absence = AbsenceUsb::SansPoints}),
+              Indication::SansPoints);
+}
+
 TEST(CleIndication, IsAnotherTextForEachHint) {
     QStringList cles;
     for (const Indication indication :
          {Indication::Choisir, Indication::ToutVoir, Indication::AucunBranche,
-          Indication::SansReponse, Indication::SansReglage, Indication::SansDroits})
+          Indication::SansReponse, Indication::SansReglage, Indication::SansDroits,
+          Indication::SansPoints})
         cles << CleIndication(indication);
     EXPECT_EQ(cles.removeDuplicates(), 0);
 }
@@ -94,6 +101,14 @@ TEST(ConnectHint, NamesTheRuleAndTheScriptForALoggerThatCannotBeOpened) {
     });
 }
 
+TEST(ConnectHint, NamesTheFileThatGivesALoggerEndpointsItLacks) {
+    BancDeChoix b;
+    b.bus.ReglerAbsence(AbsenceUsb::SansPoints);
+    b.Connexion([&](frmConnect& fiche) {
+        EXPECT_EQ(Texte(fiche), q("points d'accès :\n") + b.banc.ecran.configuration.Chemin());
+    });
+}
+
 TEST(ConnectHint, TellsOfMissingRightsOnceInItsPlaceAndNeverInABox) {
     BancDeChoix b;
     b.Connexion([&](frmConnect& fiche) {
@@ -121,8 +136,8 @@ TEST(ConnectHint, SpeaksTheLanguageOfTheList) {
 TEST(ConnectHint, WritesNothingIntoTheConfiguration) {
     BancDeChoix b;
     const QByteArray avant = b.banc.Configuration();
-    for (const AbsenceUsb absence :
-         {AbsenceUsb::Aucune, AbsenceUsb::SansReglage, AbsenceUsb::SansDroits}) {
+    for (const AbsenceUsb absence : {AbsenceUsb::Aucune, AbsenceUsb::SansReglage,
+                                     AbsenceUsb::SansDroits, AbsenceUsb::SansPoints}) {
         b.bus.ReglerAbsence(absence);
         b.Connexion([](frmConnect&) {});
     }

@@ -88,6 +88,7 @@ inline QByteArray TextesDuLien() {
 <Entree><Cle>IndicationSansReponse</Cle><Texte>sans réponse</Texte></Entree>
 <Entree><Cle>IndicationSansReglage</Cle><Texte>numéros USB :</Texte></Entree>
 <Entree><Cle>IndicationSansDroits</Cle><Texte>règle udev 60-bornika.rules :</Texte></Entree>
+<Entree><Cle>IndicationSansPoints</Cle><Texte>points d'accès :</Texte></Entree>
 <Entree><Cle>mnuconnect</Cle><Texte>Connexion</Texte></Entree>
 </Langue>
 <Langue NOM="English"><Entree><Cle>k-Pod Absent</Cle><Texte>no k-Pod</Texte></Entree>
@@ -99,6 +100,7 @@ inline QByteArray TextesDuLien() {
 <Entree><Cle>IndicationSansReponse</Cle><Texte>no answer</Texte></Entree>
 <Entree><Cle>IndicationSansReglage</Cle><Texte>USB numbers:</Texte></Entree>
 <Entree><Cle>IndicationSansDroits</Cle><Texte>udev rule 60-bornika.rules:</Texte></Entree>
+<Entree><Cle>IndicationSansPoints</Cle><Texte>endpoints:</Texte></Entree>
 <Entree><Cle>mnuconnect</Cle><Texte>Select a logger</Texte></Entree>
 </Langue>
 </Messages></Configuration>

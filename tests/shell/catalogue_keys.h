@@ -57,6 +57,7 @@ inline constexpr const char* clesAutresFiches[] = {
     "IndicationSansReponse",
     "IndicationSansReglage",
     "IndicationSansDroits",
+    "IndicationSansPoints",
     "UsbEntreeFausse",
     "UsbAttendu",
     "UsbAttenduNumero",
