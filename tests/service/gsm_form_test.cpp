@@ -89,6 +89,7 @@ TEST_F(FicheGsm, AValueThatIsNoNumberIsToldAndTheFormStays) {
         EXPECT_EQ(Clair(boite.texte), "La valeur de l'impulsion est incorrecte");
     }
     EXPECT_EQ(banc.etabli.Lire(QStringLiteral("config.xml")), avant);
+    EXPECT_TRUE(banc.etabli.fautes.empty());
 }
 
 TEST_F(FicheGsm, AStoredUnitThatTheListDoesNotHaveStaysUntilOneIsChosen) {

@@ -58,6 +58,15 @@ TEST_F(FormCaptions, AnUnknownNameIsAddedWithTheCaptionOfTheDesignAndShowsFromTh
     EXPECT_EQ(Nouveau.text(), QStringLiteral("dessin neuf"));
 }
 
+TEST_F(FormCaptions, TheCaptionOfTheDesignIsTheDefaultWhateverTheControlShowsNow) {
+    TraduireFiche(fiche, ecran);
+    ASSERT_EQ(Nouveau.text(), QString());
+    ecran.ui->ListeLangues->Choisir(0);
+    for (int i = 0; i < 2; ++i)
+        TraduireFiche(fiche, ecran);
+    EXPECT_EQ(Nouveau.text(), QStringLiteral("dessin neuf"));
+}
+
 TEST_F(FormCaptions, AControlWithoutACaptionIsNotLookedUp) {
     TraduireFiche(fiche, ecran);
     EXPECT_EQ(PIN.text(), QStringLiteral("1234"));
