@@ -2,6 +2,8 @@
 
 #include <QMouseEvent>
 #include <QPixmap>
+#include <QScreen>
+#include <QStyle>
 
 #include "shell/images.h"
 #include "ui_splash_form.h"
@@ -15,7 +17,9 @@ frmSplash::frmSplash(QWidget* parent)
     InitialiserImages();
     const QPixmap image(QStringLiteral(":/images/splash.png"));
     ui->Image1->setPixmap(image);
-    resize(image.size());
+    // A window without a frame stands where it is put: not every desktop finds it a place.
+    setGeometry(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, image.size(),
+                                    screen()->availableGeometry()));
     ui->Image1->installEventFilter(this);
     Timer1.setSingleShot(true);
     connect(&Timer1, &QTimer::timeout, this, &QWidget::close);

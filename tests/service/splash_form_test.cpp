@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QScreen>
 #include <QtTest>
 
 #include "ui_splash_form.h"
@@ -15,6 +16,13 @@ TEST(FrmSplash, ShowsAPictureAndDoesNotRunItsTimerByItself) {
     EXPECT_FALSE(splash.ui->Image1->pixmap().isNull());
     EXPECT_FALSE(splash.Timer1.isActive());
     EXPECT_FALSE(splash.isModal());
+}
+
+TEST(FrmSplash, StandsInTheMiddleOfTheScreenInTheSizeOfItsPicture) {
+    frmSplash splash;
+    splash.show();
+    EXPECT_EQ(splash.size(), splash.ui->Image1->pixmap().size());
+    EXPECT_EQ(splash.geometry().center(), splash.screen()->availableGeometry().center());
 }
 
 TEST(FrmSplash, ClosesOnAClickOnThePicture) {
