@@ -124,20 +124,32 @@ std::vector<EnregistreurUsb> RecensementUsb::Recenser(int& erreur) {
     sansDroits_ = false;
     sansPoints_ = false;
     if (SansReglage()) return {};
-    if (!contexte_) {
-        libusb_context* contexte = nullptr;
-        erreur = libusb_init(&contexte);
-        if (erreur != LIBUSB_SUCCESS) return {};
-        contexte_.reset(contexte);
-    }
+    erreur = Commencer();
+    if (erreur == LIBUSB_SUCCESS) erreur = Regarder();
+    if (erreur != LIBUSB_SUCCESS) return {};
+    return Nommer();
+}
+
+int RecensementUsb::Commencer() {
+    if (contexte_) return LIBUSB_SUCCESS;
+    libusb_context* contexte = nullptr;
+    const int erreur = libusb_init(&contexte);
+    if (erreur == LIBUSB_SUCCESS) contexte_.reset(contexte);
+    return erreur;
+}
+
+int RecensementUsb::Regarder() {
     const ListeUsb liste(contexte_.get());
-    erreur = liste.Erreur();
+    if (liste.Erreur() != LIBUSB_SUCCESS) return liste.Erreur();
     std::map<libusb_device*, Fiche> presentes;
     for (libusb_device* const peripherique : liste.Peripheriques())
         if (const ReglageUsb* const reglage = ReglageDe(peripherique))
             Noter(peripherique, *reglage, presentes);
     fiches_ = std::move(presentes);
+    return LIBUSB_SUCCESS;
+}
 
+std::vector<EnregistreurUsb> RecensementUsb::Nommer() {
     std::vector<const Fiche*> ordre;
     for (const auto& [peripherique, fiche] : fiches_)
         ordre.push_back(&fiche);

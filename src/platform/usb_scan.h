@@ -52,6 +52,11 @@ class RecensementUsb {
         CheminUsb chemin;
     };
 
+    // Both return 0 or the library's number. A library that cannot begin is tried again at the
+    // next look.
+    int Commencer();
+    int Regarder();
+    std::vector<EnregistreurUsb> Nommer();
     const ReglageUsb* ReglageDe(libusb_device* peripherique) const;
     void Noter(libusb_device* peripherique, const ReglageUsb& reglage,
                std::map<libusb_device*, Fiche>& presentes);

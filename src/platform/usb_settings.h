@@ -11,9 +11,10 @@ struct ReglageUsb {
     static constexpr int delaiParDefaut = 1000;
     static constexpr int delaiMaximal = 60000;
 
-    /// 1 to 0xFFFF; a product with vendor 0 is not looked for.
+    /// As the device tells them. A product with vendor 0 is not looked for.
     std::uint16_t Vendeur = 0;
     std::uint16_t Produit = 0;
+    /// The one of the device's interfaces that carries the frames.
     std::uint8_t Interface = 0;
     /// Endpoint addresses; left out, the first of each direction.
     std::optional<std::uint8_t> Sortie = std::nullopt;
