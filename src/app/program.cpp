@@ -12,6 +12,7 @@
 #include "app/watchdog.h"
 #include "platform/guard.h"
 #include "platform/program_folder.h"
+#include "shell/screen_fit.h"
 
 namespace bornika {
 
@@ -72,6 +73,7 @@ int Executer(Systeme& systeme) {
         return 1;
     }
     Programme programme(systeme);
+    TenirDansEcran(programme.ecran);
     return programme.Demarrer() ? QApplication::exec() : 1;
 }
 

@@ -26,6 +26,7 @@ void FixerLargeur(MainScreen& ecran, bool maintenance) {
     ui.ZoneEnregistreur->setMinimumWidth(largeurEtroite);
     ui.PanneauService->setMinimumWidth(largeurMaintenance - largeurEtroite);
     ui.ZoneCentrale->layout()->activate();
+    ui.ZoneDefilement->updateGeometry();
     // The form always has the size that its layout asks for, so it follows its frames.
     ecran.layout()->setSizeConstraint(QLayout::SetFixedSize);
     ecran.layout()->activate();

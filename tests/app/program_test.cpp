@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QScreen>
 #include <QTimer>
 
 #include "app/program_bench.h"
@@ -63,6 +64,29 @@ TEST(WholeProgram, EndsWithTheMainFormAlsoWhenTheViewerStandsOpen) {
     EXPECT_EQ(Executer(banc.etabli.systeme), 0);
     EXPECT_TRUE(ouverte);
     EXPECT_TRUE(banc.etabli.dialogues.boites.empty());
+}
+
+TEST(WholeProgram, KeepsTheMainFormWithinTheScreen) {
+    BancProgramme banc;
+    int hauteur = 0;
+    int moniteur = 0;
+    QTimer geste;
+    geste.setSingleShot(true);
+    QObject::connect(&geste, &QTimer::timeout, [&] {
+        auto* ecran = FicheOuverte<MainScreen>();
+        if (ecran == nullptr) return QCoreApplication::exit(98);
+        moniteur = ecran->screen()->availableGeometry().height();
+        ecran->ui->ZoneEnregistreur->setMinimumHeight(2 * moniteur);
+        for (int i = 0; i < 20; ++i)
+            QCoreApplication::processEvents();
+        hauteur = ecran->height();
+        ecran->close();
+    });
+    geste.start(0);
+    QTimer::singleShot(20'000, &geste, [] { QCoreApplication::exit(99); });
+    EXPECT_EQ(Executer(banc.etabli.systeme), 0);
+    EXPECT_GT(hauteur, moniteur / 2);
+    EXPECT_LT(hauteur, moniteur);
 }
 
 TEST(WholeProgram, AFaultBehindAButtonIsToldOnceClosesTheLinkAndLeaves) {

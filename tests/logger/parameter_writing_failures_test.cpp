@@ -151,7 +151,7 @@ void PanneALaTrame::VerifierMemoire() {
 void PanneALaTrame::VerifierFormulaire() {
     const Regional& regional = banc.ecran.systeme.regional;
     const auto& memoire = banc.enregistreur.memoire;
-    QString commentaire = QStringLiteral("Forêt n°12345678");
+    QString commentaire = QStringLiteral("Forêt n°123456");
     QString unite = QStringLiteral("Gallon");
     QString poids = QStringLiteral("2.5");
     bool vingtQuatreHeures = false;

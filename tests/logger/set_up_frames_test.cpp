@@ -194,6 +194,7 @@ TEST_F(TramesDuFormulaire, TheClockIsTheComputersWithThePeriodAfterTheTrigger) {
 }
 
 TEST_F(TramesDuFormulaire, ALongCommentLosesWhatStandsBeyondFourteenCharacters) {
+    ui.Commentaire->setMaxLength(20);
     ui.Commentaire->setText(QStringLiteral("ABCDEFGHIJKLMNOPQRST"));
     EXPECT_EQ(TrameCommentaire1(ecran), (Octets{11, 'A', 'B', 'C', 'D', 'E', 'F', 'G'}));
     EXPECT_EQ(TrameCommentaire2(ecran), (Octets{12, 'H', 'I', 'J', 'K', 'L', 'M', 'N'}));

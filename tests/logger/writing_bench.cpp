@@ -58,7 +58,7 @@ void BancEcriture::RemplirFormulaire() {
     ui.BufferTournant->setChecked(true);
     ui.OneShot->setChecked(false);
     ui.mnuChargeRapide->setChecked(true);
-    ui.Commentaire->setText(QStringLiteral("Forêt n°12345678"));
+    ui.Commentaire->setText(QStringLiteral("Forêt n°123456"));
     ui.AMPM_0->setChecked(true);
     ui.CoefImpulsion->setText(QStringLiteral("2.5"));
     ui.UniteImpulsion->setText(QStringLiteral("Gallon"));

@@ -42,7 +42,7 @@ void NAFaitQueLire(const BancEcriture& banc) {
         ASSERT_EQ(banc.enregistreur.memoire.Octet(ou), banc.avant.Octet(ou)) << ou;
     }
     EXPECT_TRUE(banc.etabli.horloge.pauses.empty());
-    EXPECT_EQ(Clair(banc.ui.Commentaire->text()), "Forêt n°12345678");
+    EXPECT_EQ(Clair(banc.ui.Commentaire->text()), "Forêt n°123456");
     EXPECT_EQ(Clair(banc.ui.Seuil1->text()), "1.5");
     EXPECT_EQ(Clair(banc.ui.UniteImpulsion->text()), "Gallon");
     EXPECT_TRUE(banc.etabli.fautes.empty());

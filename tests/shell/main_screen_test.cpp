@@ -5,6 +5,7 @@
 #include <QLayout>
 #include <QPixmap>
 #include <QSignalSpy>
+#include <QTest>
 #include <algorithm>
 
 #include "shell/captions.h"
@@ -321,6 +322,13 @@ TEST_F(MainScreenForm, KeepsAnAmpersandOfATextAsACharacter) {
     }
     EXPECT_EQ(ui.Lire->text(), QStringLiteral("A && B &&&& C&&"));
     EXPECT_EQ(ui.Infos->text(), QStringLiteral("A & B && C&"));
+}
+
+TEST_F(MainScreenForm, TakesNoMoreOfACommentThanALoggerKeeps) {
+    ui.Frame4->show();
+    Afficher();
+    QTest::keyClicks(ui.Commentaire, QStringLiteral("FORAGE NORD 3 BIS"));
+    EXPECT_EQ(ui.Commentaire->text(), QStringLiteral("FORAGE NORD 3 "));
 }
 
 TEST_F(MainScreenForm, TellsThatItIsBeingClosed) {
