@@ -46,6 +46,11 @@ void UnPoint(EnregistreurSimule& e, std::uint32_t maintenant) {
     e.ReglerEtalonnage(maintenant - 700 * jour, echelleBar, 320, 317);
 }
 
+/// A sensor that has drifted as DeuxPoints has it: worth calibrating.
+int CapteurUse(int reference) {
+    return reference + 3 - reference / 100;
+}
+
 }  // namespace
 
 PtrEnregistreur Simple(std::uint8_t type, std::uint8_t versionHaute, std::uint8_t versionBasse,
@@ -169,6 +174,8 @@ std::vector<PtrEnregistreur> FamilleDemo(std::uint32_t maintenant) {
 
     famille.push_back(KPod33(maintenant));
     famille.push_back(KTide(maintenant));
+    for (const PtrEnregistreur& e : famille)
+        e->BrancherReference(CapteurUse);
     return famille;
 }
 

@@ -51,7 +51,8 @@ PtrEnregistreur Silencieux(std::uint32_t maintenant);
 PtrEnregistreur KPodReseauEau(std::uint32_t maintenant);
 
 /// The family for trying the program out: the k-Pod with the recording, an old one-point k-Pod with
-/// a short one, a k-Pod 33 with its card, a k-Tide.
+/// a short one, a k-Pod 33 with its card, a k-Tide. Whoever calibrates one has put it under the
+/// pressure that he types; its sensor is a little off.
 std::vector<PtrEnregistreur> FamilleDemo(std::uint32_t maintenant);
 
 }  // namespace bornika::simulateur

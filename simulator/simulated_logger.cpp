@@ -129,10 +129,17 @@ void EnregistreurSimule::MettreSurCapteur(int points) {
     PrendreMesureEtalonnage();
 }
 
+void EnregistreurSimule::BrancherReference(std::function<int(int)> capteur) {
+    capteur_ = std::move(capteur);
+}
+
 void EnregistreurSimule::PrendreMesureEtalonnage() {
     if (!mesureAttendue_) return;
     mesureAttendue_ = false;
     const bool haut = memoire.Octet(adresse::modeEtalonnage) == 2;
+    if (capteur_)
+        pointsCapteur =
+            capteur_(memoire.Mot(haut ? adresse::referenceHaut : adresse::referenceBas));
     memoire.EcrireMot(haut ? adresse::mesureHaut : adresse::mesureBas, pointsCapteur);
 }
 

@@ -116,6 +116,9 @@ class EnregistreurSimule {
     /// The logger is on its sensor, off the cord: it sees `points`, and takes the measure of a
     /// calibration point that waits for it.
     void MettreSurCapteur(int points);
+    /// From now on the bench puts the sensor under the reference of each calibration point, and it
+    /// sees what `capteur` makes of that number of points.
+    void BrancherReference(std::function<int(int)> capteur);
 
     /// Appends one measure at the write pointer. With a full memory the oldest one is lost
     /// (circular buffer) or the new one is dropped.
@@ -152,6 +155,7 @@ class EnregistreurSimule {
     void PrendreMesureEtalonnage();
 
     std::function<std::int64_t()> source_;
+    std::function<int(int)> capteur_;
     std::int64_t dernierInstant_ = 0;
     bool mesureAttendue_ = false;
     bool enTransfert_ = false;

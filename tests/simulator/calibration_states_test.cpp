@@ -70,6 +70,17 @@ TEST(CalibrationStates, WithoutAStayOnTheSensorTheNextCommandMeasuresWhatTheSens
     EXPECT_EQ(logger.memoire.Mot(70), 99) << "measured once";
 }
 
+TEST(CalibrationStates, OnABenchTheSensorIsUnderTheReferenceOfEachPoint) {
+    EnregistreurSimule logger;
+    logger.BrancherReference([](int reference) { return 2 * reference; });
+    Reponse(logger, {24, 0, 102, 1, 0, 0, 0, 0});
+    ReponseA(logger, 9);
+    Reponse(logger, {24, 1, 0, 2, 0, 0, 0, 0});
+    ReponseA(logger, 9);
+    EXPECT_EQ(logger.memoire.Mot(70), 204);
+    EXPECT_EQ(logger.memoire.Mot(74), 512);
+}
+
 TEST(CalibrationStates, ANewFirstPointGivesUpTheSecondOne) {
     EnregistreurSimule logger;
     logger.ReglerEtalonnage(1000, 0x01, 102, 104, 820, 815);

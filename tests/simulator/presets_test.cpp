@@ -127,6 +127,17 @@ TEST(Presets, TheDemoFamilyHasOneOfEachKind) {
     EXPECT_EQ(identifiants.size(), 4U);
 }
 
+TEST(Presets, EachOfTheDemoFamilyHasASensorThatIsALittleOffThePressureOfItsReference) {
+    for (const auto& e : FamilleDemo(maintenant)) {
+        Reponse(*e, {24, 0, 102, 1, 0, 0, 0, 0});
+        ReponseA(*e, 9);
+        Reponse(*e, {24, 3, 52, 2, 0, 0, 0, 0});
+        ReponseA(*e, 9);
+        EXPECT_EQ(e->memoire.Mot(adresse::mesureBas), 104);
+        EXPECT_EQ(e->memoire.Mot(adresse::mesureHaut), 815);
+    }
+}
+
 TEST(Presets, TheDemoDownloadLastsSomeTenSeconds) {
     const auto famille = FamilleDemo(maintenant);
     const double secondes =
