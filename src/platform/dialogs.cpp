@@ -149,6 +149,8 @@ Reponse DialoguesQt::Boite(Icone icone, Boutons boutons, const QString& titre,
         return Reponse::Ok;
     }
     boite.setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel);
+    // What cannot be undone is not agreed to by an Enter that came too early.
+    if (icone == Icone::Critique) boite.setDefaultButton(QMessageBox::Cancel);
     return boite.exec() == QMessageBox::Ok ? Reponse::Ok : Reponse::Annuler;
 }
 

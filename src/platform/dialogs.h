@@ -45,7 +45,7 @@ class Dialogues {
     virtual ~Dialogues() = default;
 
     /// Shows a box and waits. Closing it by its frame or Esc answers as Cancel or, with OK alone,
-    /// OK; a Yes/No box cannot be closed so.
+    /// OK; a Yes/No box cannot be closed so. Enter is OK, but Cancel in a critical OK/Cancel box.
     virtual Reponse Boite(Icone icone, Boutons boutons, const QString& titre,
                           const QString& texte) = 0;
 

@@ -67,6 +67,14 @@ TEST(Boite, TakesEscAndItsFrameAsCancel) {
     EXPECT_EQ(Repondre(Boutons::Ok, FermerCadre), Reponse::Ok);
 }
 
+TEST(Boite, TakesEnterAsOkButForWhatCannotBeUndone) {
+    const auto entrer = [](QMessageBox& boite) { QTest::keyClick(&boite, Qt::Key_Return); };
+    EXPECT_EQ(Repondre(Boutons::OkAnnuler, entrer), Reponse::Ok);
+    EXPECT_EQ(Repondre(Boutons::OkAnnuler, entrer, Icone::Question), Reponse::Ok);
+    EXPECT_EQ(Repondre(Boutons::OkAnnuler, entrer, Icone::Critique), Reponse::Annuler);
+    EXPECT_EQ(Repondre(Boutons::OkAnnuler, Cliquer(QMessageBox::Ok), Icone::Critique), Reponse::Ok);
+}
+
 TEST(Boite, OfYesAndNoCanBeLeftByItsButtonsOnly) {
     const auto resister = [](QMessageBox::StandardButton bouton) {
         return [bouton](QMessageBox& boite) {
