@@ -59,11 +59,7 @@ std::optional<PointEtalonnage> LirePoint(Etalonnage& fiche, int selecteur, int r
     return point;
 }
 
-void RetenirPointHaut(Etalonnage7& etalonnage, const PointEtalonnage& point) {
-    etalonnage.valeur_etalonnage_haut = point.valeur;
-    etalonnage.mesure_etalonnage_haut = point.mesure;
-}
-
+/// Both pairs, shown and kept. False as soon as one of them was not answered.
 bool LirePoints(Etalonnage& fiche, bool ancien) {
     Etalonnage7& etalonnage = fiche.poste.ecran.etat.etalonnage;
     const auto bas = LirePoint(fiche, ancien ? pointUnique : pointBas, 0);
@@ -72,8 +68,10 @@ bool LirePoints(Etalonnage& fiche, bool ancien) {
     etalonnage.mesure_etalonnage_bas = bas->mesure;
     // Old firmware has no second point: its row keeps what it shows.
     const auto haut = ancien ? PointEtalonnage() : LirePoint(fiche, pointHaut, 1);
-    if (haut) RetenirPointHaut(etalonnage, *haut);
-    return haut.has_value();
+    if (!haut) return false;
+    etalonnage.valeur_etalonnage_haut = haut->valeur;
+    etalonnage.mesure_etalonnage_haut = haut->mesure;
+    return true;
 }
 
 /// False as soon as an exchange has failed.

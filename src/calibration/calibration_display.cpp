@@ -4,8 +4,8 @@
 #include "logger/pressure_scale.h"
 #include "platform/fault.h"
 #include "platform/format_pattern.h"
-#include "shell/captions.h"
 #include "shell/dates.h"
+#include "shell/form_captions.h"
 #include "ui_calibration_form.h"
 #include "ui_main_screen.h"
 
@@ -22,12 +22,8 @@ QString TextePression(MainScreen& ecran, double points) {
 
 void Traduire(Etalonnage& fiche) {
     MainScreen& ecran = fiche.poste.ecran;
-    fiche.setWindowTitle(ecran.Texte(QStringLiteral("mnuEtalonnage")));
-    for (QObject* controle : ControlesDe(fiche))
-        if (aCaption(*controle))
-            ignorer([&] {
-                FixerCaption(*controle, ecran.Texte(CleDe(*controle), CaptionDeDepart(*controle)));
-            });
+    ignorer([&] { fiche.setWindowTitle(ecran.Texte(QStringLiteral("mnuEtalonnage"))); });
+    TraduireFiche(fiche, ecran);
 }
 
 void FixerUnite(Etalonnage& fiche, const QString& unite) {

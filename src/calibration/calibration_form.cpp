@@ -5,6 +5,7 @@
 #include "calibration/calibration.h"
 #include "platform/guard.h"
 #include "platform/kept_place.h"
+#include "shell/captions.h"
 #include "ui_calibration_form.h"
 
 namespace bornika {
@@ -29,6 +30,7 @@ std::array<QWidget*, 6> RangeePoint::Controles() const {
 Etalonnage::Etalonnage(Poste& lePoste, QWidget* parent)
     : QDialog(parent), ui(std::make_unique<Ui::Etalonnage>()), poste(lePoste) {
     ui->setupUi(this);
+    RetenirCaptions(*this);
     for (QWidget* controle : Rangee(1).Controles())
         GarderLaPlace(*controle);
     for (const int rang : {0, 1})

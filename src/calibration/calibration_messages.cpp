@@ -1,7 +1,5 @@
 #include "calibration/calibration_messages.h"
 
-#include <span>
-
 #include "link/command_table.h"
 #include "link/frames.h"
 #include "platform/numbers.h"

@@ -113,9 +113,11 @@ TEST_P(CalibrationFailures, CloseTheLinkAndSaySoOnce) {
     banc.etabli.dialogues.pendantBoite = {};
     const std::string avant = banc.Situation();
     banc.enregistreur.pannes.Ordonner({.genre = genre, .occurrence = rang + 1});
-    // No to the second point; the box of an absent logger has OK alone.
-    if (c.codes[0] == 9 && c.bouton == Bouton::Fin && c.firmware == nouveau && rang > 0)
-        banc.Repondre(Reponse::Non);
+    // A first point of new firmware whose version was answered brings the question for a second.
+    const bool question =
+        c.bouton == Bouton::Fin && c.codes[0] == 9 && c.firmware == nouveau && rang > 0;
+    // The box of an absent logger has OK alone.
+    if (question) banc.Repondre(Reponse::Non);
     Presser(c.bouton);
 
     EXPECT_EQ(banc.Situation(), rang < c.sansEffet ? avant : c.apres);
@@ -128,8 +130,6 @@ TEST_P(CalibrationFailures, CloseTheLinkAndSaySoOnce) {
     EXPECT_TRUE(banc.fiche->isVisible());
     // Only a date that failed lets the two boxes of the measure come.
     const bool guide = c.bouton == Bouton::Entrer && rang == 2;
-    const bool question =
-        c.bouton == Bouton::Fin && c.codes[0] == 9 && c.firmware == nouveau && rang > 0;
     EXPECT_EQ(banc.Boites().size(), 1 + (guide ? 2 : 0) + (question ? 1 : 0));
 }
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QFile>
 #include <QMessageBox>
 #include <QTimer>
 #include <QWindow>
@@ -72,6 +73,16 @@ TEST(CalibrationForm, LooksUpOneKeyForBothRowsAndTakesAMissingTextAsEmptyOnce) {
     banc.Ouvrir();
     EXPECT_EQ(Texte(*banc.fiche, "Labeltextepressionlue_0"), "Pression lue");
     EXPECT_EQ(Texte(*banc.fiche, "LireEtalonnage"), "Lire l'étalonnage");
+}
+
+TEST(CalibrationForm, OpensWithTheCaptionsOfItsDesignWhenTheCatalogueCannotBeRead) {
+    BancEtalonnage banc;
+    ASSERT_TRUE(QFile::remove(banc.etabli.Chemin(QStringLiteral("config.xml"))));
+    banc.Ouvrir();
+    EXPECT_EQ(Texte(*banc.fiche, "LabelCapteurEtalonnage"), "Capteur étalonné");
+    EXPECT_EQ(Texte(*banc.fiche, "EntrerEtalonnage"), "Entrer en étalonnage");
+    EXPECT_EQ(banc.Situation(), "start - read quit, 1 row, types 1, point 1");
+    EXPECT_TRUE(banc.etabli.fautes.empty());
 }
 
 TEST(CalibrationForm, HasOneControlForEachMemberOfItsArrays) {
