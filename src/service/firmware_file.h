@@ -29,8 +29,6 @@ struct AppelChargeur {
     QString programme;
     /// All that follows the program and a blank: the tool takes it apart by itself.
     QString argument;
-
-    QString Ligne() const { return programme + QLatin1Char(' ') + argument; }
 };
 
 /// What the tool is told for that file. `dossier` is the program's folder, where the tool lives

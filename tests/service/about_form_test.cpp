@@ -5,7 +5,6 @@
 #include <QRegularExpression>
 
 #include "dialog_bench.h"
-#include "service/system_info.h"
 #include "ui_about_form.h"
 
 namespace bornika::essai {

@@ -140,12 +140,12 @@ TEST(VersionFirmware, WithoutAMarkIsThePathFromItsStart) {
     EXPECT_EQ(TexteVersionFirmware(QString()), QString());
 }
 
-TEST(CommandeDuChargeur, IsOneLineWithoutQuotes) {
+TEST(CommandeDuChargeur, HasNoQuotesWhateverBlanksItsPathsHave) {
     const AppelChargeur appel = CommandeChargeur(q("/opt/le programme"), q("Français"), 74210,
                                                  q("/home/zoé/mes fichiers/K-POD_V2_100.HEX"), 1);
-    EXPECT_EQ(appel.Ligne(),
-              q("/opt/le programme/Chargeur_m_v239.exe LANGUE=Français ;device=k-pod;USBID=74210;"
-                "prg=/home/zoé/mes fichiers/K-POD_V2_100.HEX;prodcode=1:2.100"));
+    EXPECT_EQ(appel.programme, q("/opt/le programme/Chargeur_m_v239.exe"));
+    EXPECT_EQ(appel.argument, q("LANGUE=Français ;device=k-pod;USBID=74210;"
+                                "prg=/home/zoé/mes fichiers/K-POD_V2_100.HEX;prodcode=1:2.100"));
 }
 
 TEST(CommandeDuChargeur, IsAProgramAndOneArgument) {
