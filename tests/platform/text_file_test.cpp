@@ -1,15 +1,14 @@
 #include "platform/text_file.h"
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 
 #include <QTemporaryDir>
-#include <csignal>
 #include <cstring>
 #include <memory>
 
 #include "platform/code_page.h"
 #include "platform/fault.h"
+#include "support/limits.h"
 
 namespace bornika {
 namespace {
@@ -152,27 +151,22 @@ TEST_F(FichierTexte, ClosesQuietlyWhenNobodyAsks) {
 }
 
 TEST_F(FichierTexte, TellsTheReasonOfAnyOtherFailedWriteAndLosesNoLine) {
-    std::signal(SIGXFSZ, SIG_IGN);
-    rlimit ancienne{};
-    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &ancienne), 0);
-    const rlimit etroite{10, ancienne.rlim_max};
     FichierTexteEcrit fichier(Chemin("a.txt"), ModeEcriture::Remplacer);
     fichier.EcrireLigne(u"0123456789ABCDEF");
     fichier.EcrireLigne(u"fin");
-    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &etroite), 0);
-    FichierTexteEcrit::ViderTous();
-    const QByteArray coupe = Lire(Chemin("a.txt"));
-    fichier.EcrireLigne(u"apres");
-    setrlimit(RLIMIT_FSIZE, &ancienne);
+    {
+        const essai::TailleLimitee limite(10);
+        FichierTexteEcrit::ViderTous();
+        EXPECT_EQ(Lire(Chemin("a.txt")), "0123456789");
+        fichier.EcrireLigne(u"apres");
+    }
     fichier.Fermer();
-    EXPECT_EQ(coupe, "0123456789");
     EXPECT_EQ(Lire(Chemin("a.txt")), "0123456789ABCDEF\r\nfin\r\napres\r\n");
 
     FichierTexteEcrit autre(Chemin("b.txt"), ModeEcriture::Remplacer);
     autre.EcrireLigne(u"0123456789ABCDEF");
-    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &etroite), 0);
+    const essai::TailleLimitee limite(10);
     const FauteExecution faute = FauteDe([&] { autre.Fermer(); });
-    setrlimit(RLIMIT_FSIZE, &ancienne);
     EXPECT_EQ(faute.numero(), 70);
     EXPECT_EQ(faute.texte().toStdString(), std::strerror(EFBIG));
 }

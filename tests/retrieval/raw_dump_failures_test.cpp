@@ -1,15 +1,15 @@
 // What goes wrong in a raw dump, and what the operator does meanwhile.
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 
 #include <QDir>
 #include <QFile>
 #include <QSignalBlocker>
-#include <csignal>
+#include <optional>
 
 #include "logger/parameter_reading.h"
 #include "raw_dump_bench.h"
+#include "support/limits.h"
 
 using namespace bornika;
 using namespace bornika::essai;
@@ -250,15 +250,11 @@ TEST(RawDumpFailing, AFullDiskIsToldWithFileAndReasonBeforeAnyCellIsRead) {
 }
 
 TEST(RawDumpFailing, ADiskThatFillsUpEndsItAndKeepsTheLinesThatAreThere) {
-    std::signal(SIGXFSZ, SIG_IGN);
     BancDump banc;
-    rlimit ancienne{};
-    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &ancienne), 0);
-    const rlimit etroite{2000, ancienne.rlim_max};
-    banc.AuTour(1, [&] { setrlimit(RLIMIT_FSIZE, &etroite); });
-    banc.etabli.dialogues.pendantBoite = [&](const auto&) { setrlimit(RLIMIT_FSIZE, &ancienne); };
+    std::optional<TailleLimitee> limite;
+    banc.AuTour(1, [&] { limite.emplace(2000); });
+    banc.etabli.dialogues.pendantBoite = [&](const auto&) { limite.reset(); };
     banc.Lire(100, 102);
-    setrlimit(RLIMIT_FSIZE, &ancienne);
     ASSERT_EQ(banc.Boites(), 1U);
     EXPECT_EQ(banc.Boite(0).icone, Icone::Critique);
     EXPECT_TRUE(banc.Boite(0).texte.startsWith(banc.fichier + QStringLiteral(" : ")));

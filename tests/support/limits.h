@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <csignal>
+#include <cstdlib>
 
 namespace bornika::essai {
 
@@ -24,19 +25,26 @@ class TailleLimitee {
     rlimit avant_{};
 };
 
-/// While it lives this process is an ordinary user: the superuser may write everything.
+/// While it lives this process is an ordinary user, who may go where everybody may: the superuser
+/// may write everything.
 class SansPrivilege {
   public:
-    SansPrivilege() : avant_(geteuid()) {
-        if (avant_ == 0) [[maybe_unused]]
-            const int rendu = seteuid(65534);
+    SansPrivilege() {
+        if (superutilisateur_) Devenir(65534);
     }
-    ~SansPrivilege() { [[maybe_unused]] const int rendu = seteuid(avant_); }
+    ~SansPrivilege() {
+        if (superutilisateur_) Devenir(0);
+    }
     SansPrivilege(const SansPrivilege&) = delete;
     SansPrivilege& operator=(const SansPrivilege&) = delete;
 
   private:
-    uid_t avant_;
+    // The saved number alone stays: with it there is a way back.
+    static void Devenir(uid_t utilisateur) {
+        if (setresuid(utilisateur, utilisateur, 0) != 0) std::abort();
+    }
+
+    const bool superutilisateur_ = geteuid() == 0;
 };
 
 }  // namespace bornika::essai
