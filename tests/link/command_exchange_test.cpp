@@ -28,12 +28,12 @@ TEST(MSB, RoundsHalfToEvenBeforeSplitting) {
 
 TEST(MSB, ValueThatDoesNotFitSixteenBitsIsAFault) {
     for (const double x : {65536.0, -1.0, 65535.5, 1e9}) {
-        EXPECT_EQ(FauteDe([&] { MSB(x); }), numero_faute::depassement) << x;
-        EXPECT_EQ(FauteDe([&] { LSB(x); }), numero_faute::depassement) << x;
+        EXPECT_EQ(NumeroDeFaute([&] { MSB(x); }), numero_faute::depassement) << x;
+        EXPECT_EQ(NumeroDeFaute([&] { LSB(x); }), numero_faute::depassement) << x;
     }
-    EXPECT_EQ(FauteDe([&] { MSB(std::numeric_limits<double>::quiet_NaN()); }),
+    EXPECT_EQ(NumeroDeFaute([&] { MSB(std::numeric_limits<double>::quiet_NaN()); }),
               numero_faute::depassement);
-    EXPECT_EQ(FauteDe([&] { MSB(65535.4); }), 0);
+    EXPECT_EQ(NumeroDeFaute([&] { MSB(65535.4); }), 0);
     EXPECT_EQ(LSB(-0.5), 0);
     EXPECT_EQ(MSB(-0.5), 0);
 }
@@ -119,7 +119,8 @@ TEST(EnvoiEntete, MoreBytesThanTheBufferHoldsIsAFault) {
     UsbDicte usb;
     Banc b(usb);
     Tampon buffer{};
-    EXPECT_EQ(FauteDe([&] { Envoi_Entete(b.poste, 9, buffer, 17, false); }), numero_faute::indice);
+    EXPECT_EQ(NumeroDeFaute([&] { Envoi_Entete(b.poste, 9, buffer, 17, false); }),
+              numero_faute::indice);
 }
 
 TEST(EnvoiEntete, BufferHoldsSixteenBytesOfReply) {
@@ -138,9 +139,9 @@ TEST(EnvoiEntete, CodeOrArgumentBeyondAByteIsAFaultAndNothingIsSent) {
     b.lien.OuvreUSB(1);
     Tampon buffer{};
     for (const int valeur : {256, -1}) {
-        EXPECT_EQ(FauteDe([&] { Envoi_Entete(b.poste, valeur, buffer, 8, false); }),
+        EXPECT_EQ(NumeroDeFaute([&] { Envoi_Entete(b.poste, valeur, buffer, 8, false); }),
                   numero_faute::depassement);
-        EXPECT_EQ(FauteDe([&] { Envoi_Entete(b.poste, 9, buffer, 8, false, valeur); }),
+        EXPECT_EQ(NumeroDeFaute([&] { Envoi_Entete(b.poste, 9, buffer, 8, false, valeur); }),
                   numero_faute::depassement);
     }
     EXPECT_TRUE(usb.appels.filter(q("write")).isEmpty());

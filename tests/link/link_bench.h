@@ -13,6 +13,7 @@
 #include "link/station.h"
 #include "platform/controls.h"
 #include "support/fake_system.h"
+#include "support/fault_number.h"
 #include "ui_main_screen.h"
 
 namespace bornika::essai {
@@ -146,16 +147,6 @@ class Banc : public Etabli {
     MULTIUSB lien;
     Poste poste;
 };
-
-template <class Operation>
-int FauteDe(Operation operation) {
-    try {
-        operation();
-        return 0;
-    } catch (const FauteExecution& faute) {
-        return faute.numero();
-    }
-}
 
 inline QString q(const char* texte) {
     return QString::fromUtf8(texte);

@@ -106,8 +106,8 @@ TEST(UsbWrite, ValueOutsideAByteIsAFaultBeforeAnythingIsSent) {
     b.lien.OuvreUSB(1);
     for (const int valeur : {256, -1, 100000}) {
         const std::vector<int> mauvaise{1, 2, valeur};
-        EXPECT_EQ(FauteDe([&] { b.lien.UsbWrite(mauvaise, 3); }), numero_faute::depassement);
-        EXPECT_EQ(FauteDe([&] { b.lien.UsbWrite(mauvaise, 2); }), 0);
+        EXPECT_EQ(NumeroDeFaute([&] { b.lien.UsbWrite(mauvaise, 3); }), numero_faute::depassement);
+        EXPECT_EQ(NumeroDeFaute([&] { b.lien.UsbWrite(mauvaise, 2); }), 0);
     }
     EXPECT_EQ(usb.appels.filter(q("write")).size(), 3);
 }
@@ -115,7 +115,7 @@ TEST(UsbWrite, ValueOutsideAByteIsAFaultBeforeAnythingIsSent) {
 TEST(UsbWrite, MoreElementsThanTheArrayHasIsAFault) {
     UsbDicte usb;
     Banc b(usb);
-    EXPECT_EQ(FauteDe([&] { b.lien.UsbWrite(trame, 9); }), numero_faute::indice);
+    EXPECT_EQ(NumeroDeFaute([&] { b.lien.UsbWrite(trame, 9); }), numero_faute::indice);
 }
 
 TEST(UsbWrite, StillSendsWhileTimeOutStands) {
@@ -167,9 +167,9 @@ TEST(UsbRead, FourthArgumentHasNoEffect) {
 TEST(UsbRead, LengthBelowZeroIsAFaultAsItIsForAWrite) {
     UsbDicte usb;
     Banc b(usb);
-    EXPECT_EQ(FauteDe([&] { b.lien.UsbRead(-1, QString(), false, false, {}); }),
+    EXPECT_EQ(NumeroDeFaute([&] { b.lien.UsbRead(-1, QString(), false, false, {}); }),
               numero_faute::indice);
-    EXPECT_EQ(FauteDe([&] { b.lien.UsbWrite(trame, -1); }), numero_faute::indice);
+    EXPECT_EQ(NumeroDeFaute([&] { b.lien.UsbWrite(trame, -1); }), numero_faute::indice);
 }
 
 TEST(UsbRead, ShortReplyIsASuccessFilledWithZeros) {

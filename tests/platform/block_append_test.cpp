@@ -45,17 +45,12 @@ TEST_F(BlocAjoute, KeepsTheBytesOfTheBlockAsTheyAre) {
 
 TEST_F(BlocAjoute, CutsAHalfWrittenBlockOffAgain) {
     Poser("a.log", "ancien\r\n");
-    FauteExecution faute(0);
     {
         const TailleLimitee limite(8 + 3);
-        try {
-            AjouterBloc(Chemin("a.log"), "nouveau\r\n");
-        } catch (const FauteExecution& levee) {
-            faute = levee;
-        }
+        const FauteExecution faute = FauteDe([&] { AjouterBloc(Chemin("a.log"), "nouveau\r\n"); });
+        EXPECT_EQ(faute.numero(), 70);
+        EXPECT_EQ(faute.texte().toStdString(), std::strerror(EFBIG));
     }
-    EXPECT_EQ(faute.numero(), 70);
-    EXPECT_EQ(faute.texte().toStdString(), std::strerror(EFBIG));
     EXPECT_EQ(Lire("a.log"), "ancien\r\n");
     AjouterBloc(Chemin("a.log"), "nouveau\r\n");
     EXPECT_EQ(Lire("a.log"), "ancien\r\nnouveau\r\n");

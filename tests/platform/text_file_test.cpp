@@ -8,6 +8,7 @@
 
 #include "platform/code_page.h"
 #include "platform/fault.h"
+#include "support/fault_number.h"
 #include "support/limits.h"
 
 namespace bornika {
@@ -25,17 +26,8 @@ class FichierTexte : public testing::Test {
         ASSERT_TRUE(fichier.open(QIODevice::WriteOnly));
         fichier.write(contenu);
     }
-    template <class Operation>
-    static FauteExecution FauteDe(Operation operation) {
-        try {
-            operation();
-        } catch (const FauteExecution& faute) {
-            return faute;
-        }
-        return FauteExecution(0, QStringLiteral("none"));
-    }
     static int NumeroCreation(const QString& chemin) {
-        return FauteDe([&] { FichierTexteEcrit(chemin, ModeEcriture::Remplacer); }).numero();
+        return essai::NumeroDeFaute([&] { FichierTexteEcrit(chemin, ModeEcriture::Remplacer); });
     }
 
     QTemporaryDir dossier;
@@ -122,14 +114,14 @@ TEST_F(FichierTexte, WritesManyLinesWhole) {
 TEST_F(FichierTexte, TellsThatTheDiskIsFull) {
     FichierTexteEcrit fichier(QStringLiteral("/dev/full"), ModeEcriture::Remplacer);
     fichier.EcrireLigne(u"perdu");
-    const FauteExecution faute = FauteDe([&] { fichier.Fermer(); });
+    const FauteExecution faute = essai::FauteDe([&] { fichier.Fermer(); });
     EXPECT_EQ(faute.numero(), 61);
     EXPECT_EQ(faute.texte().toStdString(), std::strerror(ENOSPC));
 }
 
 TEST_F(FichierTexte, TellsOfAFullDiskWhileItWrites) {
     FichierTexteEcrit fichier(QStringLiteral("/dev/full"), ModeEcriture::Remplacer);
-    const FauteExecution faute = FauteDe([&] {
+    const FauteExecution faute = essai::FauteDe([&] {
         for (int i = 0; i < 100000; ++i)
             fichier.EcrireLigne(u"0123456789");
     });
@@ -166,7 +158,7 @@ TEST_F(FichierTexte, TellsTheReasonOfAnyOtherFailedWriteAndLosesNoLine) {
     FichierTexteEcrit autre(Chemin("b.txt"), ModeEcriture::Remplacer);
     autre.EcrireLigne(u"0123456789ABCDEF");
     const essai::TailleLimitee limite(10);
-    const FauteExecution faute = FauteDe([&] { autre.Fermer(); });
+    const FauteExecution faute = essai::FauteDe([&] { autre.Fermer(); });
     EXPECT_EQ(faute.numero(), 70);
     EXPECT_EQ(faute.texte().toStdString(), std::strerror(EFBIG));
 }
@@ -183,7 +175,7 @@ TEST_F(FichierTexte, FaultsWhenItCannotBeCreated) {
 
 TEST_F(FichierTexte, FaultsWithTheStandardTextWhenItCannotBeCreated) {
     const auto faute =
-        FauteDe([&] { FichierTexteEcrit(Chemin("absent/a.txt"), ModeEcriture::Remplacer); });
+        essai::FauteDe([&] { FichierTexteEcrit(Chemin("absent/a.txt"), ModeEcriture::Remplacer); });
     EXPECT_EQ(faute.texte(), "Path not found");
 }
 
@@ -239,8 +231,8 @@ TEST_F(FichierTexte, KeepsItsLinesWhenTheFileIsWrittenAnewMeanwhile) {
 }
 
 TEST_F(FichierTexte, FaultsWhenItCannotBeRead) {
-    EXPECT_EQ(FauteDe([&] { FichierTexteLu(Chemin("absent.txt")); }).numero(), 53);
-    EXPECT_EQ(FauteDe([&] { FichierTexteLu(dossier.path()); }).numero(), 70);
+    EXPECT_EQ(essai::NumeroDeFaute([&] { FichierTexteLu(Chemin("absent.txt")); }), 53);
+    EXPECT_EQ(essai::NumeroDeFaute([&] { FichierTexteLu(dossier.path()); }), 70);
 }
 
 TEST(PageDeCode, GivesEveryByteBack) {

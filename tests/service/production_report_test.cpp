@@ -66,12 +66,7 @@ struct Rapport : testing::Test {
     }
     /// Fault of the operation itself, with its text.
     FauteExecution Faute() {
-        try {
-            PrintReport(fiche);
-        } catch (const FauteExecution& faute) {
-            return faute;
-        }
-        return FauteExecution(0);
+        return FauteDe([this] { PrintReport(fiche); });
     }
 };
 

@@ -91,16 +91,18 @@ TEST(ShapeOfTheFile, ValueThatIsNoNumberIsZeroAndOneThatIsTooLargeAFault) {
     EXPECT_EQ(liste.TexteA(2), q("bar"));
     EXPECT_EQ(liste.Donnee(2), 0);
     r.Retoucher("<Valeur>bar 10000<", "<Valeur>3000000000<");
-    EXPECT_EQ(FauteDe([&] { r.configuration.RemplitListe(francais, q("ListeUnites"), liste); }),
-              numero_faute::depassement);
+    EXPECT_EQ(
+        NumeroDeFaute([&] { r.configuration.RemplitListe(francais, q("ListeUnites"), liste); }),
+        numero_faute::depassement);
 }
 
 TEST(ShapeOfTheFile, LineWithoutItsValueIsAFault) {
     Reglages r;
     r.Retoucher("<Index>0</Index><Valeur>2.5</Valeur>", "<Index>0</Index>");
     ListeDeroulante liste;
-    EXPECT_EQ(FauteDe([&] { r.configuration.RemplitListe(francais, q("ListeUnites"), liste); }),
-              numero_faute::objetAbsent);
+    EXPECT_EQ(
+        NumeroDeFaute([&] { r.configuration.RemplitListe(francais, q("ListeUnites"), liste); }),
+        numero_faute::objetAbsent);
 }
 
 TEST(Maintenance, IsOffWhereTheElementIsMissing) {
@@ -145,8 +147,8 @@ TEST(EcritConfig, SaveThatFailsIsAFaultAndTheNextReadingGivesTheOldText) {
     ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &ancienne), 0);
     const rlimit etroite{100, ancienne.rlim_max};
     ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &etroite), 0);
-    const int numero = FauteDe([&] { r.configuration.EcritConfig(q("COM2"), q("Port")); });
-    const int entree = FauteDe([&] { r.configuration.LitMessage(francais, q("Neuf"), {}); });
+    const int numero = NumeroDeFaute([&] { r.configuration.EcritConfig(q("COM2"), q("Port")); });
+    const int entree = NumeroDeFaute([&] { r.configuration.LitMessage(francais, q("Neuf"), {}); });
     setrlimit(RLIMIT_FSIZE, &ancienne);
     EXPECT_EQ(numero, numero_faute::accesRefuse);
     EXPECT_EQ(entree, numero_faute::accesRefuse);

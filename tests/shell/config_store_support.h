@@ -8,6 +8,7 @@
 #include "platform/controls.h"
 #include "shell/config_store.h"
 #include "support/fake_system.h"
+#include "support/fault_number.h"
 
 namespace bornika::essai {
 
@@ -98,17 +99,6 @@ inline QStringList Textes(const ListeDeroulante& liste) {
     for (int i = 0; i < liste.Nombre(); ++i)
         textes << liste.TexteA(i);
     return textes;
-}
-
-/// Number of the fault that an operation raises, 0 for none.
-template <class Operation>
-int FauteDe(Operation operation) {
-    try {
-        operation();
-        return 0;
-    } catch (const FauteExecution& faute) {
-        return faute.numero();
-    }
 }
 
 const inline QString francais = QStringLiteral("Français");

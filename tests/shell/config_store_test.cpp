@@ -31,7 +31,8 @@ TEST(LitConfig, OtherFileIsReadFromTheProgramsFolder) {
 
 TEST(LitConfig, NameThatIsNoPathIsAFault) {
     Reglages r;
-    EXPECT_EQ(FauteDe([&] { r.configuration.LitConfig(q("[")); }), numero_faute::appelInvalide);
+    EXPECT_EQ(NumeroDeFaute([&] { r.configuration.LitConfig(q("[")); }),
+              numero_faute::appelInvalide);
 }
 
 TEST(LitConfig, ChangeByHandIsSeenByTheNextOperation) {
@@ -182,7 +183,7 @@ TEST(DureeSaisie, IndexIsMatchedAsATextAndInExactCase) {
 
 TEST(DureeSaisie, DurationThatDoesNotFitTenfoldIsAFaultAndIsNotStored) {
     Reglages r;
-    EXPECT_EQ(FauteDe([&] { r.configuration.EcritDureeSaisie(5, 300000000); }),
+    EXPECT_EQ(NumeroDeFaute([&] { r.configuration.EcritDureeSaisie(5, 300000000); }),
               numero_faute::depassement);
     EXPECT_EQ(r.Fichier(), PetiteConfiguration());
 }
@@ -222,7 +223,7 @@ TEST_P(FichierMauvais, IsFault91OfEveryOperationAndIsNotTouched) {
     };
     int numero = 0;
     for (const auto& operation : operations)
-        EXPECT_EQ(FauteDe(operation), numero_faute::objetAbsent) << "operation " << numero++;
+        EXPECT_EQ(NumeroDeFaute(operation), numero_faute::objetAbsent) << "operation " << numero++;
     EXPECT_EQ(r.Fichier(), GetParam().contenu);
 }
 
@@ -239,7 +240,8 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(FichierAbsent, IsFault91AndTheProgramGoesOnOnceItIsBack) {
     Reglages r;
     ASSERT_TRUE(QFile::remove(r.Chemin(Reglages::nom())));
-    EXPECT_EQ(FauteDe([&] { r.configuration.LitConfig(q("Langue")); }), numero_faute::objetAbsent);
+    EXPECT_EQ(NumeroDeFaute([&] { r.configuration.LitConfig(q("Langue")); }),
+              numero_faute::objetAbsent);
     EXPECT_FALSE(r.Fichiers().contains(Reglages::nom()));
     r.Ecrire(Reglages::nom(), PetiteConfiguration());
     EXPECT_EQ(r.configuration.LitConfig(q("Langue")), francais);

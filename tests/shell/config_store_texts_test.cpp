@@ -98,7 +98,7 @@ TEST(LitMessage, KeyFoundInASecondElementOfTheLanguageLosesTheEntryJustMade) {
 TEST(LitMessage, LanguageWithoutAnyEntryIsAFault) {
     Reglages r;
     r.Retoucher("<E2><C2>k-Pod Absent</C2><T2>no k-Pod</T2></E2>", "<!-- none -->");
-    EXPECT_EQ(FauteDe([&] { r.configuration.LitMessage(q("English"), q("New"), {}); }),
+    EXPECT_EQ(NumeroDeFaute([&] { r.configuration.LitMessage(q("English"), q("New"), {}); }),
               numero_faute::objetAbsent);
 }
 
@@ -186,11 +186,13 @@ TEST(RemplitListe, MissingListOrLanguageLeavesTheBoxAsItWas) {
 TEST(RemplitListe, IndexBeyondTheEntriesIsAFault) {
     Reglages r;
     ListeDeroulante liste;
-    EXPECT_EQ(FauteDe([&] { r.configuration.RemplitListe(francais, q("ListeTemps"), liste); }),
-              numero_faute::appelInvalide);
+    EXPECT_EQ(
+        NumeroDeFaute([&] { r.configuration.RemplitListe(francais, q("ListeTemps"), liste); }),
+        numero_faute::appelInvalide);
     r.Retoucher("<Texte>Sec</Texte><Index>1", "<Texte>Sec</Texte><Index>-1");
-    EXPECT_EQ(FauteDe([&] { r.configuration.RemplitListe(francais, q("ListeTemps"), liste); }),
-              numero_faute::appelInvalide);
+    EXPECT_EQ(
+        NumeroDeFaute([&] { r.configuration.RemplitListe(francais, q("ListeTemps"), liste); }),
+        numero_faute::appelInvalide);
 }
 
 TEST(LitEchelle, GivesTheLimitsOfTheLineWithThatIndex) {

@@ -4,15 +4,21 @@
 
 namespace bornika::essai {
 
-/// Number of the fault that ends an instruction, 0 for none.
+/// The fault that ends an instruction, with its text; number 0 for none.
 template <class Instruction>
-int NumeroDeFaute(Instruction&& instruction) {
+FauteExecution FauteDe(Instruction&& instruction) {
     try {
         instruction();
     } catch (const FauteExecution& faute) {
-        return faute.numero();
+        return faute;
     }
-    return 0;
+    return FauteExecution(0);
+}
+
+/// Its number alone, 0 for none.
+template <class Instruction>
+int NumeroDeFaute(Instruction&& instruction) {
+    return FauteDe(instruction).numero();
 }
 
 }  // namespace bornika::essai
