@@ -63,9 +63,18 @@ void SuiviActivation::FenetreActive(QWidget* fenetre) {
     if (!EstFiche(*fenetre)) return;
     const bool revient = !dejaActivee_ || derniereFiche_ != fenetre;
     derniereFiche_ = fenetre;
-    if (fenetre != &principale_ || !revient) return;
+    if (fenetre != &principale_) return;
+    if (QWindow* cadre = principale_.windowHandle()) cadre->installEventFilter(this);
+    if (!revient) return;
     dejaActivee_ = true;
     activer_();
+}
+
+bool SuiviActivation::eventFilter(QObject* objet, QEvent* evenement) {
+    const QEvent::Type genre = evenement->type();
+    if (genre == QEvent::MouseButtonPress || genre == QEvent::KeyPress)
+        garder([this] { FenetreActive(&principale_); });
+    return QObject::eventFilter(objet, evenement);
 }
 
 }  // namespace bornika

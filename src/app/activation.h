@@ -33,6 +33,9 @@ class Activation {
 /// Tells when the main form becomes the active form of this program: for the first time, or after
 /// another form of it. Message boxes, common dialogs and other programs do not count, or each box
 /// would cancel a running download.
+///
+/// A hand on the main form counts at once: what the window system says of it may come after the
+/// click has begun a download, and would end that one.
 class SuiviActivation : public QObject {
     Q_OBJECT
   public:
@@ -40,6 +43,9 @@ class SuiviActivation : public QObject {
 
     /// A window of the program became the active one.
     void FenetreActive(QWidget* fenetre);
+
+  protected:
+    bool eventFilter(QObject* objet, QEvent* evenement) override;
 
   private:
     QWidget& principale_;

@@ -179,6 +179,29 @@ TEST_F(Suivi, TheReturnFromAFormThatWasDeletedIsAnActivationToo) {
     EXPECT_EQ(activations, 2);
 }
 
+TEST_F(Suivi, AHandOnTheMainFormActivatesItThoughTheWindowSystemSaysSoLater) {
+    SuiviActivation suivi(banc.ecran(), [this] { ++activations; });
+    banc.ecran().etat.SplashAffiche = true;
+    banc.ecran().show();
+    ASSERT_TRUE(DevientActive(&banc.ecran()));
+    QWindow* cadre = banc.ecran().windowHandle();
+    const QPoint bord(1, banc.ecran().height() - 1);
+    QTest::mouseClick(cadre, Qt::LeftButton, {}, bord);
+    EXPECT_EQ(activations, 1);
+
+    Trace& trace = banc.programme->trace.Fiche();
+    for (int attendues = 2; attendues <= 3; ++attendues) {
+        suivi.FenetreActive(&trace);
+        if (attendues == 2)
+            QTest::mousePress(cadre, Qt::LeftButton, {}, bord);
+        else
+            QTest::keyPress(cadre, Qt::Key_Shift);
+        EXPECT_EQ(activations, attendues);
+        suivi.FenetreActive(&banc.ecran());
+        EXPECT_EQ(activations, attendues);
+    }
+}
+
 TEST_F(Suivi, TheFirstFormMayBeADialogOfTheStart) {
     SuiviActivation suivi(banc.ecran(), [this] { ++activations; });
     Trace& trace = banc.programme->trace.Fiche();
