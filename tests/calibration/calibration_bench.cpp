@@ -86,6 +86,20 @@ std::string BancEtalonnage::Situation() const {
            boites + ", point " + std::to_string(fiche->DeuxiemePoint + 1);
 }
 
+Trames BancEtalonnage::Recues() const {
+    Trames trames;
+    for (const auto& notee : enregistreur.journal.Trames())
+        trames.push_back(notee.Liste());
+    return trames;
+}
+
+std::string BancEtalonnage::Poignees() const {
+    std::string suite;
+    for (const auto& evenement : enregistreur.lien)
+        suite += evenement.ouverture ? 'o' : 'c';
+    return suite;
+}
+
 QStringList BancEtalonnage::Boites() const {
     QStringList textes;
     for (const auto& boite : etabli.dialogues.boites)

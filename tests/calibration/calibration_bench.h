@@ -2,6 +2,7 @@
 
 #include <QPushButton>
 #include <QTest>
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <vector>
@@ -12,6 +13,8 @@
 #include "ui_calibration_form.h"
 
 namespace bornika::essai {
+
+using Trames = std::vector<std::vector<std::uint8_t>>;
 
 /// What the calibration tells apart: new firmware has two points.
 enum class Firmware { Ancien, Nouveau };
@@ -45,6 +48,10 @@ class BancEtalonnage : public BancEnregistreur {
     /// shown, the box open to typing, the point being taken.
     std::string Situation() const;
     std::vector<int> Codes() const { return enregistreur.journal.Codes(); }
+    /// The frames themselves, in order.
+    Trames Recues() const;
+    /// "oocc": how the two handles of the link were opened and closed.
+    std::string Poignees() const;
     QStringList Boites() const;
     /// Forgets frames and boxes.
     void Oublier();

@@ -10,7 +10,6 @@ namespace {
 
 namespace adresse = simulateur::adresse;
 using simulateur::GenrePanne;
-using Trames = std::vector<std::vector<std::uint8_t>>;
 
 const QString rien = QStringLiteral("--");
 
@@ -72,14 +71,11 @@ TEST(CalibrationReading, AsksInThisOrder) {
     BancEtalonnage banc;
     banc.Ouvrir();
     banc.Cliquer(banc.f().LireEtalonnage);
-    Trames trames;
-    for (const auto& notee : banc.enregistreur.journal.Trames())
-        trames.push_back(notee.Liste());
-    EXPECT_EQ(trames, (Trames{{9, 0, 0, 0, 0, 0, 0, 0},
-                              {28, 0, 0, 0, 0, 0, 0, 0},
-                              {26, 1, 0, 0, 0, 0, 0, 0},
-                              {26, 2, 0, 0, 0, 0, 0, 0}}));
-    EXPECT_EQ(banc.enregistreur.lien.size(), 4U) << "opened once, closed once";
+    EXPECT_EQ(banc.Recues(), (Trames{{9, 0, 0, 0, 0, 0, 0, 0},
+                                     {28, 0, 0, 0, 0, 0, 0, 0},
+                                     {26, 1, 0, 0, 0, 0, 0, 0},
+                                     {26, 2, 0, 0, 0, 0, 0, 0}}));
+    EXPECT_EQ(banc.Poignees(), "oocc") << "opened once, closed once";
 }
 
 TEST(CalibrationReading, OfANeverCalibratedLoggerKeepsDateAndSensorButNotTheUnit) {

@@ -8,14 +8,6 @@ namespace bornika::essai {
 namespace {
 
 namespace adresse = simulateur::adresse;
-using Trames = std::vector<std::vector<std::uint8_t>>;
-
-Trames Toutes(const EnregistreurSimule& enregistreur) {
-    Trames trames;
-    for (const auto& notee : enregistreur.journal.Trames())
-        trames.push_back(notee.Liste());
-    return trames;
-}
 
 const std::vector<std::uint8_t> version{9, 0, 0, 0, 0, 0, 0, 0};
 const std::vector<std::uint8_t> fin{25, 0, 0, 0, 0, 0, 0, 0};
@@ -38,18 +30,18 @@ TEST(CalibrationFrames, OfTwoPointsFromTheOpeningToTheEnd) {
     banc.Mesurer(770);
     banc.Cliquer(banc.f().EntrerEtalonnage);
     banc.Cliquer(banc.f().SortirEtalonnage);
-    EXPECT_EQ(Toutes(banc.enregistreur), (Trames{version,
-                                                 {24, 0x01, 0x40, 1, 7, 110, 1, 150},
-                                                 date,
-                                                 version,
-                                                 version,
-                                                 {24, 0x03, 0x00, 2, 7, 110, 1, 150},
-                                                 date,
-                                                 fin,
-                                                 version,
-                                                 litDate,
-                                                 litBas,
-                                                 litHaut}));
+    EXPECT_EQ(banc.Recues(), (Trames{version,
+                                     {24, 0x01, 0x40, 1, 7, 110, 1, 150},
+                                     date,
+                                     version,
+                                     version,
+                                     {24, 0x03, 0x00, 2, 7, 110, 1, 150},
+                                     date,
+                                     fin,
+                                     version,
+                                     litDate,
+                                     litBas,
+                                     litHaut}));
     EXPECT_EQ(banc.f().ValeurPressionLue_0->text(), QStringLiteral("4.9"));
     EXPECT_EQ(banc.f().ValeurPressionLue_1->text(), QStringLiteral("12.0"));
     EXPECT_EQ(banc.f().ValeurDateEtalonnage->text(), QStringLiteral("05/03/2026 14:07:09"));
@@ -64,14 +56,14 @@ TEST(CalibrationFrames, OfOldFirmwareHaveOnePointAndNoQuestion) {
     banc.Mesurer(316);
     banc.Cliquer(banc.f().EntrerEtalonnage);
     banc.Cliquer(banc.f().SortirEtalonnage);
-    EXPECT_EQ(Toutes(banc.enregistreur), (Trames{version,
-                                                 {24, 0x01, 0x40, 1, 0, 89, 1, 150},
-                                                 date,
-                                                 version,
-                                                 fin,
-                                                 version,
-                                                 litDate,
-                                                 litUnique}));
+    EXPECT_EQ(banc.Recues(), (Trames{version,
+                                     {24, 0x01, 0x40, 1, 0, 89, 1, 150},
+                                     date,
+                                     version,
+                                     fin,
+                                     version,
+                                     litDate,
+                                     litUnique}));
     EXPECT_EQ(banc.Boites().size(), 2);
     EXPECT_EQ(banc.f().ValeurPressionLue_0->text(), QStringLiteral("4.9"));
 }
@@ -227,10 +219,7 @@ TEST(CalibrationLink, IsOpenedAnewForThePointAndClosedAtTheEnd) {
     banc.Ouvrir();
     banc.Taper(0, "5");
     banc.Cliquer(banc.f().EntrerEtalonnage);
-    std::string suite;
-    for (const auto& evenement : banc.enregistreur.lien)
-        suite += evenement.ouverture ? 'o' : 'c';
-    EXPECT_EQ(suite, "ooccoocc");
+    EXPECT_EQ(banc.Poignees(), "ooccoocc");
 }
 
 TEST(CalibrationLink, ThatAYesHasLeftOpenIsClosedByTheNextOpen) {
@@ -240,9 +229,7 @@ TEST(CalibrationLink, ThatAYesHasLeftOpenIsClosedByTheNextOpen) {
     EXPECT_EQ(banc.enregistreur.memoire.Octet(adresse::modeEtalonnage), 1)
         << "the logger stays in calibration";
     banc.Cliquer(banc.f().LireEtalonnage);
-    ASSERT_GE(banc.enregistreur.lien.size(), 2U);
-    EXPECT_FALSE(banc.enregistreur.lien[0].ouverture);
-    EXPECT_FALSE(banc.enregistreur.lien[1].ouverture);
+    EXPECT_EQ(banc.Poignees(), "ccoocc");
     EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);
 }
 
@@ -250,10 +237,7 @@ TEST(CalibrationLink, OfASecondPointIsOpenedOnceForItsEndAndOnceForTheReading) {
     BancEtalonnage banc;
     banc.Amener(Avance::PointDeux);
     banc.Cliquer(banc.f().SortirEtalonnage);
-    std::string suite;
-    for (const auto& evenement : banc.enregistreur.lien)
-        suite += evenement.ouverture ? 'o' : 'c';
-    EXPECT_EQ(suite, "ooccoocc");
+    EXPECT_EQ(banc.Poignees(), "ooccoocc");
 }
 
 }  // namespace
