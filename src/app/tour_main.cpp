@@ -1,5 +1,6 @@
 #include <QDir>
 #include <QFile>
+#include <QLoggingCategory>
 #include <cstdio>
 
 #include "app/application.h"
@@ -37,6 +38,8 @@ QString FaireDossier(Horloge& horloge) {
 // pictures.
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    // Off-screen the toolkit warns at each window that there is no window manager.
+    QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
     Application application(argc, argv);
     PreparerApplication();
 
