@@ -45,25 +45,20 @@ libusb_device_handle* UsbNu::Ouvrir(int adresse) {
     return poignee;
 }
 
-int UsbNu::Transferer(libusb_device_handle* poignee, std::uint8_t point,
-                      std::vector<std::uint8_t>& octets, int& transferes, unsigned delai) const {
-    const auto transfert = interruption ? libusb_interrupt_transfer : libusb_bulk_transfer;
-    return transfert(poignee, point, octets.data(), static_cast<int>(octets.size()), &transferes,
-                     delai);
-}
-
 UsbNu::Resultat UsbNu::Lire(libusb_device_handle* poignee, int longueur, unsigned delai) {
     Resultat resultat;
     resultat.octets.resize(static_cast<std::size_t>(longueur));
     int recus = 0;
-    resultat.erreur = Transferer(poignee, FicheUsb{}.entree, resultat.octets, recus, delai);
+    resultat.erreur = libusb_bulk_transfer(poignee, FicheUsb{}.entree, resultat.octets.data(),
+                                           longueur, &recus, delai);
     resultat.octets.resize(static_cast<std::size_t>(recus));
     return resultat;
 }
 
 int UsbNu::Ecrire(libusb_device_handle* poignee, std::vector<std::uint8_t> octets) {
     int envoyes = 0;
-    return Transferer(poignee, FicheUsb{}.sortie, octets, envoyes, 1000);
+    return libusb_bulk_transfer(poignee, FicheUsb{}.sortie, octets.data(),
+                                static_cast<int>(octets.size()), &envoyes, 1000);
 }
 
 UsbNu::Resultat UsbNu::Echanger(libusb_device_handle* poignee,

@@ -31,13 +31,9 @@ class UsbNu {
     /// Sends a frame and reads its answer with a buffer of one packet.
     Resultat Echanger(libusb_device_handle* poignee, const std::vector<std::uint8_t>& trame);
 
-    bool interruption = false;
     int erreur = 0;
 
   private:
-    int Transferer(libusb_device_handle* poignee, std::uint8_t point,
-                   std::vector<std::uint8_t>& octets, int& transferes, unsigned delai) const;
-
     libusb_context* contexte_ = nullptr;
 };
 
