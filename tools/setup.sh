@@ -5,7 +5,7 @@ packages_build=(build-essential cmake ninja-build qt6-base-dev qt6-translations-
     libqcustomplot-dev libpugixml-dev libusb-1.0-0-dev pkg-config fonts-dejavu-core)
 packages_test=(libgtest-dev libgmock-dev clang-format poppler-utils umockdev libumockdev-dev)
 packages_kernel=(qemu-system-x86 kmod busybox-static udev) # see tests/usb_kernel/prepare
-packages_bench=(libbenchmark-dev)
+packages_bench=(libbenchmark-dev umockdev libumockdev-dev)
 
 # as_root COMMAND...: runs it with root's rights, through sudo where need be.
 as_root() {
