@@ -17,9 +17,11 @@ namespace {
 
 // The form below. Right behind another box the window system has not activated it again yet: then
 // it is the dialog that waits for both, so that the second box comes up where the first one was.
+// A window that deletes itself, such as the splash, would take the box with it.
 QWidget* Parent() {
     QWidget* active = QApplication::activeWindow();
-    return active ? active : QApplication::activeModalWidget();
+    if (active && !active->testAttribute(Qt::WA_DeleteOnClose)) return active;
+    return QApplication::activeModalWidget();
 }
 
 // A box that is answered by one of its buttons only.

@@ -69,8 +69,8 @@ class Dialogues {
 /// "txt (*.txt) (*.txt *.TXT)", of which the dialog shows the label "txt (*.txt)" alone.
 QString FiltrePourDialogue(const QString& filtre);
 
-/// The toolkit's boxes and dialogs. The parent is the program's active window, else its modal
-/// dialog.
+/// The toolkit's boxes and dialogs. The parent is the program's active window, unless that one
+/// deletes itself when it is closed, else its modal dialog.
 class DialoguesQt : public Dialogues {
   public:
     Reponse Boite(Icone icone, Boutons boutons, const QString& titre,

@@ -10,6 +10,7 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
@@ -106,6 +107,22 @@ TEST(Boite, BehindAnotherBoxBelongsToTheDialogThatWaitsForBoth) {
         });
         EXPECT_EQ(parent, &dialogue) << active;
     }
+}
+
+TEST(Boite, OutlivesAWindowThatGoesAwayByItself) {
+    const QPointer<QWidget> passagere = new QWidget;
+    passagere->setAttribute(Qt::WA_DeleteOnClose);
+    passagere->show();
+    QApplication::setActiveWindow(passagere);
+    ASSERT_EQ(QApplication::activeWindow(), passagere);
+    const Reponse reponse = Repondre(Boutons::OkAnnuler, [&](QMessageBox& boite) {
+        passagere->close();
+        DesQuilEstLa<QMessageBox>([&](QMessageBox&) {
+            EXPECT_TRUE(passagere.isNull());
+            boite.button(QMessageBox::Ok)->click();
+        });
+    });
+    EXPECT_EQ(reponse, Reponse::Ok);
 }
 
 TEST(Boite, ShowsItsTextAsPlainText) {
