@@ -20,7 +20,7 @@ pid_t Attendre(pid_t pid, int options) {
     return rendu;
 }
 
-class Enfant : public ProgrammeExterne {
+class Enfant final : public ProgrammeExterne {
   public:
     explicit Enfant(pid_t pid) : pid_(pid) {}
 
