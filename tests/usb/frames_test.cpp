@@ -39,6 +39,15 @@ struct Chemin {
     bool videFinal;
 };
 
+std::string NomDe(const Chemin& chemin) {
+    return std::string(chemin.interruption ? "Interrupt" : "Bulk") + std::to_string(chemin.paquet) +
+           (chemin.videFinal ? "WithEmptyEnd" : "");
+}
+
+void PrintTo(const Chemin& chemin, std::ostream* sortie) {
+    *sortie << NomDe(chemin);
+}
+
 struct TramesParChemin : Trames, testing::WithParamInterface<Chemin> {};
 
 TEST_P(TramesParChemin, Of2And8And12BytesAreAnswered) {
@@ -67,11 +76,7 @@ INSTANTIATE_TEST_SUITE_P(OverEachWire, TramesParChemin,
                          testing::Values(Chemin{false, 64, false}, Chemin{true, 64, false},
                                          Chemin{false, 8, false}, Chemin{true, 8, false},
                                          Chemin{false, 8, true}, Chemin{true, 8, true}),
-                         [](const auto& chemin) {
-                             return std::string(chemin.param.interruption ? "Interrupt" : "Bulk") +
-                                    std::to_string(chemin.param.paquet) +
-                                    (chemin.param.videFinal ? "WithEmptyEnd" : "");
-                         });
+                         [](const auto& cas) { return NomDe(cas.param); });
 
 TEST_F(Trames, AreReadInPartWithoutAnOverflow) {
     Preparer();
