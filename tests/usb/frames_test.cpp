@@ -70,6 +70,7 @@ TEST_P(TramesParChemin, Of2And8And12BytesAreAnswered) {
     });
     Fermer();
     EXPECT_EQ(banc->Comptes().enCours, 0);
+    EXPECT_EQ(banc->Comptes().interruptions > 0, GetParam().interruption);
 }
 
 INSTANTIATE_TEST_SUITE_P(OverEachWire, TramesParChemin,

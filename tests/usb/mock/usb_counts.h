@@ -10,8 +10,10 @@ struct ComptesUsb {
     int enCours = 0;
     /// Drivers of the system that sit on an interface now.
     int pilotes = 0;
-    /// Since the beginning: requests, those that were taken back, halts cleared, claims refused.
+    /// Since the beginning: requests, those of interrupt endpoints, those that were taken back,
+    /// halts cleared, claims refused.
     int demandes = 0;
+    int interruptions = 0;
     int abandons = 0;
     int calagesLeves = 0;
     int refus = 0;

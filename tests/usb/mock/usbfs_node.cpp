@@ -269,6 +269,7 @@ NoeudUsbfs::Retour NoeudUsbfs::Soumettre(Client client, UMockdevIoctlData* argum
                            controle ? demandeControle : 0, entrante});
     ++comptes_.enCours;
     ++comptes_.demandes;
+    if (urb.type == USBDEVFS_URB_TYPE_INTERRUPT) ++comptes_.interruptions;
     const auto* octets = tampon.get() != nullptr ? tampon.get()->data : nullptr;
     const std::span<const std::uint8_t> vue(octets, static_cast<std::size_t>(urb.buffer_length));
     if (controle)
