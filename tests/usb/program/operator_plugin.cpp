@@ -13,8 +13,10 @@
 #include <QPushButton>
 #include <QSocketNotifier>
 #include <QTest>
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <utility>
 
 namespace bornika::essai {
 

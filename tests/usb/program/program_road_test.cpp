@@ -5,6 +5,7 @@
 
 #include <QDateTime>
 #include <QImage>
+#include <QRegularExpression>
 
 #include "simulator/presets.h"
 #include "simulator/recordings.h"
