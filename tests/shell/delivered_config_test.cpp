@@ -349,6 +349,9 @@ TEST_F(DeliveredConfig, NamesInTheHintsBelowTheListOfLoggersWhatTheySendTo) {
         EXPECT_TRUE(parCle.at(QStringLiteral("IndicationSansDroits")).contains(regle));
         EXPECT_TRUE(
             parCle.at(QStringLiteral("IndicationSansReglage")).contains(QLatin1String("Usb")));
+        const QString& aucun = parCle.at(QStringLiteral("IndicationAucun"));
+        EXPECT_TRUE(aucun.contains(QLatin1String("Usb")));
+        EXPECT_TRUE(aucun.contains(QLatin1String("lsusb")));
     }
 }
 
