@@ -6,6 +6,7 @@
 #include "platform/atomic_file.h"
 #include "platform/code_page.h"
 #include "platform/fault.h"
+#include "platform/named_fault.h"
 
 namespace bornika {
 
@@ -165,7 +166,7 @@ void DocumentConfiguration::Enregistrer() {
     changee_ = true;
     const QByteArray octets = Octets();
     // A setting stored as it was leaves the file alone: a start stores several of these.
-    if (octets != lus_) RemplacerFichier(chemin_, octets);
+    if (octets != lus_) nommer(chemin_, [&] { RemplacerFichier(chemin_, octets); });
 }
 
 pugi::xml_node DocumentConfiguration::Choisir(const QByteArray& chemin) const {

@@ -140,17 +140,20 @@ TEST(LitConfig, FirstElementInTheOrderOfTheFileHolds) {
               "<Port>2</Port><Port>3</Port></Configuration>");
 }
 
-TEST(EcritConfig, SaveThatFailsIsAFaultAndTheNextReadingGivesTheOldText) {
+TEST(EcritConfig, SaveThatFailsIsAFaultThatNamesTheFileAndTheNextReadingGivesTheOldText) {
     std::signal(SIGXFSZ, SIG_IGN);
     Reglages r;
     rlimit ancienne{};
     ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &ancienne), 0);
     const rlimit etroite{100, ancienne.rlim_max};
     ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &etroite), 0);
-    const int numero = NumeroDeFaute([&] { r.configuration.EcritConfig(q("COM2"), q("Port")); });
+    const FauteExecution faute =
+        FauteDe([&] { r.configuration.EcritConfig(q("COM2"), q("Port")); });
     const int entree = NumeroDeFaute([&] { r.configuration.LitMessage(francais, q("Neuf"), {}); });
     setrlimit(RLIMIT_FSIZE, &ancienne);
-    EXPECT_EQ(numero, numero_faute::accesRefuse);
+    EXPECT_EQ(faute.numero(), numero_faute::accesRefuse);
+    EXPECT_TRUE(faute.texte().startsWith(r.configuration.Chemin() + q(" : ")))
+        << faute.texte().toStdString();
     EXPECT_EQ(entree, numero_faute::accesRefuse);
     EXPECT_EQ(r.Fichier(), PetiteConfiguration());
     EXPECT_EQ(r.configuration.LitConfig(q("Port")), q("COM1"));
