@@ -4,6 +4,7 @@
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QEvent>
+#include <QLayout>
 #include <QScrollBar>
 
 namespace bornika {
@@ -39,9 +40,16 @@ QSize ZoneDefilante::sizeHint() const {
     return {voulue.width() + verticalScrollBar()->sizeHint().width(), limite_};
 }
 
+// At once: the next look at the form may come only when a reading has ended, and would show it as
+// low as it was, with a scroll bar.
+void ZoneDefilante::Suivre() {
+    updateGeometry();
+    if (QLayout* fiche = window()->layout()) fiche->activate();
+}
+
 bool ZoneDefilante::eventFilter(QObject* objet, QEvent* evenement) {
     // The toolkit has its own parts filtered here as well.
-    if (objet == widget() && evenement->type() == QEvent::LayoutRequest) updateGeometry();
+    if (objet == widget() && evenement->type() == QEvent::LayoutRequest) Suivre();
     if (PrendLaRoue(*objet) && evenement->type() == QEvent::Wheel &&
         verticalScrollBar()->maximum() > 0) {
         QCoreApplication::sendEvent(verticalScrollBar(), evenement);

@@ -22,6 +22,9 @@ class ZoneDefilante : public QScrollArea {
     bool eventFilter(QObject* objet, QEvent* evenement) override;
 
   private:
+    /// Lets the window take the size that the content asks for now.
+    void Suivre();
+
     int limite_ = 0;
 };
 

@@ -115,6 +115,20 @@ TEST_F(LowScreen, FollowsTheFramesThatComeAndGo) {
     EXPECT_EQ(ecran.width(), 620);
 }
 
+TEST_F(LowScreen, FollowsThemInOnePassOfTheEventsSoThatNobodySeesItTooLow) {
+    for (QWidget* cadre : {ui.Frame1, ui.Frame3, ui.Frame5})
+        cadre->hide();
+    FixerLargeur(ecran, false);
+    ecran.show();
+    Attendre();
+    const int basse = ecran.height();
+    for (QWidget* cadre : {ui.Frame1, ui.Frame3, ui.Frame5})
+        cadre->show();
+    QCoreApplication::processEvents();
+    EXPECT_GT(ecran.height(), basse + 200);
+    EXPECT_FALSE(ui.ZoneDefilement->verticalScrollBar()->isVisible());
+}
+
 TEST_F(LowScreen, IsTheOneThatTheFormStandsOn) {
     const int hauteur = ecran.screen()->availableGeometry().height();
     TenirDansEcran(ecran);
