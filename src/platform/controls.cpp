@@ -26,6 +26,7 @@ ListeDeroulante::ListeDeroulante(QWidget* parent) : QComboBox(parent) {
 void ListeDeroulante::Vider() {
     const QSignalBlocker silence(this);
     clear();
+    donnees_.clear();
     update();
 }
 
@@ -33,19 +34,23 @@ void ListeDeroulante::Ajouter(const QString& texte, int position) {
     if (position < -1 || position > count()) LeverFaute(numero_faute::appelInvalide);
     const QSignalBlocker silence(this);
     const bool aucunChoix = currentIndex() < 0;
-    insertItem(position < 0 ? count() : position, texte);
+    const int place = position < 0 ? count() : position;
+    donnees_.resize(count());
+    donnees_.insert(place, 0);
+    insertItem(place, texte);
     if (aucunChoix) setCurrentIndex(-1);
     update();
 }
 
 void ListeDeroulante::FixerDonnee(int position, std::int32_t donnee) {
     if (position < 0 || position >= count()) LeverFaute(numero_faute::entreeAbsente);
-    setItemData(position, donnee);
+    donnees_.resize(count());
+    donnees_[position] = donnee;
 }
 
 std::int32_t ListeDeroulante::Donnee(int position) const {
     if (position < 0 || position >= count()) LeverFaute(numero_faute::entreeAbsente);
-    return itemData(position).toInt();
+    return donnees_.value(position);
 }
 
 void ListeDeroulante::Choisir(int index) {

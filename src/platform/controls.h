@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QComboBox>
+#include <QList>
 #include <QProgressBar>
 #include <cstdint>
 
@@ -41,6 +42,10 @@ class ListeDeroulante : public QComboBox {
     void Clic();
     /// An entry was chosen by hand.
     void ClicMain();
+
+  private:
+    // Asked for with every measure of a download, which the toolkit's own made a sixth longer.
+    QList<std::int32_t> donnees_;
 };
 
 /// A progress bar that keeps its own limits and value as numbers: the toolkit's would turn busy at

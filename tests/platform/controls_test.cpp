@@ -116,6 +116,9 @@ TEST_F(Liste, CarriesANumberOfEachEntry) {
     EXPECT_EQ(NumeroDeFaute([this] { liste.Donnee(4); }), 381);
     EXPECT_EQ(NumeroDeFaute([this] { liste.Donnee(-1); }), 381);
     EXPECT_EQ(NumeroDeFaute([this] { liste.FixerDonnee(4, 1); }), 381);
+    liste.Vider();
+    Remplir();
+    EXPECT_EQ(liste.Donnee(1), 0);
 }
 
 TEST_F(Liste, FaultsForAChoiceBeyondItsEntries) {
