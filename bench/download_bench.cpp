@@ -17,6 +17,7 @@
 #include "logger/pressure_scale.h"
 #include "retrieval/download_engine.h"
 #include "shell/language_switch.h"
+#include "silent_dialogs.h"
 #include "simulator/presets.h"
 #include "simulator/recordings.h"
 #include "simulator/simulated_bus.h"
@@ -28,16 +29,6 @@ using namespace bornika;
 
 constexpr std::uint32_t debut = 1700000000;
 constexpr int nombreMesures = 540606;
-
-/// Answers each box at once.
-class SansDialogues : public Dialogues {
-  public:
-    Reponse Boite(Icone, Boutons, const QString&, const QString&) override { return Reponse::Ok; }
-    std::optional<QString> Ouvrir(const DemandeFichier&) override { return {}; }
-    std::optional<QString> Enregistrer(const DemandeFichier&) override { return {}; }
-    std::optional<std::uint32_t> Couleur(std::uint32_t) override { return {}; }
-    void Apercu(const DemandeApercu&) override {}
-};
 
 /// A logger with a full memory, and the main form as it stands after the start.
 struct Banc {
@@ -61,7 +52,7 @@ struct Banc {
     BusSimule bus;
     EnregistreurSimule& enregistreur = bus.Brancher(simulateur::KPod2100(debut));
     HorlogeSysteme horloge;
-    SansDialogues dialogues;
+    banc::SansDialogues dialogues;
     Respiration respiration;
     Systeme systeme{horloge, dialogues, bus, respiration, Regional{}, dossier.path()};
     MainScreen ecran{systeme};

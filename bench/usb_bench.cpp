@@ -14,6 +14,7 @@
 #include "link/multi_usb.h"
 #include "platform/usb_loggers.h"
 #include "shell/main_screen.h"
+#include "silent_dialogs.h"
 #include "simulator/presets.h"
 #include "simulator/recordings.h"
 #include "usb/bare_usb.h"
@@ -27,16 +28,6 @@ constexpr std::uint32_t debut = 1700000000;
 constexpr int echangesParTour = 200;
 constexpr int tours = 60;
 constexpr int longueurReponse = 10;
-
-/// Answers each box at once.
-class SansDialogues : public Dialogues {
-  public:
-    Reponse Boite(Icone, Boutons, const QString&, const QString&) override { return Reponse::Ok; }
-    std::optional<QString> Ouvrir(const DemandeFichier&) override { return {}; }
-    std::optional<QString> Enregistrer(const DemandeFichier&) override { return {}; }
-    std::optional<std::uint32_t> Couleur(std::uint32_t) override { return {}; }
-    void Apercu(const DemandeApercu&) override {}
-};
 
 /// One logger with more measures than are asked for, on a port of the mock.
 struct Banc {
@@ -52,7 +43,7 @@ struct Banc {
     essai::BancUsb ports;
     QTemporaryDir dossier;
     HorlogeSysteme horloge;
-    SansDialogues dialogues;
+    banc::SansDialogues dialogues;
     Respiration respiration;
     EnregistreursUsb usb{
         {{.Vendeur = essai::FicheUsb{}.vendeur, .Produit = essai::FicheUsb{}.produit}}};
