@@ -9,8 +9,8 @@
 #include <cstdlib>
 #include <vector>
 
+#include "chart/view/chart_view.h"
 #include "chart_sample.h"
-#include "viewer/chart_view.h"
 
 namespace {
 

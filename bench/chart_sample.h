@@ -7,7 +7,7 @@
 #include <random>
 #include <vector>
 
-#include "viewer/chart_model.h"
+#include "chart/model/chart_model.h"
 
 namespace bornika::banc {
 

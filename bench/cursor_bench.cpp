@@ -11,9 +11,9 @@
 #include <cstdlib>
 #include <functional>
 
+#include "chart/view/chart_view.h"
+#include "chart/view/chart_view_marks.h"
 #include "chart_sample.h"
-#include "viewer/chart_view.h"
-#include "viewer/chart_view_marks.h"
 
 namespace {
 

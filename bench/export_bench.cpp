@@ -26,6 +26,7 @@
 #include "viewer/export_commands.h"
 #include "viewer/trace_form.h"
 #include "viewer/viewer_access.h"
+#include "widgets/toolkit_dialogs.h"
 
 namespace {
 

@@ -12,11 +12,12 @@
 #include "app/form_events.h"
 #include "app/menu_events.h"
 #include "platform/clock.h"
-#include "platform/controls.h"
 #include "platform/no_loggers.h"
-#include "shell/config_store.h"
+#include "settings/config_store.h"
 #include "shell/main_screen.h"
 #include "ui_main_screen.h"
+#include "widgets/controls.h"
+#include "widgets/toolkit_dialogs.h"
 
 namespace {
 

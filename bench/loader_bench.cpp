@@ -20,19 +20,20 @@
 
 #include "app/viewer_events.h"
 #include "bench/recording_sample.h"
+#include "chart/model/chart_model.h"
+#include "chart/model/loader_form.h"
+#include "chart/model/trace_loader.h"
+#include "chart/view/chart_view.h"
 #include "platform/no_loggers.h"
 #include "platform/system.h"
 #include "shell/main_screen.h"
 #include "ui_main_screen.h"
 #include "ui_trace_form.h"
-#include "viewer/chart_model.h"
 #include "viewer/chart_session.h"
-#include "viewer/chart_view.h"
-#include "viewer/loader_form.h"
 #include "viewer/trace_form.h"
-#include "viewer/trace_loader.h"
 #include "viewer/viewer_access.h"
 #include "viewer/viewer_loading.h"
+#include "widgets/toolkit_dialogs.h"
 
 namespace {
 
@@ -66,7 +67,7 @@ class SansFenetre : public FicheChargement {
     double MaximumBarre() override { return maximum_; }
     double ValeurBarre() override { return valeur_; }
     void FixerValeurBarre(double valeur) override { valeur_ = valeur; }
-    void FixerPointeur(int) override {}
+    void MontrerFleche() override {}
     void FinirChargement() override {}
     bool EnFermeture() override { return false; }
 

@@ -6,8 +6,8 @@
 #include <QElapsedTimer>
 #include <cstdlib>
 
+#include "chart/model/smoothing.h"
 #include "chart_sample.h"
-#include "viewer/smoothing.h"
 
 namespace {
 

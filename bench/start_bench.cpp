@@ -18,6 +18,7 @@
 #include "app/program.h"
 #include "platform/guard.h"
 #include "platform/no_loggers.h"
+#include "widgets/toolkit_dialogs.h"
 
 namespace {
 

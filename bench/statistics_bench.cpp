@@ -14,14 +14,15 @@
 #include <vector>
 
 #include "app/viewer_events.h"
+#include "chart/model/chart_template.h"
 #include "platform/no_loggers.h"
 #include "platform/system.h"
 #include "shell/main_screen.h"
 #include "ui_trace_form.h"
-#include "viewer/chart_template.h"
 #include "viewer/statistics_display.h"
 #include "viewer/trace_form.h"
 #include "viewer/viewer_access.h"
+#include "widgets/toolkit_dialogs.h"
 
 namespace {
 

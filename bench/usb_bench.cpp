@@ -12,13 +12,13 @@
 #include <limits>
 
 #include "link/multi_usb.h"
-#include "platform/usb_loggers.h"
 #include "shell/main_screen.h"
 #include "silent_dialogs.h"
 #include "simulator/presets.h"
 #include "simulator/recordings.h"
-#include "usb/bare_usb.h"
-#include "usb/mock/usb_testbed.h"
+#include "usb/usb_loggers.h"
+#include "usb_mock/bare_usb.h"
+#include "usb_mock/mock/usb_testbed.h"
 
 namespace {
 

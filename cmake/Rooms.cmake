@@ -1,8 +1,15 @@
 # One static library a room, one test program a room, with the same warnings everywhere.
 
 function(bornika_options target)
-    target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor
+    target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wnon-virtual-dtor
                                              -Woverloaded-virtual)
+    # In a jumbo build each file sees what those before it keep to themselves: what is no fault of
+    # a file by itself is not warned of there.
+    if(CMAKE_UNITY_BUILD)
+        target_compile_options(${target} PRIVATE -Wno-subobject-linkage)
+    else()
+        target_compile_options(${target} PRIVATE -Wshadow)
+    endif()
     if(BORNIKA_WARNINGS_AS_ERRORS)
         target_compile_options(${target} PRIVATE -Werror)
     endif()
@@ -17,13 +24,20 @@ function(bornika_options target)
     endif()
 endfunction()
 
-# bornika_room(name SOURCES ... LINKS ...): the library bornika_<name>.
+# bornika_room(name [CORE] SOURCES ... LINKS ... [PRIVATE_LINKS ...]): the library bornika_<name>. With
+# CORE it knows no widget.
 function(bornika_room name)
-    cmake_parse_arguments(ROOM "" "" "SOURCES;LINKS" ${ARGN})
+    cmake_parse_arguments(ROOM "CORE" "" "SOURCES;LINKS;PRIVATE_LINKS" ${ARGN})
     add_library(bornika_${name} STATIC ${ROOM_SOURCES})
     target_include_directories(bornika_${name} PUBLIC ${PROJECT_SOURCE_DIR}/src
                                                       ${PROJECT_SOURCE_DIR})
-    target_link_libraries(bornika_${name} PUBLIC Qt6::Widgets ${ROOM_LINKS})
+    if(ROOM_CORE)
+        set(toolkit Qt6::Core)
+    else()
+        set(toolkit Qt6::Widgets)
+    endif()
+    target_link_libraries(bornika_${name} PUBLIC ${toolkit} ${ROOM_LINKS}
+                                          PRIVATE ${ROOM_PRIVATE_LINKS})
     target_compile_options(bornika_${name} PRIVATE -Wconversion)
     # Only a room that holds forms runs the form compiler; the others include what it has made.
     if(ROOM_SOURCES MATCHES "[.]ui(;|$)")

@@ -7,13 +7,12 @@
 #include <cstdio>
 
 #include "simulator/device_time.h"
+#include "simulator/measure.h"
 #include "simulator/recordings.h"
 
 namespace bornika::simulateur {
 
 namespace {
-
-constexpr double pointsParBar = 1024.0 / 16.0;
 
 struct Detail {
     std::uint32_t secondes;

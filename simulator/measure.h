@@ -7,6 +7,9 @@
 
 namespace bornika::simulateur {
 
+/// Points of one bar on the scale of 16 bar, which the simulated recordings use.
+inline constexpr double pointsParBar = 1024.0 / 16.0;
+
 /// One measure as it lies in the flash: fraction (2 bytes), seconds (4), flags, low byte of the
 /// points; numbers high byte first.
 using MesureEnFlash = std::array<std::uint8_t, 8>;

@@ -6,7 +6,7 @@ namespace bornika::simulateur {
 
 namespace {
 
-constexpr std::uint32_t jour = 86400;
+constexpr std::uint32_t dureeJour = 86400;
 constexpr int echelleBar = 0x01;
 
 /// Identifiers differ from preset to preset, so that any of them can hang on one bus.
@@ -18,7 +18,7 @@ void PoserContexte(EnregistreurSimule& e, std::uint32_t maintenant) {
     MemoireInterne& m = e.memoire;
     m.EcrireMot(adresse::marque, 0xB0A5);
     m.EcrireDoubleMot(adresse::dateBatterie, maintenant - 3600);
-    m.EcrireDoubleMot(adresse::demarrage, maintenant - 3 * jour);
+    m.EcrireDoubleMot(adresse::demarrage, maintenant - 3 * dureeJour);
     m.EcrireDoubleMot(adresse::prochaineMesure, maintenant + 15);
     m.EcrireOctet(adresse::mode, 0x08);
     m.EcrireMot(adresse::periodeStockage, 120);
@@ -34,16 +34,16 @@ void PoserContexte(EnregistreurSimule& e, std::uint32_t maintenant) {
     m.EcrireFlottant(adresse::tempsDebit, 60.0F);
     e.ReglerHorloge(maintenant);
     e.ReglerBatterie(150);
-    e.ReglerResets(maintenant - 40 * jour, 3);
+    e.ReglerResets(maintenant - 40 * dureeJour, 3);
     e.ReglerCommentaire("Reseau Est");
 }
 
 void DeuxPoints(EnregistreurSimule& e, std::uint32_t maintenant) {
-    e.ReglerEtalonnage(maintenant - 200 * jour, echelleBar, 102, 104, 820, 815);
+    e.ReglerEtalonnage(maintenant - 200 * dureeJour, echelleBar, 102, 104, 820, 815);
 }
 
 void UnPoint(EnregistreurSimule& e, std::uint32_t maintenant) {
-    e.ReglerEtalonnage(maintenant - 700 * jour, echelleBar, 320, 317);
+    e.ReglerEtalonnage(maintenant - 700 * dureeJour, echelleBar, 320, 317);
 }
 
 /// A sensor that has drifted as DeuxPoints has it: worth calibrating.
@@ -166,7 +166,7 @@ std::vector<PtrEnregistreur> FamilleDemo(std::uint32_t maintenant) {
     auto ancien = KPodAncien(maintenant);
     ReseauEau court;
     court.duree = 6 * 3600;
-    court.debut = maintenant - 90 * jour;
+    court.debut = maintenant - 90 * dureeJour;
     court.grain = 1789;
     ancien->memoire.EcrireDoubleMot(adresse::demarrage, court.debut);
     ancien->Stocker(MesuresReseauEau(court));

@@ -1,5 +1,7 @@
 #include "simulator/recordings.h"
 
+#include "simulator/measure.h"
+
 #include <algorithm>
 #include <cmath>
 #include <numbers>
@@ -8,7 +10,6 @@ namespace bornika::simulateur {
 
 namespace {
 
-constexpr double pointsParBar = 1024.0 / 16.0;
 constexpr int secondesParJour = 86400;
 
 /// A small generator of our own: the same recording on every machine.

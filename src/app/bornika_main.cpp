@@ -1,10 +1,11 @@
 #include "app/application.h"
 #include "app/program.h"
 #include "platform/program_folder.h"
-#include "platform/usb_loggers.h"
-#include "shell/config_store.h"
+#include "settings/config_store.h"
+#include "settings/usb_element.h"
 #include "shell/main_screen.h"
-#include "shell/usb_element.h"
+#include "usb/usb_loggers.h"
+#include "widgets/toolkit_dialogs.h"
 
 int main(int argc, char** argv) {
     using namespace bornika;

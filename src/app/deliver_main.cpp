@@ -5,7 +5,7 @@
 
 #include "platform/atomic_file.h"
 #include "platform/fault.h"
-#include "shell/config_store_merge.h"
+#include "settings/config_store_merge.h"
 
 // Build step: puts the delivered files beside the programs. A "config.xml" that a program has used
 // is never overwritten: what it lacks is added. Arguments: the folder of the delivered files, the

@@ -2,8 +2,8 @@
 
 #include <chrono>
 
+#include "platform/dates.h"
 #include "platform/system.h"
-#include "shell/dates.h"
 #include "simulator/card_files.h"
 #include "simulator/presets.h"
 

@@ -3,6 +3,7 @@
 #include "app/program.h"
 #include "platform/program_folder.h"
 #include "platform/system.h"
+#include "widgets/toolkit_dialogs.h"
 
 // The same program on a family of simulated loggers: for trying it out, for training and for
 // pictures.

@@ -8,6 +8,7 @@
 #include "app/tour.h"
 #include "platform/program_folder.h"
 #include "platform/system.h"
+#include "widgets/toolkit_dialogs.h"
 
 namespace {
 

@@ -7,24 +7,17 @@
 #include "calibration/calibration_messages.h"
 #include "link/command_table.h"
 #include "link/frames.h"
-#include "link/modal.h"
 #include "logger/pressure_scale.h"
+#include "platform/dates.h"
 #include "platform/numbers.h"
-#include "shell/dates.h"
+#include "shell/product_box.h"
 #include "ui_calibration_form.h"
 #include "ui_main_screen.h"
+#include "widgets/modal.h"
 
 namespace bornika {
 
 namespace {
-
-constexpr int longueurReponse = 8;
-constexpr int longueurVersion = 9;
-
-/// Selectors of a point; old firmware knows one point only, under a selector of its own.
-constexpr int pointUnique = 0;
-constexpr int pointBas = 1;
-constexpr int pointHaut = 2;
 
 void Ouvrir(const Poste& poste) {
     poste.lien.OuvreUSB(poste.ecran.etat.UsbID);
@@ -36,7 +29,7 @@ bool Demander(const Etalonnage& fiche, int code, Tampon& buffer, int combien = l
 }
 
 bool DemanderVersion(const Etalonnage& fiche, Tampon& buffer) {
-    return Demander(fiche, CMD_LIT_VERSION, buffer, longueurVersion);
+    return Demander(fiche, CMD_LIT_VERSION, buffer, longueurReponseVersion);
 }
 
 /// A frame that is more than a code. False when nothing came back.
@@ -47,7 +40,7 @@ bool Envoyer(const Etalonnage& fiche, const Octets& trame) {
 
 Reponse Dire(const Etalonnage& fiche, Icone icone, Boutons boutons, const QString& cle) {
     MainScreen& ecran = fiche.poste.ecran;
-    return ecran.systeme.dialogues.Boite(icone, boutons, ecran.etat.NomKpod, ecran.Texte(cle));
+    return MontrerBoite(ecran, icone, boutons, ecran.Texte(cle));
 }
 
 /// The pair of a point, shown in its row; nothing when the logger did not answer.

@@ -4,9 +4,9 @@
 
 #include "calibration/calibration.h"
 #include "platform/guard.h"
-#include "platform/kept_place.h"
 #include "shell/captions.h"
 #include "ui_calibration_form.h"
+#include "widgets/kept_place.h"
 
 namespace bornika {
 

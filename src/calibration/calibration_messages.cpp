@@ -3,12 +3,11 @@
 #include "link/command_table.h"
 #include "link/frames.h"
 #include "platform/numbers.h"
+#include "products/firmware_versions.h"
 
 namespace bornika {
 
 namespace {
-
-constexpr double dernierAncienFirmware = 2.089;
 
 double Mot(const Tampon& reponse, std::size_t position) {
     return reponse[position] * 256 + reponse[position + 1];
@@ -33,7 +32,7 @@ double VersionEtalonnage(const Tampon& reponse) {
 }
 
 bool EstAncienFirmware(const Tampon& reponse) {
-    return reponse[1] == CMD_LIT_VERSION && VersionEtalonnage(reponse) <= dernierAncienFirmware;
+    return reponse[1] == CMD_LIT_VERSION && VersionEtalonnage(reponse) <= version::unPoint;
 }
 
 DateEtalonnage DateDe(const Tampon& reponse) {

@@ -43,6 +43,16 @@ inline constexpr int CMD_LIT_DETECTION = 32;
 inline constexpr int CMD_FORCE_CONTEXTE = 99;
 inline constexpr int CMD_IDENTIFIE = 240;
 
+/// Lengths of a reply in bytes: of most commands, and of the one that tells the version.
+inline constexpr int longueurReponse = 8;
+inline constexpr int longueurReponseVersion = 9;
+
+/// Selectors of a calibration point. Old firmware knows one point only, under a selector of its
+/// own.
+inline constexpr int pointUnique = 0;
+inline constexpr int pointBas = 1;
+inline constexpr int pointHaut = 2;
+
 /// Bits of the mode byte. Two thresholds win over one in reading; neither bit means no threshold.
 namespace mode {
 inline constexpr int unSeuil = 1 << 0;

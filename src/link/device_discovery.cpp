@@ -6,14 +6,14 @@
 #include "link/connect_hint.h"
 #include "link/device_identity.h"
 #include "link/frames.h"
-#include "link/modal.h"
-#include "link/products.h"
 #include "link/selection_form.h"
 #include "platform/numbers.h"
-#include "platform/pointer_shape.h"
-#include "shell/text_catalogue.h"
+#include "products/products.h"
+#include "settings/text_catalogue.h"
 #include "ui_connect_form.h"
 #include "ui_main_screen.h"
+#include "widgets/modal.h"
+#include "widgets/pointer_shape.h"
 
 namespace bornika {
 

@@ -2,11 +2,11 @@
 
 #include "link/command_exchange.h"
 #include "link/command_table.h"
-#include "link/products.h"
 #include "platform/fault.h"
 #include "platform/format_pattern.h"
 #include "platform/numbers.h"
-#include "shell/text_catalogue.h"
+#include "products/products.h"
+#include "settings/text_catalogue.h"
 
 namespace bornika {
 

@@ -8,9 +8,6 @@
 /// which opens the link and closes it again. None of them shows a message.
 namespace bornika {
 
-/// From this version on a logger records to a card, and its card is what is read.
-inline constexpr double versionCarte = 2.11;
-
 /// Firmware version as a number: the decimal texts of both parts joined, in thousandths. 2 and 110
 /// are 2.11, but 2 and 89 are 0.289.
 double NumeroVersion(int haut, int bas);

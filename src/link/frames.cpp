@@ -4,8 +4,8 @@
 
 #include "link/command_exchange.h"
 #include "link/command_table.h"
+#include "platform/dates.h"
 #include "platform/fault.h"
-#include "shell/dates.h"
 
 namespace bornika {
 

@@ -2,7 +2,7 @@
 
 #include "link/device_discovery.h"
 #include "platform/guard.h"
-#include "shell/text_catalogue.h"
+#include "settings/text_catalogue.h"
 #include "ui_selection_form.h"
 
 namespace bornika {

@@ -9,13 +9,6 @@ namespace bornika {
 
 namespace {
 
-constexpr int longueurReponse = 8;
-
-/// Selectors of a point. Old firmware knows one point only, under a selector of its own.
-constexpr int pointUnique = 0;
-constexpr int pointBas = 1;
-constexpr int pointHaut = 2;
-
 enum class Issue { Silence, AutreEcho, Point };
 
 struct PointLu {

@@ -4,11 +4,11 @@
 
 #include "link/command_exchange.h"
 #include "link/frames.h"
+#include "link/memory_access.h"
+#include "platform/dates.h"
 #include "platform/fault.h"
 #include "platform/format_pattern.h"
 #include "platform/numbers.h"
-#include "retrieval/memory_access.h"
-#include "shell/dates.h"
 #include "ui_main_screen.h"
 
 namespace bornika {

@@ -4,10 +4,11 @@
 #include <algorithm>
 #include <optional>
 
+#include "link/memory_access.h"
 #include "platform/atomic_file.h"
 #include "platform/code_page.h"
 #include "platform/named_fault.h"
-#include "retrieval/memory_access.h"
+#include "shell/product_box.h"
 #include "ui_main_screen.h"
 
 namespace bornika {
@@ -60,8 +61,7 @@ void Enregistrer(MainScreen& ecran, const QString& chemin, const QByteArray& tex
         nommer(QFileInfo(chemin).fileName(), [&] { RemplacerFichier(chemin, texte); });
     } catch (const FauteExecution& faute) {
         if (faute.numero() != numero_faute::disquePlein) throw;
-        ecran.systeme.dialogues.Boite(Icone::Critique, Boutons::Ok, ecran.etat.NomKpod,
-                                      faute.texte());
+        MontrerTexte(ecran, Icone::Critique, faute.texte());
     }
 }
 

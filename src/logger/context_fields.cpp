@@ -1,16 +1,15 @@
 #include "logger/context_fields.h"
 
 #include "link/command_table.h"
+#include "logger/battery.h"
 #include "platform/code_page.h"
+#include "platform/dates.h"
 #include "platform/fault.h"
 #include "platform/format_pattern.h"
-#include "shell/dates.h"
 
 namespace bornika {
 
 namespace {
-
-constexpr double voltsParPas = 0.0266666;
 
 constexpr ChampContexte champs[] = {
     {1, 4, u"N° serie"},
@@ -52,7 +51,7 @@ constexpr ChampContexte champs[] = {
     {95, 4, u"Correction temps toutes les (s)", GenreChamp::NombreSigne},
 };
 
-std::span<const std::uint8_t> Octets(const BlocContexte& bloc, const ChampContexte& champ) {
+std::span<const std::uint8_t> OctetsDuChamp(const BlocContexte& bloc, const ChampContexte& champ) {
     if (champ.offset < 0 || champ.largeur < 0 || champ.offset + champ.largeur > tailleContexte)
         LeverFaute(numero_faute::indice);
     return std::span(bloc).subspan(static_cast<std::size_t>(champ.offset),
@@ -76,7 +75,8 @@ std::uint32_t ValeurChamp(const BlocContexte& bloc, const ChampContexte& champ) 
     std::uint32_t valeur = 0;
     int rang = 0;
     for (const std::uint8_t octet :
-         Octets(bloc, champ).first(static_cast<std::size_t>(champ.largeur < 4 ? champ.largeur : 4)))
+         OctetsDuChamp(bloc, champ)
+             .first(static_cast<std::size_t>(champ.largeur < 4 ? champ.largeur : 4)))
         valeur |= std::uint32_t{octet} << (8 * rang++);
     return valeur;
 }
@@ -96,7 +96,7 @@ QString TexteChamp(const BlocContexte& bloc, const ChampContexte& champ,
         case GenreChamp::Echelle:
             return echelles.value(EchelleDeOctet(static_cast<int>(valeur)));
         case GenreChamp::Caracteres:
-            return Caracteres(Octets(bloc, champ));
+            return Caracteres(OctetsDuChamp(bloc, champ));
         case GenreChamp::Nombre:
             break;
     }

@@ -1,11 +1,11 @@
 #include "logger/context_reading.h"
 
+#include "link/memory_access.h"
 #include "logger/addressed_fields.h"
 #include "logger/display_statement.h"
+#include "logger/pulse_parameters.h"
 #include "platform/code_page.h"
 #include "platform/numbers.h"
-#include "retrieval/memory_access.h"
-#include "service/pulse_parameters.h"
 #include "ui_main_screen.h"
 
 namespace bornika {

@@ -2,8 +2,8 @@
 
 #include "logger/entry_focus.h"
 #include "logger/recording_summary.h"
+#include "platform/dates.h"
 #include "platform/numbers.h"
-#include "shell/dates.h"
 #include "shell/main_screen.h"
 #include "ui_main_screen.h"
 

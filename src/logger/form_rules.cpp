@@ -2,6 +2,7 @@
 
 #include "logger/recording_summary.h"
 #include "platform/numbers.h"
+#include "products/products.h"
 #include "shell/main_screen.h"
 #include "ui_main_screen.h"
 

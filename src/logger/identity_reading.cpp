@@ -2,10 +2,12 @@
 
 #include "link/command_table.h"
 #include "link/device_identity.h"
+#include "logger/battery.h"
 #include "logger/display_statement.h"
 #include "logger/parameter_report.h"
+#include "platform/dates.h"
 #include "platform/format_pattern.h"
-#include "shell/dates.h"
+#include "products/firmware_versions.h"
 #include "ui_main_screen.h"
 
 namespace bornika {
@@ -13,10 +15,8 @@ namespace bornika {
 namespace {
 
 constexpr int longueurVersion = 9;
-constexpr double dernierAncienFirmware = 2.089;
 constexpr double pileMaximum = 158;
 constexpr double pileMinimum = 111;
-constexpr double voltsParPas = 0.0266666;
 
 void MontrerPile(MainScreen& ecran, int lecturePile) {
     const auto& ui = ecran.ui;
@@ -43,7 +43,7 @@ Suite LireVersion(LectureParametres& lecture) {
     const int haut = lecture.Octet(2);
     const int bas = lecture.Octet(4);
     ecran.etat.VersionLogiciel = NumeroVersion(haut, bas);
-    lecture.AncienFirmware = ecran.etat.VersionLogiciel <= dernierAncienFirmware;
+    lecture.AncienFirmware = ecran.etat.VersionLogiciel <= version::unPoint;
     ecran.ui->Version->setText(QStringLiteral("(%1) %2.%3").arg(type).arg(haut).arg(bas));
     MontrerPile(ecran, lecture.Mot(5));
     MontrerTaille(ecran, lecture.Octet(7));

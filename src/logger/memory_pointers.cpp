@@ -6,17 +6,16 @@
 #include "link/command_table.h"
 #include "link/device_identity.h"
 #include "platform/numbers.h"
+#include "products/firmware_versions.h"
 #include "ui_main_screen.h"
 
 namespace bornika {
 
 namespace {
 
-constexpr int longueurReponse = 8;
 constexpr double octetsParPage = 526;  // usable bytes of a flash page in this arithmetic
 constexpr double octetsParMesure = 8;
 constexpr double mesuresAjoutees = 8;  // what firmware before 2.11 holds beyond its pointers
-constexpr double versionRecords = 2.11;
 
 struct Pointeur {
     int page = 0;
@@ -86,7 +85,7 @@ void LireRemplissage(Poste& poste) {
                                         ecran.etat.CapaciteMemoire, ui->ProgressBar1->Maximum());
     bool ok = false;
     LitVersionKpod(poste, ok);  // refreshes `VersionLogiciel`
-    const double mesures = ecran.etat.VersionLogiciel < versionRecords
+    const double mesures = ecran.etat.VersionLogiciel < version::carte
                                ? MontrerAncienRemplissage(ecran, octets)
                                : MontrerRemplissage(ecran, octets);
     ui->ProgressBar2->FixerMinimum(0);

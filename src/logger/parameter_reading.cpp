@@ -15,6 +15,7 @@
 #include "logger/schedule_reading.h"
 #include "platform/code_page.h"
 #include "platform/numbers.h"
+#include "shell/product_box.h"
 #include "ui_main_screen.h"
 
 namespace bornika {
@@ -77,8 +78,7 @@ constexpr std::array etapes = {
 };
 
 void DireEtalonnageEnCours(MainScreen& ecran) {
-    ecran.systeme.dialogues.Boite(Icone::Information, Boutons::Ok, ecran.etat.NomKpod,
-                                  ecran.Texte(QStringLiteral("Mode étalonnage en cours")));
+    MontrerMessage(ecran, Icone::Information, QStringLiteral("Mode étalonnage en cours"));
 }
 
 }  // namespace

@@ -3,32 +3,32 @@
 #include <array>
 
 #include "link/command_exchange.h"
+#include "link/command_table.h"
 #include "link/frames.h"
+#include "link/memory_access.h"
 #include "logger/context_writing.h"
 #include "logger/parameter_reading.h"
 #include "logger/set_up_frames.h"
 #include "logger/writing_checks.h"
-#include "platform/pointer_shape.h"
-#include "retrieval/memory_access.h"
+#include "products/firmware_versions.h"
+#include "shell/product_box.h"
 #include "ui_main_screen.h"
+#include "widgets/pointer_shape.h"
 
 namespace bornika {
 
 namespace {
 
-constexpr int longueurReponse = 8;
 /// Milliseconds that the logger needs to take over the set-up, and its context before it is read.
 constexpr int pauseApresEcriture = 2000;
-/// First firmware that is asked to take over its context.
-constexpr double versionForceContexte = 2.12;
 
 constexpr std::array trames = {&TrameDemarrage, &TrameMode, &TrameHorloge, &TrameCommentaire1,
                                &TrameCommentaire2};
 
 bool Confirmer(MainScreen& ecran) {
-    return ecran.systeme.dialogues.Boite(
-               Icone::Aucune, Boutons::OkAnnuler, ecran.etat.NomKpod,
-               ecran.Texte(QStringLiteral("Les anciennes valeurs seront écrasées"))) == Reponse::Ok;
+    return MontrerBoite(ecran, Icone::Aucune, Boutons::OkAnnuler,
+                        ecran.Texte(QStringLiteral("Les anciennes valeurs seront écrasées"))) ==
+           Reponse::Ok;
 }
 
 /// False when the logger did not answer to one of them: the rest is not sent.
@@ -46,7 +46,7 @@ void EcrireContexteEtRelire(Poste& poste) {
     Horloge& horloge = poste.ecran.systeme.horloge;
     horloge.Pause(pauseApresEcriture);
     EcrireContexte(poste);
-    if (poste.ecran.etat.VersionLogiciel >= versionForceContexte) ForceContexte(poste);
+    if (poste.ecran.etat.VersionLogiciel >= version::contexte) ForceContexte(poste);
     poste.lien.FermeUSB();
     horloge.Pause(pauseApresEcriture);
     Lire_Parametres(poste);
@@ -86,8 +86,7 @@ void Ecrire(Poste& poste) {
     }
     EcrireContexteEtRelire(poste);
     FixerPointeurSouris(ecran, pointeurAvant);
-    ecran.systeme.dialogues.Boite(Icone::Information, Boutons::Ok, ecran.etat.NomKpod,
-                                  ecran.textes.TexteEcritureTerminee);
+    MontrerTexte(ecran, Icone::Information, ecran.textes.TexteEcritureTerminee);
     bouton.setEnabled(true);
 }
 

@@ -5,7 +5,7 @@
 #include "logger/display_statement.h"
 #include "logger/duration_rules.h"
 #include "logger/parameter_report.h"
-#include "shell/dates.h"
+#include "platform/dates.h"
 #include "ui_main_screen.h"
 
 namespace bornika {

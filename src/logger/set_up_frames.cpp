@@ -5,9 +5,9 @@
 #include "logger/duration_rules.h"
 #include "logger/pressure_scale.h"
 #include "platform/code_page.h"
+#include "platform/dates.h"
 #include "platform/fault.h"
 #include "platform/numbers.h"
-#include "shell/dates.h"
 #include "shell/main_screen.h"
 #include "ui_main_screen.h"
 

@@ -2,13 +2,13 @@
 
 #include "link/command_table.h"
 #include "logger/card_state.h"
+#include "products/products.h"
+#include "shell/product_box.h"
 #include "ui_main_screen.h"
 
 namespace bornika {
 
 namespace {
-
-constexpr int longueurReponse = 8;
 
 /// Byte of a reply, counted from 0.
 int Octet(const Tampon& reponse, std::size_t rang) {
@@ -16,18 +16,16 @@ int Octet(const Tampon& reponse, std::size_t rang) {
 }
 
 void DireCarteAbsente(MainScreen& ecran) {
-    ecran.systeme.dialogues.Boite(Icone::Aucune, Boutons::Ok, ecran.etat.NomKpod,
-                                  ecran.Texte(QStringLiteral("SD card absent ")));
+    MontrerMessage(ecran, Icone::Aucune, QStringLiteral("SD card absent "));
 }
 
 void DireAutreCapteur(MainScreen& ecran, int etalonne) {
     const ListeDeroulante& echelles = *ecran.ui->ListeEchelles;
     const QString explication =
         ecran.Texte(QStringLiteral(" Le capteur sélectionné n'est pas le capteur étalonné"));
-    ecran.systeme.dialogues.Boite(Icone::Critique, Boutons::Ok, ecran.etat.NomKpod,
-                                  echelles.Texte() + QStringLiteral(" <> ") +
-                                      echelles.TexteA(etalonne) + QStringLiteral(" : ") +
-                                      explication);
+    MontrerTexte(ecran, Icone::Critique,
+                 echelles.Texte() + QStringLiteral(" <> ") + echelles.TexteA(etalonne) +
+                     QStringLiteral(" : ") + explication);
 }
 
 }  // namespace

@@ -19,7 +19,7 @@ namespace bornika {
 
 namespace {
 
-[[noreturn]] void Echouer(int erreur) {
+[[noreturn]] void EchouerOuverture(int erreur) {
     LeverFaute(NumeroOuverture(erreur));
 }
 
@@ -53,11 +53,11 @@ bool EstPeripherique(const QString& chemin) {
 void EcrireDansPeripherique(const QString& chemin, QByteArrayView octets) {
     const int descripteur =
         ::open(QFile::encodeName(chemin).constData(), O_WRONLY | O_CLOEXEC | O_NONBLOCK);
-    if (descripteur < 0) Echouer(errno);
+    if (descripteur < 0) EchouerOuverture(errno);
     qsizetype ecrits = 0;
     const int erreur = EcrireTout(descripteur, octets, ecrits);
     ::close(descripteur);
-    if (erreur != 0) Echouer(erreur);
+    if (erreur != 0) EchouerOuverture(erreur);
 }
 
 }  // namespace
@@ -67,7 +67,7 @@ FichierPrepare::FichierPrepare(const QString& chemin)
     // Left over by a process of this number that was cut off.
     ::unlink(attente_.constData());
     descripteur_ = ::open(attente_.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-    if (descripteur_ < 0) Echouer(errno);
+    if (descripteur_ < 0) EchouerOuverture(errno);
 }
 
 FichierPrepare::~FichierPrepare() {
@@ -77,23 +77,24 @@ FichierPrepare::~FichierPrepare() {
 
 void FichierPrepare::Ecrire(QByteArrayView octets) {
     qsizetype ecrits = 0;
-    if (const int erreur = EcrireTout(descripteur_, octets, ecrits); erreur != 0) Echouer(erreur);
+    if (const int erreur = EcrireTout(descripteur_, octets, ecrits); erreur != 0)
+        EchouerOuverture(erreur);
 }
 
 void FichierPrepare::GarderPermissions() {
     struct stat ancien {};
     if (::stat(place_.constData(), &ancien) != 0) return;
-    if (::access(place_.constData(), W_OK) != 0) Echouer(errno);
+    if (::access(place_.constData(), W_OK) != 0) EchouerOuverture(errno);
     // A group that this user may not give is no failure: the file stays readable to its user.
     [[maybe_unused]] const int rendu =
         ::fchown(descripteur_, static_cast<uid_t>(-1), ancien.st_gid);
-    if (::fchmod(descripteur_, ancien.st_mode & 07777) != 0) Echouer(errno);
+    if (::fchmod(descripteur_, ancien.st_mode & 07777) != 0) EchouerOuverture(errno);
 }
 
 void FichierPrepare::MettreEnPlace() {
-    if (const int erreur = Synchroniser(descripteur_); erreur != 0) Echouer(erreur);
-    if (::close(std::exchange(descripteur_, -1)) != 0) Echouer(errno);
-    if (std::rename(attente_.constData(), place_.constData()) != 0) Echouer(errno);
+    if (const int erreur = Synchroniser(descripteur_); erreur != 0) EchouerOuverture(erreur);
+    if (::close(std::exchange(descripteur_, -1)) != 0) EchouerOuverture(errno);
+    if (std::rename(attente_.constData(), place_.constData()) != 0) EchouerOuverture(errno);
     enPlace_ = true;
     SynchroniserDossierDe(place_);
 }

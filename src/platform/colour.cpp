@@ -1,5 +1,7 @@
 #include "platform/colour.h"
 
+#include <QColor>
+
 namespace bornika {
 
 QColor VersQColor(Couleur couleur) {

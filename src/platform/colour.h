@@ -1,7 +1,8 @@
 #pragma once
 
-#include <QColor>
 #include <cstdint>
+
+class QColor;
 
 /// Colours are numbers 0xBBGGRR: 255 is red, 0xFF0000 is blue.
 namespace bornika {

@@ -6,7 +6,6 @@
 #include <optional>
 
 class QPagedPaintDevice;
-class QWidget;
 
 namespace bornika {
 
@@ -63,22 +62,6 @@ class Dialogues {
     /// Print preview, from which the operator sets the page up, prints or makes a PDF file; comes
     /// back when it is closed. A fault of the painting goes to the guard.
     virtual void Apercu(const DemandeApercu& demande) = 0;
-};
-
-/// Translates the filter form of `DemandeFichier` to the toolkit's: "txt (*.txt)|*.txt" becomes
-/// "txt (*.txt) (*.txt *.TXT)", of which the dialog shows the label "txt (*.txt)" alone.
-QString FiltrePourDialogue(const QString& filtre);
-
-/// The toolkit's boxes and dialogs. The parent is the program's active window, unless that one
-/// deletes itself when it is closed, else its modal dialog.
-class DialoguesQt : public Dialogues {
-  public:
-    Reponse Boite(Icone icone, Boutons boutons, const QString& titre,
-                  const QString& texte) override;
-    std::optional<QString> Ouvrir(const DemandeFichier& demande) override;
-    std::optional<QString> Enregistrer(const DemandeFichier& demande) override;
-    std::optional<std::uint32_t> Couleur(std::uint32_t depart) override;
-    void Apercu(const DemandeApercu& demande) override;
 };
 
 }  // namespace bornika

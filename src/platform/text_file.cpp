@@ -38,7 +38,7 @@ std::chrono::nanoseconds Instant() {
     return std::chrono::seconds(instant.tv_sec) + std::chrono::nanoseconds(instant.tv_nsec);
 }
 
-[[noreturn]] void Echouer(int erreur) {
+[[noreturn]] void EchouerEcriture(int erreur) {
     throw FauteExecution(NumeroEcriture(erreur), qt_error_string(erreur));
 }
 
@@ -80,12 +80,12 @@ void FichierTexteEcrit::Fermer() {
     const auto fermer = [this] { return ::close(std::exchange(descripteur_, -1)); };
     try {
         Vider();
-        if (const int erreur = Synchroniser(descripteur_); erreur != 0) Echouer(erreur);
+        if (const int erreur = Synchroniser(descripteur_); erreur != 0) EchouerEcriture(erreur);
     } catch (const FauteExecution&) {
         fermer();
         throw;
     }
-    if (fermer() != 0) Echouer(errno);
+    if (fermer() != 0) EchouerEcriture(errno);
 }
 
 void FichierTexteEcrit::ViderTous() noexcept {
@@ -109,7 +109,7 @@ void FichierTexteEcrit::Vider() {
     // What is left waits for the next attempt, so that no line is written twice or cut in the
     // middle.
     tampon_.erase(0, static_cast<std::size_t>(ecrits));
-    if (erreur != 0) Echouer(erreur);
+    if (erreur != 0) EchouerEcriture(erreur);
 }
 
 FichierTexteLu::FichierTexteLu(const QString& chemin) {

@@ -8,7 +8,9 @@
 #include "link/device_identity.h"
 #include "platform/atomic_file.h"
 #include "platform/named_fault.h"
-#include "retrieval/recording_file.h"
+#include "products/firmware_versions.h"
+#include "recording/recording_file.h"
+#include "shell/product_box.h"
 #include "viewer/chart_session.h"
 #include "viewer/trace_form.h"
 #include "viewer/viewer_access.h"
@@ -20,16 +22,12 @@ namespace {
 constexpr qint64 tailleMorceau = 1 << 20;
 constexpr QChar separateur = u'\0';
 
-void Informer(MainScreen& ecran, const QString& texte) {
-    ecran.systeme.dialogues.Boite(Icone::Information, Boutons::Ok, ecran.etat.NomKpod, texte);
-}
-
 bool SeLitParCable(Poste& poste) {
     bool ok = true;
     LitVersionKpod(poste, ok);
     // A silent logger leaves the version that was known before, if any.
     const double version = poste.ecran.etat.VersionLogiciel;
-    return version > 0 && version < versionCarte;
+    return version > 0 && version < version::carte;
 }
 
 QString DemanderFichiers(MainScreen& ecran) {
@@ -108,8 +106,8 @@ void JoindreFichiers(const QStringList& sources, const QString& cible) {
 void LireSD(Poste& poste, AccesTrace& acces) {
     MainScreen& ecran = poste.ecran;
     if (SeLitParCable(poste)) {
-        Informer(ecran,
-                 ecran.Texte(QStringLiteral("Vous devez lires les données avec le cordon USB")));
+        MontrerMessage(ecran, Icone::Information,
+                       QStringLiteral("Vous devez lires les données avec le cordon USB"));
         return;
     }
     const QString choix = DemanderFichiers(ecran);
@@ -119,7 +117,8 @@ void LireSD(Poste& poste, AccesTrace& acces) {
     JoindreFichiers(FichiersChoisis(choix), ecran.systeme.Chemin(fichier));
     // Of several files the folder is shown.
     ecran.setWindowTitle(choix.section(separateur, 0, 0));
-    Informer(ecran, ecran.textes.TexteValeursStockees + QLatin1Char(' ') + fichier);
+    MontrerTexte(ecran, Icone::Information,
+                 ecran.textes.TexteValeursStockees + QLatin1Char(' ') + fichier);
     if (!ecran.etat.EnFermeture) Montrer(acces, fichier);
 }
 

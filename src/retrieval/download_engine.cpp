@@ -7,19 +7,17 @@
 #include "logger/parameter_reading.h"
 #include "logger/pressure_scale.h"
 #include "platform/fault.h"
-#include "platform/pointer_shape.h"
+#include "products/firmware_versions.h"
+#include "shell/product_box.h"
 #include "ui_main_screen.h"
+#include "widgets/pointer_shape.h"
 
 namespace bornika {
 
 namespace {
 
-constexpr int longueurReponse = 10;
+constexpr int longueurMesure = 10;
 constexpr int echecsMuets = 4;
-
-void Informer(MainScreen& ecran, const QString& texte) {
-    ecran.systeme.dialogues.Boite(Icone::Information, Boutons::Ok, ecran.etat.NomKpod, texte);
-}
 
 }  // namespace
 
@@ -27,9 +25,9 @@ void LireValeurs(Poste& poste, const SuiteTelechargement& suite) {
     MainScreen& ecran = poste.ecran;
     bool ok = true;
     LitVersionKpod(poste, ok);
-    if (ecran.etat.VersionLogiciel >= versionCarte) {
-        Informer(ecran,
-                 ecran.Texte(QStringLiteral("Vous devez lires les données depuis la carte SD")));
+    if (ecran.etat.VersionLogiciel >= version::carte) {
+        MontrerMessage(ecran, Icone::Information,
+                       QStringLiteral("Vous devez lires les données depuis la carte SD"));
         return;
     }
     LectureValeurs(poste, suite);
@@ -133,7 +131,7 @@ Octets Telechargement::Demander() {
     premier_ = false;
     const bool parler = nbEchecs_ > echecsMuets;
     if (parler) avancement_.Montrer();
-    return EchangeDirect(poste_, requete, longueurTrameMesures, longueurReponse, parler);
+    return EchangeDirect(poste_, requete, longueurTrameMesures, longueurMesure, parler);
 }
 
 /// Five failures in a row are survived: the link is opened again and the transfer goes on.
@@ -163,7 +161,7 @@ Telechargement::Etat Telechargement::Exploiter(const Octets& reponse) {
     // A click during the yield asks the logger for its version: if it was silent then, the measure
     // that is here already is not looked at any more.
     if (!ecran_.etat.TimeOut && reponse[0] == CMD_LIT_MESURES)
-        decodeur_.Decoder(std::span<const int, 10>(reponse.data(), longueurReponse), *this);
+        decodeur_.Decoder(std::span<const int, 10>(reponse.data(), longueurMesure), *this);
     if (!echec_.isEmpty()) return Etat::EcritureImpossible;
     return decodeur_.Fin() || !ecran_.etat.EnLecture ? Etat::FinNormale : Etat::EnCours;
 }
@@ -235,8 +233,10 @@ void Telechargement::TerminerNormalement() {
         DireEchec();
     }
     avancement_.Conclure();
-    ignorer(
-        [&] { Informer(ecran_, ecran_.textes.TexteValeursStockees + QLatin1Char(' ') + fichier); });
+    ignorer([&] {
+        MontrerTexte(ecran_, Icone::Information,
+                     ecran_.textes.TexteValeursStockees + QLatin1Char(' ') + fichier);
+    });
     if (!ecran_.etat.EnFermeture) ignorer([&] { suite_.montrer(fichier); });
 }
 
@@ -248,7 +248,7 @@ void Telechargement::TerminerSansSuite() {
 }
 
 void Telechargement::DireEchec() {
-    ecran_.systeme.dialogues.Boite(Icone::Critique, Boutons::Ok, ecran_.etat.NomKpod, echec_);
+    MontrerTexte(ecran_, Icone::Critique, echec_);
 }
 
 /// Pointer and caption as they are when nothing is read.

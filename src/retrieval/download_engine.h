@@ -5,9 +5,9 @@
 #include <optional>
 
 #include "link/station.h"
+#include "recording/recording_file.h"
 #include "retrieval/download_progress.h"
 #include "retrieval/measure_group.h"
-#include "retrieval/recording_file.h"
 
 namespace bornika {
 

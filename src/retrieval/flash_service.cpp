@@ -2,19 +2,17 @@
 
 #include <QStringList>
 
+#include "link/memory_access.h"
 #include "logger/pressure_scale.h"
+#include "platform/dates.h"
 #include "platform/fault.h"
 #include "platform/numbers.h"
-#include "retrieval/memory_access.h"
 #include "retrieval/stored_measure.h"
-#include "shell/dates.h"
 #include "ui_main_screen.h"
 
 namespace bornika {
 
 namespace {
-
-constexpr qsizetype longueurCellule = 8;
 
 struct Adresse {
     int page;

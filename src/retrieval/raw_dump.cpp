@@ -3,23 +3,23 @@
 #include <algorithm>
 #include <span>
 
+#include "link/memory_access.h"
 #include "logger/parameter_reading.h"
 #include "logger/pressure_scale.h"
 #include "platform/code_page.h"
+#include "platform/dates.h"
 #include "platform/fault.h"
 #include "platform/numbers.h"
-#include "platform/pointer_shape.h"
 #include "platform/text_file.h"
 #include "retrieval/download_progress.h"
-#include "retrieval/memory_access.h"
-#include "shell/dates.h"
+#include "shell/product_box.h"
 #include "ui_main_screen.h"
+#include "widgets/pointer_shape.h"
 
 namespace bornika {
 
 namespace {
 
-constexpr int longueurCellule = 8;
 constexpr int finDePage = 526;
 /// Half of the cells of a page: the bar is full half way, and stays so.
 constexpr double pasParPage = 33;
@@ -52,8 +52,7 @@ class DumpFlash {
             echec_.isEmpty() ? ecran_.Texte(QStringLiteral("Valeurs stockées dans le fichier")) +
                                    QLatin1Char(' ') + nom_
                              : echec_;
-        ecran_.systeme.dialogues.Boite(echec_.isEmpty() ? Icone::Information : Icone::Critique,
-                                       Boutons::Ok, ecran_.etat.NomKpod, texte);
+        MontrerTexte(ecran_, echec_.isEmpty() ? Icone::Information : Icone::Critique, texte);
     }
 
   private:

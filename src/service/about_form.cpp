@@ -2,12 +2,12 @@
 
 #include <QPixmap>
 
-#include "link/modal.h"
 #include "platform/guard.h"
 #include "service/system_info.h"
 #include "shell/images.h"
 #include "shell/main_screen.h"
 #include "ui_about_form.h"
+#include "widgets/modal.h"
 
 namespace bornika {
 

@@ -1,18 +1,18 @@
 #include "service/firmware_update.h"
 
 #include "link/device_identity.h"
+#include "products/firmware_versions.h"
 #include "service/firmware_file.h"
 #include "service/firmware_notice.h"
 #include "service/serial_number.h"
-#include "shell/text_catalogue.h"
+#include "settings/text_catalogue.h"
+#include "shell/product_box.h"
 #include "ui_main_screen.h"
 
 namespace bornika {
 
 namespace {
 
-/// An update that comes from below this version and reaches it loses the serial number.
-constexpr double versionNumeroSerie = 2.098;
 /// Between two looks at the tool, in milliseconds.
 constexpr int pauseEntreRegards = 10;
 
@@ -62,8 +62,7 @@ class MiseAJourFirmware {
 bool MiseAJourFirmware::Confirmer() {
     const QString question =
         ecran_.Texte(QStringLiteral("Etes vous sur de vouloir changer la version actuelle ? "));
-    return ecran_.systeme.dialogues.Boite(Icone::Question, Boutons::OuiNon, etat_.NomKpod,
-                                          question) == Reponse::Oui;
+    return MontrerBoite(ecran_, Icone::Question, Boutons::OuiNon, question) == Reponse::Oui;
 }
 
 /// A logger that is absent leaves version 0 and no number, and the update goes on.
@@ -92,10 +91,10 @@ bool MiseAJourFirmware::ProduitPermis() {
 
 bool MiseAJourFirmware::NomValide() {
     if (EstFirmwarePour(fichier_, etat_.TypekPod, drapeau_)) return true;
-    ecran_.systeme.dialogues.Boite(
-        Icone::Exclamation, Boutons::Ok, etat_.NomKpod,
-        fichier_ + QStringLiteral(" : \n") + ecran_.Texte(QStringLiteral("Invalid File Name")) +
-            QStringLiteral(" : ") + FormeNomFirmware(etat_.TypekPod, drapeau_));
+    MontrerTexte(ecran_, Icone::Exclamation,
+                 fichier_ + QStringLiteral(" : \n") +
+                     ecran_.Texte(QStringLiteral("Invalid File Name")) + QStringLiteral(" : ") +
+                     FormeNomFirmware(etat_.TypekPod, drapeau_));
     return false;
 }
 
@@ -130,7 +129,7 @@ void MiseAJourFirmware::RendreIdentite() {
     const bool autre = etat_.UsbID != usb_;
     if (autre || version.isEmpty()) SignalerNumero();
     const bool franchie =
-        ancienneVersion_ < versionNumeroSerie && etat_.VersionLogiciel >= versionNumeroSerie;
+        ancienneVersion_ < version::numeroSerie && etat_.VersionLogiciel >= version::numeroSerie;
     if (autre || !franchie) return;
     ecran_.ui->ValeurNumeroSerie->setText(numeroSerie_);
     ProgNumeroSerie_Click(poste_);
@@ -138,7 +137,7 @@ void MiseAJourFirmware::RendreIdentite() {
 
 /// The logger cannot be asked whether it has lost its number: the operator gets it instead.
 void MiseAJourFirmware::SignalerNumero() {
-    const bool menace = transferee_ && ancienneVersion_ < versionNumeroSerie;
+    const bool menace = transferee_ && ancienneVersion_ < version::numeroSerie;
     if (menace && !numeroSerie_.isEmpty()) avis_.NumeroNonRendu(numeroSerie_);
 }
 

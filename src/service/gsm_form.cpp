@@ -1,13 +1,14 @@
 #include "service/gsm_form.h"
 
-#include "link/modal.h"
 #include "platform/guard.h"
-#include "platform/kept_place.h"
 #include "platform/numbers.h"
 #include "shell/captions.h"
 #include "shell/form_captions.h"
 #include "shell/main_screen.h"
+#include "shell/product_box.h"
 #include "ui_gsm_form.h"
+#include "widgets/kept_place.h"
+#include "widgets/modal.h"
 
 namespace bornika {
 
@@ -78,9 +79,8 @@ void Valider_Click(GSM& fiche) {
     MainScreen& ecran = fiche.ecran;
     const QString valeur = fiche.ui->ValeurImpulsion->text();
     if (!EstNumerique(valeur, ecran.systeme.regional)) {
-        ecran.systeme.dialogues.Boite(
-            Icone::Exclamation, Boutons::Ok, ecran.etat.NomKpod,
-            ecran.Texte(QStringLiteral("La valeur de l'impulsion est incorrecte")));
+        MontrerMessage(ecran, Icone::Exclamation,
+                       QStringLiteral("La valeur de l'impulsion est incorrecte"));
         return;
     }
     const double nombre = EnDouble(valeur, ecran.systeme.regional);

@@ -1,12 +1,12 @@
 #include "service/production_form.h"
 
-#include "link/modal.h"
 #include "platform/guard.h"
 #include "service/production_report.h"
 #include "shell/captions.h"
 #include "shell/form_captions.h"
 #include "shell/main_screen.h"
 #include "ui_production_form.h"
+#include "widgets/modal.h"
 
 namespace bornika {
 

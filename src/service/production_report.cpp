@@ -2,15 +2,16 @@
 
 #include <QStringList>
 
-#include "link/products.h"
 #include "platform/block_append.h"
 #include "platform/code_page.h"
 #include "platform/named_fault.h"
 #include "platform/numbers.h"
+#include "products/products.h"
 #include "service/production_form.h"
+#include "settings/text_catalogue.h"
 #include "shell/captions.h"
 #include "shell/main_screen.h"
-#include "shell/text_catalogue.h"
+#include "shell/product_box.h"
 #include "ui_main_screen.h"
 #include "ui_production_form.h"
 
@@ -98,9 +99,8 @@ RapportProduction LireRapport(frmProduction& fiche) {
 
 bool EcrireRapport(MainScreen& ecran, const QString& chemin, const RapportProduction& rapport) {
     if (chemin.isEmpty()) {
-        ecran.systeme.dialogues.Boite(
-            Icone::Exclamation, Boutons::Ok, ecran.etat.NomKpod,
-            ecran.Texte(QStringLiteral("Vous devez saisir un N° de commande")));
+        MontrerMessage(ecran, Icone::Exclamation,
+                       QStringLiteral("Vous devez saisir un N° de commande"));
         return false;
     }
     nommer(chemin, [&] { AjouterBloc(chemin, BlocProduction(rapport)); });

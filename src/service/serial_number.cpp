@@ -2,10 +2,12 @@
 
 #include "link/command_exchange.h"
 #include "link/frames.h"
+#include "link/memory_access.h"
+#include "platform/dates.h"
 #include "platform/fault.h"
 #include "platform/numbers.h"
-#include "retrieval/memory_access.h"
-#include "shell/dates.h"
+#include "products/firmware_versions.h"
+#include "shell/product_box.h"
 #include "ui_main_screen.h"
 
 namespace bornika {
@@ -15,12 +17,9 @@ namespace {
 constexpr double plusGrandNumero = 2147483647.0;
 constexpr std::size_t octetsResets = 6;
 constexpr int adresseResets = 7;
-// Firmware from here on keeps its record in the internal memory; the flash held it before.
-constexpr double versionResetsInternes = 2.096;
 
 void Prevenir(Poste& poste, const char* texte) {
-    poste.ecran.systeme.dialogues.Boite(Icone::Aucune, Boutons::Ok, poste.ecran.etat.NomKpod,
-                                        QString::fromUtf8(texte));
+    MontrerTexte(poste.ecran, Icone::Aucune, QString::fromUtf8(texte));
 }
 
 /// One command in a conversation of its own; what its answer holds does not count.
@@ -31,7 +30,7 @@ void Envoyer(Poste& poste, const Octets& trame, int combien) {
 }
 
 Octets LireResets(Poste& poste) {
-    if (poste.ecran.etat.VersionLogiciel < versionResetsInternes)
+    if (poste.ecran.etat.VersionLogiciel < version::resetsInternes)
         return Memoire_Flash(poste, true, 0, 0);
     return LitEEpromInterne(poste, adresseResets, true);
 }
@@ -56,9 +55,8 @@ void ProgNumeroSerie_Click(Poste& poste) {
 }
 
 void RAZNumeroSerie_Click(Poste& poste) {
-    const Reponse reponse = poste.ecran.systeme.dialogues.Boite(
-        Icone::Critique, Boutons::OkAnnuler, poste.ecran.etat.NomKpod,
-        QStringLiteral("Attention, le datalogger sera inhibé !"));
+    const Reponse reponse = MontrerBoite(poste.ecran, Icone::Critique, Boutons::OkAnnuler,
+                                         QStringLiteral("Attention, le datalogger sera inhibé !"));
     if (reponse != Reponse::Ok) return;
     Envoyer(poste, TrameRaz(), 1);
 }

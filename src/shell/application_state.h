@@ -68,9 +68,4 @@ struct EtatApplication {
 /// any other code leaves it as it stands.
 void AppliquerTaille(EtatApplication& etat, int code);
 
-/// True for the logger that records to a card (types 19 and 20).
-constexpr bool EstFamilleCarte(std::int32_t type) {
-    return type == 19 || type == 20;
-}
-
 }  // namespace bornika

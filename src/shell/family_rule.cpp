@@ -1,5 +1,6 @@
 #include "shell/family_rule.h"
 
+#include "products/products.h"
 #include "shell/main_screen.h"
 #include "ui_main_screen.h"
 

@@ -1,9 +1,9 @@
 #include "shell/help_mode.h"
 
 #include "platform/fault.h"
+#include "settings/text_catalogue.h"
 #include "shell/captions.h"
 #include "shell/main_screen.h"
-#include "shell/text_catalogue.h"
 #include "ui_main_screen.h"
 
 namespace bornika {

@@ -1,11 +1,11 @@
 #include "shell/language_switch.h"
 
 #include "platform/fault.h"
+#include "settings/text_catalogue.h"
+#include "settings/toolkit_texts.h"
 #include "shell/captions.h"
 #include "shell/main_screen.h"
-#include "shell/text_catalogue.h"
 #include "shell/threshold_labels.h"
-#include "shell/toolkit_texts.h"
 #include "ui_main_screen.h"
 
 namespace bornika {

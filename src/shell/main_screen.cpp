@@ -3,12 +3,12 @@
 #include <QCloseEvent>
 #include <QPixmap>
 
-#include "platform/kept_place.h"
+#include "settings/text_catalogue.h"
 #include "shell/captions.h"
 #include "shell/images.h"
-#include "shell/text_catalogue.h"
 #include "shell/window_width.h"
 #include "ui_main_screen.h"
+#include "widgets/kept_place.h"
 
 namespace bornika {
 

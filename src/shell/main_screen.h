@@ -4,8 +4,8 @@
 #include <memory>
 
 #include "platform/system.h"
+#include "settings/config_store.h"
 #include "shell/application_state.h"
-#include "shell/config_store.h"
 
 namespace Ui {
 class MainScreen;

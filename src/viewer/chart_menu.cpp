@@ -5,14 +5,15 @@
 #include <QGuiApplication>
 #include <QMenu>
 
+#include "chart/model/chart_cursor.h"
+#include "chart/view/chart_picture.h"
+#include "chart/view/chart_view_keys.h"
 #include "platform/atomic_file.h"
 #include "platform/named_fault.h"
+#include "recording/recording_path.h"
 #include "shell/main_screen.h"
+#include "shell/product_box.h"
 #include "ui_trace_form.h"
-#include "viewer/chart_cursor.h"
-#include "viewer/chart_picture.h"
-#include "viewer/chart_view_keys.h"
-#include "viewer/recording_path.h"
 #include "viewer/trace_form.h"
 
 namespace bornika {
@@ -42,8 +43,7 @@ void Enregistrer(Trace& trace, const QString& extension, const QByteArray& conte
     try {
         nommer(*choisi, [&] { RemplacerFichier(*choisi, contenu); });
     } catch (const FauteExecution& faute) {
-        systeme.dialogues.Boite(Icone::Critique, Boutons::Ok, trace.ecran.etat.NomKpod,
-                                faute.texte());
+        MontrerTexte(trace.ecran, Icone::Critique, faute.texte());
     }
 }
 

@@ -1,18 +1,18 @@
 #include "viewer/chart_session.h"
 
+#include "chart/model/trace_loader.h"
 #include "platform/guard.h"
 #include "platform/numbers.h"
-#include "platform/pointer_shape.h"
+#include "recording/recording_path.h"
 #include "shell/main_screen.h"
 #include "ui_trace_form.h"
 #include "viewer/chart_pages.h"
 #include "viewer/colour_choice.h"
 #include "viewer/readout_box.h"
-#include "viewer/recording_path.h"
 #include "viewer/trace_form.h"
-#include "viewer/trace_loader.h"
 #include "viewer/viewer_loading.h"
 #include "viewer/viewer_settings.h"
+#include "widgets/pointer_shape.h"
 
 namespace bornika {
 

@@ -5,6 +5,7 @@
 #include "platform/code_page.h"
 #include "platform/named_fault.h"
 #include "shell/main_screen.h"
+#include "shell/product_box.h"
 #include "ui_trace_form.h"
 #include "viewer/trace_form.h"
 
@@ -22,9 +23,8 @@ QString CheminCommentaires(const Trace& trace, const QString& repertoire) {
 void EnregistrerCommentaires(Trace& trace, const QString& repertoire) {
     if (repertoire.isEmpty()) {
         // This text does not go through the catalogue.
-        trace.ecran.systeme.dialogues.Boite(Icone::Exclamation, Boutons::Ok,
-                                            trace.ecran.etat.NomKpod,
-                                            QStringLiteral("Vous devez saisir un fichier"));
+        MontrerTexte(trace.ecran, Icone::Exclamation,
+                     QStringLiteral("Vous devez saisir un fichier"));
         return;
     }
     EcrireCommentaires(trace, CheminCommentaires(trace, repertoire), ModeEcriture::Remplacer);

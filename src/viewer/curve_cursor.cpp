@@ -5,9 +5,9 @@
 #include <string_view>
 #include <utility>
 
+#include "platform/dates.h"
 #include "platform/fault.h"
 #include "platform/format_pattern.h"
-#include "shell/dates.h"
 #include "shell/main_screen.h"
 #include "ui_trace_form.h"
 #include "viewer/readout_box.h"

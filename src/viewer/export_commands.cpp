@@ -12,10 +12,12 @@
 #include "platform/numbers.h"
 #include "platform/text_file.h"
 #include "platform/vector_registers.h"
+#include "recording/recording_format.h"
+#include "recording/recording_path.h"
 #include "shell/main_screen.h"
+#include "shell/product_box.h"
 #include "ui_trace_form.h"
 #include "viewer/comments.h"
-#include "viewer/recording_path.h"
 #include "viewer/selection_export.h"
 #include "viewer/trace_form.h"
 
@@ -118,7 +120,7 @@ void EcrireSelection(const QString& cible, const QStringList& sources,
     }
 }
 
-QString CheminCommentaires(const QString& cible, const QStringList& sources) {
+QString CheminCommentairesCible(const QString& cible, const QStringList& sources) {
     const QString chemin = CheminCommentairesSelection(cible);
     // No recording of the view may go under its own comments.
     return EstUneDe(sources, chemin) ? cible + QStringLiteral(".Cmt") : chemin;
@@ -148,8 +150,6 @@ void EffacerFichier(const QString& chemin) {
 
 /// The line with its pressure worked out anew: all fields but the last, each with its ";".
 QString LigneMiseAJour(const QString& ligne, const Regional& regional) {
-    constexpr int champPoints = 2;
-    constexpr int champPression = 3;
     constexpr double barParPoint = 16.0 / 1024;
     QStringList champs = ligne.split(QLatin1Char(';'));
     if (champs.size() <= champPression) LeverFaute(numero_faute::indice);
@@ -173,7 +173,7 @@ void EnregistrerSelection(Trace& trace) {
     EcrireVersCible(
         trace, *trace.ui->EnregistrerSelection, QStringLiteral("txt"),
         [&](const QString& cible, const QStringList& sources) {
-            const QString commentaires = CheminCommentaires(cible, sources);
+            const QString commentaires = CheminCommentairesCible(cible, sources);
             EcrireSelection(
                 cible, sources, Demande(trace, FormatSelection::Enregistrement),
                 [&](ModeEcriture mode) { EcrireCommentaires(trace, commentaires, mode); });
@@ -183,18 +183,15 @@ void EnregistrerSelection(Trace& trace) {
 void Detruire(Trace& trace) {
     const Trace::Occupation occupation(trace);
     MainScreen& ecran = trace.ecran;
-    Dialogues& dialogues = ecran.systeme.dialogues;
     const QString nom = trace.NomFichierCourant;
     if (nom.isEmpty() || nom.contains(QChar(u'\0'))) {
-        dialogues.Boite(Icone::Exclamation, Boutons::Ok, ecran.etat.NomKpod,
-                        ecran.Texte(QStringLiteral("Vous devez sélectionner un fichier")));
+        MontrerMessage(ecran, Icone::Exclamation,
+                       QStringLiteral("Vous devez sélectionner un fichier"));
         return;
     }
     const QString question = ecran.Texte(QStringLiteral("Voulez Détruire le fichier ")) +
                              QLatin1Char(' ') + nom + QStringLiteral(" ?");
-    if (dialogues.Boite(Icone::Question, Boutons::OuiNon, ecran.etat.NomKpod, question) !=
-        Reponse::Oui)
-        return;
+    if (MontrerBoite(ecran, Icone::Question, Boutons::OuiNon, question) != Reponse::Oui) return;
     nommer(nom, [&] { EffacerFichier(nom); });
     // The box let the interface run: another file may have been opened.
     if (trace.NomFichierCourant == nom) trace.NomFichierCourant.clear();

@@ -1,11 +1,11 @@
 #include "viewer/printing.h"
 
+#include "chart/model/trace_header.h"
+#include "chart/view/chart_picture.h"
 #include "platform/fault.h"
 #include "shell/main_screen.h"
 #include "ui_trace_form.h"
-#include "viewer/chart_picture.h"
 #include "viewer/trace_form.h"
-#include "viewer/trace_header.h"
 
 namespace bornika {
 

@@ -5,21 +5,16 @@
 #include <array>
 #include <cstring>
 
+#include "chart/model/chart_model.h"
 #include "platform/code_page.h"
 #include "platform/fault.h"
 #include "platform/numbers.h"
-#include "viewer/chart_model.h"
+#include "recording/recording_format.h"
 
 namespace bornika {
 
 namespace {
 
-constexpr char finChamp = ';';
-
-constexpr int champDate = 1;
-constexpr int champPression = 3;
-constexpr int champComptage = 5;
-constexpr int champDebit = 6;
 constexpr int champUnite = 7;
 constexpr int champsAppareil = 7;
 

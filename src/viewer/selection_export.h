@@ -7,9 +7,9 @@
 #include <string>
 #include <vector>
 
+#include "chart/model/visible_range.h"
 #include "platform/regional.h"
-#include "viewer/recording_number.h"
-#include "viewer/visible_range.h"
+#include "recording/recording_number.h"
 
 namespace bornika {
 

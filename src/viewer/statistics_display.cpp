@@ -1,10 +1,10 @@
 #include "viewer/statistics_display.h"
 
+#include "chart/model/curve_statistics.h"
 #include "platform/fault.h"
 #include "platform/format_pattern.h"
 #include "shell/main_screen.h"
 #include "ui_trace_form.h"
-#include "viewer/curve_statistics.h"
 #include "viewer/readout_box.h"
 #include "viewer/trace_form.h"
 

@@ -1,9 +1,9 @@
 #include "viewer/trace_captions.h"
 
 #include "platform/fault.h"
+#include "settings/text_catalogue.h"
 #include "shell/captions.h"
 #include "shell/main_screen.h"
-#include "shell/text_catalogue.h"
 #include "viewer/trace_form.h"
 
 namespace bornika {

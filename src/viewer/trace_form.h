@@ -4,7 +4,7 @@
 #include <QWidget>
 #include <memory>
 
-#include "viewer/chart_model.h"
+#include "chart/model/chart_model.h"
 
 namespace Ui {
 class Trace;

@@ -1,11 +1,11 @@
 #include "viewer/viewer_loading.h"
 
 #include "platform/guard.h"
-#include "platform/pointer_shape.h"
 #include "shell/main_screen.h"
 #include "ui_trace_form.h"
 #include "viewer/comments.h"
 #include "viewer/trace_form.h"
+#include "widgets/pointer_shape.h"
 
 namespace bornika {
 
@@ -111,8 +111,8 @@ void ControlesChargement::FixerValeurBarre(double valeur) {
     trace_.ui->ProgressBar->FixerValeur(valeur);
 }
 
-void ControlesChargement::FixerPointeur(int forme) {
-    FixerPointeurSouris(trace_, forme);
+void ControlesChargement::MontrerFleche() {
+    FixerPointeurSouris(trace_, pointeur::fleche);
 }
 
 void ControlesChargement::FinirChargement() {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "viewer/loader_form.h"
+#include "chart/model/loader_form.h"
 
 namespace bornika {
 
@@ -35,7 +35,7 @@ class ControlesChargement : public FicheChargement {
     double MaximumBarre() override;
     double ValeurBarre() override;
     void FixerValeurBarre(double valeur) override;
-    void FixerPointeur(int forme) override;
+    void MontrerFleche() override;
     void FinirChargement() override;
     bool EnFermeture() override;
 

@@ -4,7 +4,7 @@
 
 #include <QMessageBox>
 
-#include "app/program_bench.h"
+#include "app/program_fixture.h"
 #include "service/splash_form.h"
 #include "viewer/trace_form.h"
 

@@ -20,7 +20,7 @@
 
 #include <gtest/gtest.h>
 
-#include "app/program_bench.h"
+#include "app/program_fixture.h"
 #include "calibration/calibration_form.h"
 #include "simulator/measure.h"
 #include "ui_calibration_form.h"

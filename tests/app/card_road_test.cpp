@@ -5,7 +5,7 @@
 #include <QDir>
 
 #include "app/demo_bus.h"
-#include "app/program_bench.h"
+#include "app/program_fixture.h"
 #include "ui_trace_form.h"
 #include "viewer/trace_form.h"
 
@@ -14,8 +14,8 @@ namespace {
 
 using essai::BancProgramme;
 using essai::maintenantSimule;
+using essai::nomSelonHorloge;
 
-const QString base = QStringLiteral("2026-03-05-14-07-09");
 const QChar nul = u'\0';
 
 struct CardRoad : testing::Test {
@@ -43,14 +43,15 @@ TEST_F(CardRoad, ChooseImportTwoFilesAndSeeOneCurve) {
     EXPECT_FALSE(banc.ui().LireValeurs->isVisible());
     Importer(Carte() + nul + QStringLiteral("LOG00001.TXT") + nul + QStringLiteral("LOG00002.TXT"));
 
-    const QByteArray fichier = banc.etabli.Lire(base + QStringLiteral(".txt"));
+    const QByteArray fichier = banc.etabli.Lire(nomSelonHorloge + QStringLiteral(".txt"));
     EXPECT_EQ(fichier, banc.etabli.Lire(QStringLiteral("CARD/LOG00001.TXT")) +
                            banc.etabli.Lire(QStringLiteral("CARD/LOG00002.TXT")));
     EXPECT_EQ(banc.ecran().windowTitle(), Carte());
     ASSERT_EQ(banc.etabli.dialogues.boites.size(), 1U);
     EXPECT_EQ(banc.etabli.dialogues.boites[0].titre, QStringLiteral("k-Pod 33"));
     EXPECT_EQ(banc.etabli.dialogues.boites[0].texte,
-              QStringLiteral("Valeurs stockées dans le fichier ") + base + QStringLiteral(".txt"));
+              QStringLiteral("Valeurs stockées dans le fichier ") + nomSelonHorloge +
+                  QStringLiteral(".txt"));
 
     Trace* trace = banc.programme->trace.Presente();
     ASSERT_NE(trace, nullptr);
@@ -69,7 +70,7 @@ TEST_F(CardRoad, AFileThatCannotBeReadEndsTheProgramInGoodOrder) {
     EXPECT_EQ(banc.etabli.dialogues.boites[0].icone, Icone::Critique);
     EXPECT_EQ(banc.etabli.dialogues.boites[0].texte,
               QStringLiteral("Run-time error '53':\n\nGONE.TXT : File not found"));
-    EXPECT_TRUE(banc.etabli.Fichiers().filter(base).isEmpty());
+    EXPECT_TRUE(banc.etabli.Fichiers().filter(nomSelonHorloge).isEmpty());
     EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);
 }
 
@@ -92,7 +93,7 @@ TEST_F(CardRoad, AFolderNamedAsTheLogOfStartsStopsTheImportToo) {
                        banc.etabli.Lire(QStringLiteral("CARD/LOG00001.TXT")));
     Importer(programme.filePath(QStringLiteral("startlog/LOG00001.TXT")));
     EXPECT_TRUE(banc.etabli.dialogues.boites.empty());
-    EXPECT_TRUE(banc.etabli.Fichiers().filter(base).isEmpty());
+    EXPECT_TRUE(banc.etabli.Fichiers().filter(nomSelonHorloge).isEmpty());
     EXPECT_EQ(banc.programme->trace.Presente(), nullptr);
 }
 
@@ -101,7 +102,7 @@ TEST_F(CardRoad, TheRecordingIsWholeAndTheCaptionSetWhileTheBoxStandsAndTheCurve
     int boites = 0;
     banc.etabli.dialogues.pendantBoite = [&](const auto&) {
         ++boites;
-        EXPECT_EQ(banc.etabli.Lire(base + QStringLiteral(".txt")),
+        EXPECT_EQ(banc.etabli.Lire(nomSelonHorloge + QStringLiteral(".txt")),
                   banc.etabli.Lire(QStringLiteral("CARD/LOG00002.TXT")));
         EXPECT_EQ(banc.ecran().windowTitle(), Carte() + QStringLiteral("/LOG00002.TXT"));
         EXPECT_EQ(banc.programme->trace.Presente(), nullptr);
@@ -137,7 +138,7 @@ TEST(CardWithoutItsLogger, IsImportedForTheProductThatWasChosenByHand) {
     ASSERT_TRUE(banc.ui().LireSD->isVisible());
     banc.etabli.dialogues.fichiers = {banc.etabli.Chemin(QStringLiteral("CARD/LOG00001.TXT"))};
     BancProgramme::Cliquer(banc.ui().LireSD);
-    EXPECT_EQ(banc.etabli.Lire(base + QStringLiteral(".txt")),
+    EXPECT_EQ(banc.etabli.Lire(nomSelonHorloge + QStringLiteral(".txt")),
               banc.etabli.Lire(QStringLiteral("CARD/LOG00001.TXT")));
     ASSERT_EQ(banc.etabli.dialogues.boites.size(), 1U);
     EXPECT_EQ(banc.etabli.dialogues.boites[0].titre, QStringLiteral("k-Pod 33"));
@@ -160,7 +161,7 @@ TEST_F(CardRoad, TheTwoFamiliesSendEachOtherAway) {
     EXPECT_EQ(banc.etabli.dialogues.boites.back().texte,
               QStringLiteral("Vous devez lire les données depuis la carte SD"));
     EXPECT_TRUE(banc.etabli.dialogues.demandes.empty());
-    EXPECT_TRUE(banc.etabli.Fichiers().filter(base).isEmpty());
+    EXPECT_TRUE(banc.etabli.Fichiers().filter(nomSelonHorloge).isEmpty());
 }
 
 }  // namespace

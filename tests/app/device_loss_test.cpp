@@ -4,13 +4,17 @@
 #include <gtest/gtest.h>
 
 #include "app/set_up_hand.h"
-#include "platform/pointer_shape.h"
+#include "widgets/pointer_shape.h"
 
 namespace bornika {
 namespace {
 
 using namespace essai;
-using namespace simulateur;
+using simulateur::GenrePanne;
+using simulateur::KPod2100;
+using simulateur::KPod33;
+using simulateur::PtrEnregistreur;
+using simulateur::sansFin;
 
 constexpr int rangsEcriture = 17;  // time format, weight, unit and time base, byte by byte
 

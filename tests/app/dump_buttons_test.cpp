@@ -4,7 +4,7 @@
 
 #include <QFile>
 
-#include "app/program_bench.h"
+#include "app/program_fixture.h"
 
 namespace bornika {
 namespace {

@@ -7,7 +7,7 @@
 #include <QTimer>
 #include <utility>
 
-#include "app/program_bench.h"
+#include "app/program_fixture.h"
 #include "support/programmer_stand_in.h"
 
 namespace bornika {

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "app/program_bench.h"
+#include "app/program_fixture.h"
 
 namespace bornika {
 namespace {

@@ -5,7 +5,7 @@
 #include <QScreen>
 #include <QTimer>
 
-#include "app/program_bench.h"
+#include "app/program_fixture.h"
 #include "viewer/trace_form.h"
 
 namespace bornika {

@@ -4,7 +4,7 @@
 
 #include <QPlainTextEdit>
 
-#include "app/program_bench.h"
+#include "app/program_fixture.h"
 #include "app/tour.h"
 #include "ui_trace_form.h"
 #include "viewer/trace_form.h"
@@ -14,8 +14,7 @@ namespace {
 
 using essai::BancProgramme;
 using essai::maintenantSimule;
-
-const QString base = QStringLiteral("2026-03-05-14-07-09");
+using essai::nomSelonHorloge;
 
 struct Road : testing::Test {
     BancProgramme banc;
@@ -42,11 +41,12 @@ TEST_F(Road, ChooseReadDownloadAndSeeTheCurve) {
     EXPECT_EQ(banc.ui().TensionPile->text(), QStringLiteral("4.00 V."));
 
     BancProgramme::Cliquer(banc.ui().LireValeurs);
-    EXPECT_GT(Lignes(base + QStringLiteral(".txt")), 20'000);
-    EXPECT_TRUE(banc.etabli.Lire(base + QStringLiteral(".err")).endsWith("End Parity Control"));
-    EXPECT_TRUE(banc.etabli.Fichiers().contains(base + QStringLiteral(".cmt")));
-    EXPECT_EQ(Boites(), QStringList({QStringLiteral("Valeurs stockées dans le fichier ") + base +
-                                     QStringLiteral(".txt")}));
+    EXPECT_GT(Lignes(nomSelonHorloge + QStringLiteral(".txt")), 20'000);
+    EXPECT_TRUE(
+        banc.etabli.Lire(nomSelonHorloge + QStringLiteral(".err")).endsWith("End Parity Control"));
+    EXPECT_TRUE(banc.etabli.Fichiers().contains(nomSelonHorloge + QStringLiteral(".cmt")));
+    EXPECT_EQ(Boites(), QStringList({QStringLiteral("Valeurs stockées dans le fichier ") +
+                                     nomSelonHorloge + QStringLiteral(".txt")}));
     EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);
 
     Trace* trace = banc.programme->trace.Presente();
@@ -54,7 +54,8 @@ TEST_F(Road, ChooseReadDownloadAndSeeTheCurve) {
     EXPECT_TRUE(trace->isVisible());
     EXPECT_FALSE(trace->ui->TChart1->isHidden());
     EXPECT_EQ(trace->modele.NombreSeries(), 4);
-    EXPECT_EQ(trace->modele.Serie(0).Nombre(), Lignes(base + QStringLiteral(".txt")) - 1);
+    EXPECT_EQ(trace->modele.Serie(0).Nombre(),
+              Lignes(nomSelonHorloge + QStringLiteral(".txt")) - 1);
     EXPECT_EQ(banc.ui().LireValeurs->text(), QStringLiteral("Lire les valeurs"));
 }
 
@@ -65,7 +66,7 @@ TEST_F(Road, ASecondClickCancelsAndLeavesACompleteFileWithItsCurve) {
         if (++tours == 500) BancProgramme::Cliquer(banc.ui().LireValeurs);
     });
     BancProgramme::Cliquer(banc.ui().LireValeurs);
-    const int lignes = Lignes(base + QStringLiteral(".txt"));
+    const int lignes = Lignes(nomSelonHorloge + QStringLiteral(".txt"));
     EXPECT_GT(lignes, 100);
     EXPECT_LT(lignes, 600);
     EXPECT_FALSE(banc.ecran().etat.EnLecture);
@@ -89,10 +90,11 @@ TEST_F(Road, GoingToTheViewerAndBackCancelsTheDownload) {
         BancProgramme::Cliquer(banc.ui().LireValeurs);
     });
     BancProgramme::Cliquer(banc.ui().LireValeurs);
-    const int lignes = Lignes(base + QStringLiteral(".txt"));
+    const int lignes = Lignes(nomSelonHorloge + QStringLiteral(".txt"));
     EXPECT_GT(lignes, 100);
     EXPECT_LT(lignes, 400);
-    EXPECT_TRUE(banc.etabli.Lire(base + QStringLiteral(".err")).endsWith("End Parity Control"));
+    EXPECT_TRUE(
+        banc.etabli.Lire(nomSelonHorloge + QStringLiteral(".err")).endsWith("End Parity Control"));
     EXPECT_EQ(banc.etabli.dialogues.boites.size(), 1U);
     EXPECT_EQ(banc.programme->trace.Presente()->modele.Serie(0).Nombre(), lignes - 1);
     EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);
@@ -105,7 +107,7 @@ TEST_F(Road, ALoggerPulledOutKeepsWhatWasReceivedAndSaysSo) {
         if (++tours == 500) banc.bus.Debrancher(banc.ecran().etat.UsbID);
     });
     BancProgramme::Cliquer(banc.ui().LireValeurs);
-    EXPECT_GT(Lignes(base + QStringLiteral(".txt")), 100);
+    EXPECT_GT(Lignes(nomSelonHorloge + QStringLiteral(".txt")), 100);
     EXPECT_EQ(Boites(), QStringList({QStringLiteral("k-Pod absent")}));
     EXPECT_EQ(banc.programme->trace.Presente(), nullptr);
     EXPECT_FALSE(banc.ecran().etat.EnLecture);
@@ -128,18 +130,18 @@ TEST_F(Road, ClosingTheMainFormInADownloadLeavesWithoutBoxesAndViewer) {
     BancProgramme::Cliquer(banc.ui().LireValeurs);
     EXPECT_TRUE(Boites().isEmpty());
     EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);
-    EXPECT_GT(Lignes(base + QStringLiteral(".txt")), 100);
+    EXPECT_GT(Lignes(nomSelonHorloge + QStringLiteral(".txt")), 100);
     EXPECT_TRUE(banc.programme->trace.Presente() == nullptr ||
                 !banc.programme->trace.Presente()->isVisible());
 }
 
 TEST_F(Road, ADiskThatFillsUpIsToldOnceAndNothingReceivedIsLost) {
     ASSERT_TRUE(QFile::link(QStringLiteral("/dev/full"),
-                            banc.etabli.Chemin(base + QStringLiteral(".txt"))));
+                            banc.etabli.Chemin(nomSelonHorloge + QStringLiteral(".txt"))));
     BancProgramme::Cliquer(banc.ui().LireValeurs);
     ASSERT_EQ(banc.etabli.dialogues.boites.size(), 1U);
     EXPECT_EQ(banc.etabli.dialogues.boites.front().icone, Icone::Critique);
-    EXPECT_TRUE(banc.etabli.dialogues.boites.front().texte.contains(base));
+    EXPECT_TRUE(banc.etabli.dialogues.boites.front().texte.contains(nomSelonHorloge));
     EXPECT_TRUE(banc.sorties.empty());
     EXPECT_FALSE(banc.ecran().etat.EnLecture);
     EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);

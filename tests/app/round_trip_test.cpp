@@ -26,7 +26,21 @@ namespace bornika {
 namespace {
 
 using namespace essai;
-using namespace simulateur;
+namespace adresse = simulateur::adresse;
+using simulateur::AvecNumeroSerie;
+using simulateur::Inconnu;
+using simulateur::KPod2089;
+using simulateur::KPod2098;
+using simulateur::KPod2100;
+using simulateur::KPod2110;
+using simulateur::KPod33;
+using simulateur::KPodAncien;
+using simulateur::KPodReseauEau;
+using simulateur::KPodType19;
+using simulateur::KTide;
+using simulateur::PtrEnregistreur;
+using simulateur::SansNom;
+using simulateur::TempsAppareil;
 
 constexpr int reglagesParEnregistreur = 12;
 

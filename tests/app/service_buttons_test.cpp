@@ -5,7 +5,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-#include "app/program_bench.h"
+#include "app/program_fixture.h"
 
 namespace bornika {
 namespace {

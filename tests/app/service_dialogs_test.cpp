@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "app/program_bench.h"
+#include "app/program_fixture.h"
 #include "service/about_form.h"
 #include "service/gsm_form.h"
 #include "service/production_form.h"

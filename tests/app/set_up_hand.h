@@ -8,7 +8,7 @@
 #include <random>
 #include <string>
 
-#include "app/program_bench.h"
+#include "app/program_fixture.h"
 
 namespace bornika::essai {
 

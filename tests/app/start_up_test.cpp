@@ -4,7 +4,7 @@
 
 #include <set>
 
-#include "app/program_bench.h"
+#include "app/program_fixture.h"
 #include "app/watchdog.h"
 
 namespace bornika {

@@ -8,6 +8,7 @@
 
 #include "app/demo_bus.h"
 #include "support/fake_system.h"
+#include "widgets/toolkit_dialogs.h"
 
 namespace bornika {
 namespace {

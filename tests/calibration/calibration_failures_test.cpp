@@ -2,20 +2,20 @@
 
 #include <gtest/gtest.h>
 
-#include "calibration_bench.h"
+#include "calibration/calibration_fixture.h"
 
 namespace bornika::essai {
 namespace {
 
 using simulateur::GenrePanne;
 
-enum class Bouton { Entrer, Fin, Lire };
+enum class Presse { Entrer, Fin, Lire };
 
-struct Cas {
+struct CasMuet {
     const char* nom;
     Firmware firmware;
     Avance avance;
-    Bouton bouton;
+    Presse bouton;
     /// The frames of the click, in order.
     std::vector<int> codes;
     /// How many of them, from the first, leave the form as it was when they fail.
@@ -24,27 +24,24 @@ struct Cas {
     const char* apres;
 };
 
-constexpr auto nouveau = Firmware::Nouveau;
-constexpr auto ancien = Firmware::Ancien;
-
-const Cas cas[] = {
-    {"Read", nouveau, Avance::Repos, Bouton::Lire, {9, 28, 26, 26}, 4, ""},
-    {"ReadOnePointSent", nouveau, Avance::PointUn, Bouton::Lire, {9, 28, 26, 26}, 4, ""},
-    {"ReadWaiting", nouveau, Avance::AttenteDeux, Bouton::Lire, {9, 28, 26, 26}, 4, ""},
-    {"ReadTwoPointsSent", nouveau, Avance::PointDeux, Bouton::Lire, {9, 28, 26, 26}, 4, ""},
-    {"ReadOld", ancien, Avance::Repos, Bouton::Lire, {9, 28, 26}, 3, ""},
+const CasMuet casMuets[] = {
+    {"Read", nouveau, Avance::Repos, Presse::Lire, {9, 28, 26, 26}, 4, ""},
+    {"ReadOnePointSent", nouveau, Avance::PointUn, Presse::Lire, {9, 28, 26, 26}, 4, ""},
+    {"ReadWaiting", nouveau, Avance::AttenteDeux, Presse::Lire, {9, 28, 26, 26}, 4, ""},
+    {"ReadTwoPointsSent", nouveau, Avance::PointDeux, Presse::Lire, {9, 28, 26, 26}, 4, ""},
+    {"ReadOld", ancien, Avance::Repos, Presse::Lire, {9, 28, 26}, 3, ""},
     // The point is with the logger already when the date fails.
     {"Start",
      nouveau,
      Avance::Repos,
-     Bouton::Entrer,
+     Presse::Entrer,
      {9, 24, 27},
      2,
      "- end read quit, 1 row, types 1, point 1"},
     {"StartSecond",
      nouveau,
      Avance::AttenteDeux,
-     Bouton::Entrer,
+     Presse::Entrer,
      {9, 24, 27},
      2,
      "- end read quit, 2 rows, types 2, point 2"},
@@ -52,35 +49,35 @@ const Cas cas[] = {
     {"End",
      nouveau,
      Avance::PointUn,
-     Bouton::Fin,
+     Presse::Fin,
      {9, 25, 9, 28, 26, 26},
      2,
      "start - read quit, 1 row, types 1, point 1"},
     {"EndOld",
      ancien,
      Avance::PointUn,
-     Bouton::Fin,
+     Presse::Fin,
      {9, 25, 9, 28, 26},
      2,
      "start - read quit, 1 row, types 1, point 1"},
     {"EndSecond",
      nouveau,
      Avance::PointDeux,
-     Bouton::Fin,
+     Presse::Fin,
      {25, 9, 28, 26, 26},
      1,
      "start - read quit, 2 rows, types 1, point 1"},
 };
 
 struct Essai {
-    Cas cas;
+    CasMuet casMuets;
     int rang;
     GenrePanne genre;
 };
 
 std::vector<Essai> Essais() {
     std::vector<Essai> essais;
-    for (const Cas& c : cas)
+    for (const CasMuet& c : casMuets)
         for (std::size_t rang = 0; rang < c.codes.size(); ++rang)
             for (const GenrePanne genre :
                  {GenrePanne::silence, GenrePanne::reponsePerdue, GenrePanne::debranchement})
@@ -88,20 +85,21 @@ std::vector<Essai> Essais() {
     return essais;
 }
 
-std::string Nom(const testing::TestParamInfo<Essai>& info) {
+std::string NomMuet(const testing::TestParamInfo<Essai>& info) {
     const char* const genre = info.param.genre == GenrePanne::silence         ? "Silent"
                               : info.param.genre == GenrePanne::reponsePerdue ? "Lost"
                                                                               : "PulledOut";
-    return std::string(info.param.cas.nom) + "_" + std::to_string(info.param.rang) + "_" + genre;
+    return std::string(info.param.casMuets.nom) + "_" + std::to_string(info.param.rang) + "_" +
+           genre;
 }
 
 class CalibrationFailures : public testing::TestWithParam<Essai> {
   protected:
-    BancEtalonnage banc{GetParam().cas.firmware};
+    BancEtalonnage banc{GetParam().casMuets.firmware};
 
-    void Presser(Bouton bouton) {
-        banc.Cliquer(bouton == Bouton::Entrer ? banc.f().EntrerEtalonnage
-                     : bouton == Bouton::Fin  ? banc.f().SortirEtalonnage
+    void Presser(Presse bouton) {
+        banc.Cliquer(bouton == Presse::Entrer ? banc.f().EntrerEtalonnage
+                     : bouton == Presse::Fin  ? banc.f().SortirEtalonnage
                                               : banc.f().LireEtalonnage);
     }
 };
@@ -115,7 +113,7 @@ TEST_P(CalibrationFailures, CloseTheLinkAndSaySoOnce) {
     banc.enregistreur.pannes.Ordonner({.genre = genre, .occurrence = rang + 1});
     // A first point of new firmware whose version was answered brings the question for a second.
     const bool question =
-        c.bouton == Bouton::Fin && c.codes[0] == 9 && c.firmware == nouveau && rang > 0;
+        c.bouton == Presse::Fin && c.codes[0] == 9 && c.firmware == nouveau && rang > 0;
     // The box of an absent logger has OK alone.
     if (question) banc.Repondre(Reponse::Non);
     Presser(c.bouton);
@@ -129,11 +127,11 @@ TEST_P(CalibrationFailures, CloseTheLinkAndSaySoOnce) {
         << "nothing is sent behind the failure";
     EXPECT_TRUE(banc.fiche->isVisible());
     // Only a date that failed lets the two boxes of the measure come.
-    const bool guide = c.bouton == Bouton::Entrer && rang == 2;
+    const bool guide = c.bouton == Presse::Entrer && rang == 2;
     EXPECT_EQ(banc.Boites().size(), 1 + (guide ? 2 : 0) + (question ? 1 : 0));
 }
 
-INSTANTIATE_TEST_SUITE_P(EveryFrame, CalibrationFailures, testing::ValuesIn(Essais()), Nom);
+INSTANTIATE_TEST_SUITE_P(EveryFrame, CalibrationFailures, testing::ValuesIn(Essais()), NomMuet);
 
 TEST(CalibrationFailure, OfAPointLetsTheOperatorTryAgain) {
     BancEtalonnage banc;

@@ -9,9 +9,10 @@
 #include <QWindow>
 
 #include "calibration/calibration_display.h"
-#include "calibration_bench.h"
-#include "link/modal.h"
+#include "calibration/calibration_fixture.h"
 #include "shell/captions.h"
+#include "widgets/modal.h"
+#include "widgets/toolkit_dialogs.h"
 
 namespace bornika::essai {
 namespace {

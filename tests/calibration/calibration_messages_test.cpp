@@ -5,7 +5,7 @@
 namespace bornika {
 namespace {
 
-Tampon Reponse(std::initializer_list<int> octets) {
+Tampon TamponDe(std::initializer_list<int> octets) {
     Tampon tampon{};
     std::size_t i = 1;
     for (const int octet : octets)
@@ -14,31 +14,31 @@ Tampon Reponse(std::initializer_list<int> octets) {
 }
 
 TEST(CalibrationVersion, JoinsTheTextsOfFourBytes) {
-    EXPECT_DOUBLE_EQ(VersionEtalonnage(Reponse({9, 0, 2, 0, 89, 1, 150, 4, 0})), 2.089);
-    EXPECT_DOUBLE_EQ(VersionEtalonnage(Reponse({9, 1, 2, 0, 89})), 12.089);
-    EXPECT_DOUBLE_EQ(VersionEtalonnage(Reponse({9, 0, 0, 0, 0})), 0);
-    EXPECT_DOUBLE_EQ(VersionEtalonnage(Reponse({9, 255, 255, 255, 255})), 255255255.255);
-    EXPECT_DOUBLE_EQ(VersionEtalonnage(Reponse({9, 1, 0, 8, 9})), 1.089);
+    EXPECT_DOUBLE_EQ(VersionEtalonnage(TamponDe({9, 0, 2, 0, 89, 1, 150, 4, 0})), 2.089);
+    EXPECT_DOUBLE_EQ(VersionEtalonnage(TamponDe({9, 1, 2, 0, 89})), 12.089);
+    EXPECT_DOUBLE_EQ(VersionEtalonnage(TamponDe({9, 0, 0, 0, 0})), 0);
+    EXPECT_DOUBLE_EQ(VersionEtalonnage(TamponDe({9, 255, 255, 255, 255})), 255255255.255);
+    EXPECT_DOUBLE_EQ(VersionEtalonnage(TamponDe({9, 1, 0, 8, 9})), 1.089);
 }
 
 TEST(CalibrationVersion, IsOldUpToItsLimit) {
-    EXPECT_TRUE(EstAncienFirmware(Reponse({9, 0, 2, 0, 89})));
-    EXPECT_FALSE(EstAncienFirmware(Reponse({9, 0, 2, 0, 90})));
-    EXPECT_TRUE(EstAncienFirmware(Reponse({9, 0, 0, 2, 88})));
+    EXPECT_TRUE(EstAncienFirmware(TamponDe({9, 0, 2, 0, 89})));
+    EXPECT_FALSE(EstAncienFirmware(TamponDe({9, 0, 2, 0, 90})));
+    EXPECT_TRUE(EstAncienFirmware(TamponDe({9, 0, 0, 2, 88})));
 }
 
 TEST(CalibrationVersion, IsNewForEveryOrdinaryProduct) {
-    EXPECT_FALSE(EstAncienFirmware(Reponse({9, 1, 2, 0, 89})));
-    EXPECT_FALSE(EstAncienFirmware(Reponse({9, 19, 2, 0, 89})));
+    EXPECT_FALSE(EstAncienFirmware(TamponDe({9, 1, 2, 0, 89})));
+    EXPECT_FALSE(EstAncienFirmware(TamponDe({9, 19, 2, 0, 89})));
 }
 
 TEST(CalibrationVersion, IsNewBehindAnotherEcho) {
-    EXPECT_FALSE(EstAncienFirmware(Reponse({8, 0, 2, 0, 89})));
-    EXPECT_FALSE(EstAncienFirmware(Reponse({0, 0, 0, 0, 0})));
+    EXPECT_FALSE(EstAncienFirmware(TamponDe({8, 0, 2, 0, 89})));
+    EXPECT_FALSE(EstAncienFirmware(TamponDe({0, 0, 0, 0, 0})));
 }
 
 TEST(CalibrationDate, HasSecondsWithoutSignScaleAndUnit) {
-    const DateEtalonnage date = DateDe(Reponse({28, 0xFF, 0xA9, 0x8E, 0x0D, 0x31, 0, 0}));
+    const DateEtalonnage date = DateDe(TamponDe({28, 0xFF, 0xA9, 0x8E, 0x0D, 0x31, 0, 0}));
     EXPECT_EQ(date.secondes, 4289302029.0);
     EXPECT_EQ(date.echelle, 3);
     EXPECT_EQ(date.unite, 1);
@@ -46,21 +46,21 @@ TEST(CalibrationDate, HasSecondsWithoutSignScaleAndUnit) {
 
 TEST(CalibrationDate, TakesTheWholePartOfTheScale) {
     // 0x1F is 1.94 sixteenths: the scale of a reading would be rounded to 2.
-    EXPECT_EQ(DateDe(Reponse({28, 0, 0, 0, 1, 0x1F})).echelle, 1);
-    EXPECT_EQ(DateDe(Reponse({28, 0, 0, 0, 1, 0x1F})).unite, 15);
-    EXPECT_EQ(DateDe(Reponse({28, 0, 0, 0, 1, 0xF0})).echelle, 15);
+    EXPECT_EQ(DateDe(TamponDe({28, 0, 0, 0, 1, 0x1F})).echelle, 1);
+    EXPECT_EQ(DateDe(TamponDe({28, 0, 0, 0, 1, 0x1F})).unite, 15);
+    EXPECT_EQ(DateDe(TamponDe({28, 0, 0, 0, 1, 0xF0})).echelle, 15);
 }
 
 TEST(CalibrationPair, IsReferenceThenMeasureWhateverTheEcho) {
     for (const int echo : {26, 7}) {
-        const PointEtalonnage point = PointDe(Reponse({echo, 0x01, 0x40, 0x01, 0x3C, 0, 0, 0}));
+        const PointEtalonnage point = PointDe(TamponDe({echo, 0x01, 0x40, 0x01, 0x3C, 0, 0, 0}));
         EXPECT_EQ(point.valeur, 320);
         EXPECT_EQ(point.mesure, 316);
     }
 }
 
 TEST(CalibrationRequest, CarriesTheBytesOfTheVersionReplyBehindItsOwn) {
-    const Tampon version = Reponse({9, 1, 2, 7, 110, 1, 150, 4, 99});
+    const Tampon version = TamponDe({9, 1, 2, 7, 110, 1, 150, 4, 99});
     EXPECT_EQ(TramePoint(320, 1, version), (Octets{24, 1, 64, 1, 7, 110, 1, 150}));
     EXPECT_EQ(TrameDate(1772719629, 3, 2, version),
               (Octets{27, 0x69, 0xA9, 0x8E, 0x0D, 0x32, 1, 150}));

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "calibration_bench.h"
+#include "calibration/calibration_fixture.h"
 #include "logger/parameter_reading.h"
 
 namespace bornika::essai {
@@ -11,7 +11,7 @@ namespace {
 namespace adresse = simulateur::adresse;
 using simulateur::GenrePanne;
 
-const QString rien = QStringLiteral("--");
+const QString sansValeur = QStringLiteral("--");
 
 TEST(CalibrationReading, ShowsDateSensorAndBothPairs) {
     BancEtalonnage banc;
@@ -83,8 +83,8 @@ TEST(CalibrationReading, OfANeverCalibratedLoggerKeepsDateAndSensorButNotTheUnit
         BancEtalonnage banc;
         banc.enregistreur.memoire.EcrireOctet(adresse::echelleEtalonnage, octet);
         banc.Ouvrir();
-        EXPECT_EQ(banc.f().ValeurDateEtalonnage->text(), rien);
-        EXPECT_EQ(banc.f().ValeurCapteurEtalonnage->text(), rien);
+        EXPECT_EQ(banc.f().ValeurDateEtalonnage->text(), sansValeur);
+        EXPECT_EQ(banc.f().ValeurCapteurEtalonnage->text(), sansValeur);
         for (const int rang : {0, 1}) {
             EXPECT_EQ(Clair(banc.fiche->Rangee(rang).Labelpressionreelle->text()), unite);
             EXPECT_EQ(Clair(banc.fiche->Rangee(rang).Labelpressionlue->text()), unite);

@@ -2,7 +2,7 @@
 
 #include <gmock/gmock.h>
 
-#include "calibration_bench.h"
+#include "calibration/calibration_fixture.h"
 
 namespace bornika::essai {
 namespace {
@@ -44,8 +44,6 @@ class CalibrationStates : public testing::TestWithParam<Cas> {
     }
 };
 
-constexpr auto nouveau = Firmware::Nouveau;
-constexpr auto ancien = Firmware::Ancien;
 constexpr auto oui = Reponse::Oui;
 constexpr auto non = Reponse::Non;
 

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "calibration_bench.h"
+#include "calibration/calibration_fixture.h"
 
 namespace bornika::essai {
 namespace {

@@ -2,17 +2,13 @@
 #include <QTimer>
 
 #include "link/command_table.h"
-#include "link/discovery_bench.h"
-#include "platform/pointer_shape.h"
+#include "link/discovery_fixture.h"
+#include "widgets/pointer_shape.h"
 
 namespace bornika::essai {
 namespace {
 
 using simulateur::GenrePanne;
-
-simulateur::PtrEnregistreur Serie(std::uint32_t numero) {
-    return simulateur::AvecNumeroSerie(numero, maintenant);
-}
 
 TEST(FrmConnect, AClickWhileTheListIsRebuiltIsNoChoice) {
     BancDeChoix b;

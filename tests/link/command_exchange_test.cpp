@@ -4,7 +4,7 @@
 
 #include "link/command_table.h"
 #include "link/frames.h"
-#include "link/link_bench.h"
+#include "link/link_fixture.h"
 #include "simulator/presets.h"
 #include "simulator/simulated_bus.h"
 

@@ -1,20 +1,12 @@
 #include "link/connect_hint.h"
 
-#include "link/discovery_bench.h"
+#include "link/discovery_fixture.h"
 
 namespace bornika::essai {
 namespace {
 
-simulateur::PtrEnregistreur Serie(std::uint32_t numero) {
-    return simulateur::AvecNumeroSerie(numero, maintenant);
-}
-
 QString Texte(const frmConnect& fiche) {
     return fiche.ui->LabelIndication->text();
-}
-
-void Regarder(frmConnect& fiche) {
-    QMetaObject::invokeMethod(&fiche.Veille, "timeout");
 }
 
 TEST(IndicationPour, FollowsWhatIsListed) {

@@ -1,7 +1,7 @@
 #include "link/device_identity.h"
 
 #include "link/command_table.h"
-#include "link/link_bench.h"
+#include "link/link_fixture.h"
 
 namespace bornika::essai {
 namespace {

@@ -3,21 +3,12 @@
 #include <QDialog>
 
 #include "link/command_table.h"
-#include "link/discovery_bench.h"
+#include "link/discovery_fixture.h"
 
 namespace bornika::essai {
 namespace {
 
 using simulateur::GenreAppel;
-
-simulateur::PtrEnregistreur Serie(std::uint32_t numero) {
-    return simulateur::AvecNumeroSerie(numero, maintenant);
-}
-
-/// One second passes.
-void Regarder(frmConnect& fiche) {
-    QMetaObject::invokeMethod(&fiche.Veille, "timeout");
-}
 
 int Ligne(const frmConnect& fiche) {
     return fiche.ui->Listekrow->currentRow();

@@ -1,6 +1,6 @@
 #include "link/multi_usb.h"
 
-#include "link/link_bench.h"
+#include "link/link_fixture.h"
 
 namespace bornika::essai {
 namespace {

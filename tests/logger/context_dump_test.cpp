@@ -5,8 +5,8 @@
 #include <QFile>
 #include <algorithm>
 
+#include "logger/logger_fixture.h"
 #include "logger/parameter_reading.h"
-#include "logger_bench.h"
 #include "platform/fault.h"
 #include "support/fault_number.h"
 

@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/controls.h"
 #include "support/fake_system.h"
+#include "widgets/controls.h"
 
 namespace bornika::essai {
 namespace {

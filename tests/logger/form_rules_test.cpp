@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "logger_bench.h"
+#include "logger/logger_fixture.h"
 
 namespace bornika::essai {
 namespace {

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
+#include "logger/logger_fixture.h"
 #include "logger/parameter_reading.h"
-#include "logger_bench.h"
 
 namespace bornika::essai {
 namespace {

@@ -4,7 +4,7 @@
 
 #include <QApplication>
 
-#include "logger_bench.h"
+#include "logger/logger_fixture.h"
 
 namespace bornika::essai {
 namespace {

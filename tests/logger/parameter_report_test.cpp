@@ -4,8 +4,8 @@
 
 #include <functional>
 
+#include "logger/logger_fixture.h"
 #include "logger/parameter_reading.h"
-#include "logger_bench.h"
 
 namespace bornika::essai {
 namespace {

@@ -2,10 +2,10 @@
 
 #include "logger/parameter_reading.h"
 #include "logger/parameter_writing.h"
+#include "logger/writing_fixture.h"
 #include "platform/code_page.h"
 #include "platform/numbers.h"
 #include "support/fault_number.h"
-#include "writing_bench.h"
 
 namespace bornika::essai {
 namespace {
@@ -14,12 +14,8 @@ namespace adresse = simulateur::adresse;
 using simulateur::GenrePanne;
 using Frames = std::vector<std::vector<std::uint8_t>>;
 
-constexpr std::uint8_t avecCarte = 20;
-constexpr std::uint8_t derniereVersion = 120;
 constexpr int premiereTrame = 2;
 constexpr int derniereTrame = 6;
-const std::string ecrasees = " Les anciennes valeurs seront écrasées";
-const std::string terminee = "Ecriture des paramètres terminée";
 const std::string absent = "k-Pod 33 absent";
 
 struct Cas {
@@ -197,7 +193,7 @@ std::vector<Cas> TousLesCas() {
     return cas;
 }
 
-std::string NomDuCas(const testing::TestParamInfo<Cas>& cas) {
+std::string NomDuCasEcrit(const testing::TestParamInfo<Cas>& cas) {
     static const char* const noms[] = {"None",      "Silent", "AnswerLost", "Short",
                                        "WrongEcho", "Noise",  "Unplugged"};
     const auto& trame = TramesCompletes()[static_cast<std::size_t>(cas.param.rang)];
@@ -205,7 +201,8 @@ std::string NomDuCas(const testing::TestParamInfo<Cas>& cas) {
            std::to_string(cas.param.rang) + "Code" + std::to_string(trame[0]);
 }
 
-INSTANTIATE_TEST_SUITE_P(ChaqueTrame, PanneALaTrame, testing::ValuesIn(TousLesCas()), NomDuCas);
+INSTANTIATE_TEST_SUITE_P(ChaqueTrame, PanneALaTrame, testing::ValuesIn(TousLesCas()),
+                         NomDuCasEcrit);
 
 TEST(EcritureInterrompue, EachOfTheFiveFramesEndsItWithOneBox) {
     for (int rang = premiereTrame; rang <= derniereTrame; ++rang) {

@@ -3,17 +3,14 @@
 #include <gtest/gtest.h>
 
 #include "logger/parameter_reading.h"
-#include "platform/pointer_shape.h"
+#include "logger/writing_fixture.h"
 #include "support/fault_number.h"
-#include "writing_bench.h"
+#include "widgets/pointer_shape.h"
 
 namespace bornika::essai {
 namespace {
 
 namespace adresse = simulateur::adresse;
-
-constexpr std::uint8_t avecCarte = 20;
-constexpr std::uint8_t derniereVersion = 120;
 
 /// Instant in milliseconds and bytes of a frame.
 std::string Ligne(std::int64_t instant, const std::vector<std::uint8_t>& trame) {

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "logger_bench.h"
+#include "logger/logger_fixture.h"
 #include "support/fault_number.h"
 
 namespace bornika::essai {

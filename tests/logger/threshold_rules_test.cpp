@@ -6,7 +6,7 @@
 #include <QDir>
 #include <QFile>
 
-#include "logger_bench.h"
+#include "logger/logger_fixture.h"
 
 namespace bornika::essai {
 namespace {

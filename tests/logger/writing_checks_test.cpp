@@ -6,20 +6,15 @@
 
 #include "logger/parameter_reading.h"
 #include "logger/parameter_writing.h"
+#include "logger/writing_fixture.h"
 #include "platform/colour.h"
-#include "platform/pointer_shape.h"
-#include "writing_bench.h"
+#include "widgets/pointer_shape.h"
 
 namespace bornika::essai {
 namespace {
 
 namespace adresse = simulateur::adresse;
 using simulateur::GenrePanne;
-
-constexpr std::uint8_t avecCarte = 20;
-constexpr std::uint8_t derniereVersion = 120;
-const std::string ecrasees = " Les anciennes valeurs seront écrasées";
-const std::string terminee = "Ecriture des paramètres terminée";
 
 Couleur CouleurDe(const QLabel& etiquette) {
     return DepuisQColor(etiquette.palette().color(QPalette::WindowText));

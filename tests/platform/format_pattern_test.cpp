@@ -9,12 +9,13 @@
 
 #include "platform/fault.h"
 #include "platform/numbers.h"
+#include "support/regionals.h"
 
 namespace bornika {
 namespace {
 
-const Regional point;
-const Regional virgule{QStringLiteral(","), QStringLiteral("dd/MM/yyyy")};
+using essai::point;
+using essai::virgule;
 
 constexpr std::array<double, 18> valeurs = {
     0,         1,     5,          0.5,       0.05,  0.0004, 0.0625,

@@ -8,8 +8,6 @@
 #include <stdexcept>
 
 #include "platform/clock.h"
-#include "platform/colour.h"
-#include "platform/pointer_shape.h"
 #include "platform/yield.h"
 
 namespace bornika {
@@ -190,31 +188,6 @@ TEST(HorlogeSysteme, PausesWithoutHandlingEvents) {
     HorlogeSysteme().Pause(2);
     EXPECT_GE(std::chrono::steady_clock::now() - debut, std::chrono::milliseconds(2));
     EXPECT_FALSE(venu);
-}
-
-TEST(Couleur, HoldsRedInItsLowByte) {
-    EXPECT_EQ(VersQColor(255), QColor(Qt::red));
-    EXPECT_EQ(VersQColor(65535), QColor(Qt::yellow));
-    EXPECT_EQ(VersQColor(0xFF00), QColor(0, 255, 0));
-    EXPECT_EQ(VersQColor(0xFF0000), QColor(Qt::blue));
-    EXPECT_EQ(VersQColor(0xFFFFFF), QColor(Qt::white));
-    EXPECT_EQ(DepuisQColor(QColor(128, 255, 0)), 0x00FF80U);
-    for (const Couleur couleur : {0U, 0x123456U, 0xFFFFFFU})
-        EXPECT_EQ(DepuisQColor(VersQColor(couleur)), couleur);
-}
-
-TEST(Pointeur, TakesTheShapeOfItsNumberAndGivesItBack) {
-    QWidget fiche;
-    EXPECT_EQ(PointeurSouris(fiche), pointeur::defaut);
-    FixerPointeurSouris(fiche, pointeur::sablier);
-    EXPECT_EQ(fiche.cursor().shape(), Qt::WaitCursor);
-    EXPECT_EQ(PointeurSouris(fiche), 11);
-    FixerPointeurSouris(fiche, pointeur::fleche);
-    EXPECT_EQ(fiche.cursor().shape(), Qt::ArrowCursor);
-    EXPECT_EQ(PointeurSouris(fiche), 1);
-    FixerPointeurSouris(fiche, pointeur::defaut);
-    EXPECT_EQ(PointeurSouris(fiche), 0);
-    EXPECT_THROW(FixerPointeurSouris(fiche, 12), FauteExecution);
 }
 
 }  // namespace

@@ -7,12 +7,14 @@
 
 #include "platform/fault.h"
 #include "support/fault_number.h"
+#include "support/regionals.h"
 
 namespace bornika {
 namespace {
 
-const Regional point;
-const Regional virgule{QStringLiteral(","), QStringLiteral("dd/MM/yyyy")};
+using essai::point;
+using essai::virgule;
+
 const Regional arabe{QStringLiteral("\u066B"), QStringLiteral("dd/MM/yyyy")};
 
 using essai::NumeroDeFaute;

@@ -5,13 +5,12 @@
 #include <QDir>
 
 #include "platform/guard.h"
-#include "retrieval_bench.h"
+#include "retrieval/retrieval_fixture.h"
 #include "ui_trace_form.h"
 #include "viewer/trace_form.h"
 #include "viewer/viewer_access.h"
 
-using namespace bornika;
-using namespace bornika::essai;
+namespace bornika::essai {
 using simulateur::MesurePeriodique;
 
 namespace {
@@ -154,3 +153,5 @@ TEST(AfterDownload, AClickWhileTheCurveIsLoadedMakesAnotherWholeRecording) {
     EXPECT_EQ(banc.PoigneesOuvertes(), 0);
     EXPECT_TRUE(banc.etabli.fautes.empty());
 }
+
+}  // namespace bornika::essai

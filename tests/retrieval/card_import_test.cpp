@@ -8,7 +8,7 @@
 #include <csignal>
 
 #include "platform/guard.h"
-#include "retrieval_bench.h"
+#include "retrieval/retrieval_fixture.h"
 #include "shell/family_rule.h"
 #include "simulator/card_files.h"
 #include "simulator/device_time.h"
@@ -16,8 +16,7 @@
 #include "viewer/trace_form.h"
 #include "viewer/viewer_access.h"
 
-using namespace bornika;
-using namespace bornika::essai;
+namespace bornika::essai {
 using simulateur::GenrePanne;
 
 namespace {
@@ -468,3 +467,5 @@ TEST(CardImport, ARecordingInTwoFilesOfTheCardIsOneCurve) {
     EXPECT_EQ(banc.acces.Presente()->modele.Serie(0).Nombre(), banc.Mesures().count("\r\n") - 2);
     EXPECT_GT(banc.Mesures().count("\r\n"), 10'000);
 }
+
+}  // namespace bornika::essai

@@ -6,11 +6,10 @@
 #include <QFile>
 #include <algorithm>
 
-#include "platform/pointer_shape.h"
-#include "retrieval_bench.h"
+#include "retrieval/retrieval_fixture.h"
+#include "widgets/pointer_shape.h"
 
-using namespace bornika;
-using namespace bornika::essai;
+namespace bornika::essai {
 using simulateur::GenrePanne;
 using simulateur::MesurePeriodique;
 
@@ -290,3 +289,5 @@ TEST(Download, ALoggerSilentAtTheClickIsJudgedByTheVersionReadLast) {
     banc.Cliquer();
     EXPECT_TRUE(banc.AToutEcrit());
 }
+
+}  // namespace bornika::essai

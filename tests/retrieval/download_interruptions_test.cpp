@@ -6,11 +6,10 @@
 #include <QSignalBlocker>
 
 #include "logger/parameter_reading.h"
-#include "platform/pointer_shape.h"
-#include "retrieval_bench.h"
+#include "retrieval/retrieval_fixture.h"
+#include "widgets/pointer_shape.h"
 
-using namespace bornika;
-using namespace bornika::essai;
+namespace bornika::essai {
 using simulateur::MesurePeriodique;
 
 namespace {
@@ -218,3 +217,5 @@ TEST(DownloadDisturbed, LinesThatCannotBeBuiltAreSkippedAndTheTransferGoesOn) {
     EXPECT_EQ(banc.montres.size(), 1U);
     EXPECT_EQ(Clair(banc.ui.Infos->text()).substr(0, 4), "100/");
 }
+
+}  // namespace bornika::essai

@@ -2,11 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/pointer_shape.h"
-#include "retrieval_bench.h"
+#include "retrieval/retrieval_fixture.h"
+#include "widgets/pointer_shape.h"
 
-using namespace bornika;
-using namespace bornika::essai;
+namespace bornika::essai {
 using simulateur::MesureImpulsion;
 using simulateur::MesurePeriodique;
 using simulateur::PariteCassee;
@@ -284,3 +283,5 @@ TEST(LireValeurs, ALoggerOfVersion2100IsDownloaded) {
     banc.Cliquer();
     EXPECT_EQ(banc.montres.size(), 1U);
 }
+
+}  // namespace bornika::essai

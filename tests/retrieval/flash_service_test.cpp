@@ -3,11 +3,10 @@
 #include <gtest/gtest.h>
 
 #include "platform/fault.h"
-#include "retrieval_bench.h"
+#include "retrieval/retrieval_fixture.h"
 #include "support/fault_number.h"
 
-using namespace bornika;
-using namespace bornika::essai;
+namespace bornika::essai {
 using simulateur::GenrePanne;
 
 namespace {
@@ -361,3 +360,5 @@ TEST_F(EcritureFlash, UnderAStandingTimeOutItEndsWithoutAWordAndWithoutAFault) {
     EXPECT_TRUE(banc.etabli.dialogues.boites.empty());
     EXPECT_EQ(banc.PoigneesOuvertes(), 0);
 }
+
+}  // namespace bornika::essai

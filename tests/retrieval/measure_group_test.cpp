@@ -5,9 +5,10 @@
 #include <array>
 #include <vector>
 
+#include "retrieval/retrieval_fixture.h"
 #include "simulator/measure.h"
 
-using namespace bornika;
+namespace bornika::essai {
 using simulateur::MesureEnFlash;
 using simulateur::MesureImpulsion;
 using simulateur::MesurePeriodique;
@@ -46,8 +47,6 @@ class Transfert : public SortieMesures {
         return valeurs;
     }
 };
-
-constexpr std::uint32_t t0 = 1700000000;
 
 using Entiers = std::vector<int>;
 
@@ -235,3 +234,5 @@ TEST(PeriodicGroup, TheCountOfAnEndlessSecondStopsAtItsLimitAndTheGroupStillClos
     transfert.Recevoir(MesurePeriodique(t0 + 2, 501));
     EXPECT_EQ(transfert.Points(), (Entiers{501}));
 }
+
+}  // namespace bornika::essai

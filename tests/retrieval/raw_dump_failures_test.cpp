@@ -8,11 +8,10 @@
 #include <optional>
 
 #include "logger/parameter_reading.h"
-#include "raw_dump_bench.h"
+#include "retrieval/raw_dump_fixture.h"
 #include "support/limits.h"
 
-using namespace bornika;
-using namespace bornika::essai;
+namespace bornika::essai {
 using simulateur::GenrePanne;
 
 namespace {
@@ -348,3 +347,5 @@ TEST(RawDumpDisturbed, InsideADownloadLeavesTheRecordingItsNameItsCommentsAndIts
     EXPECT_EQ(banc.PoigneesOuvertes(), 0);
     EXPECT_EQ(PointeurSouris(banc.ecran), pointeur::sablier);
 }
+
+}  // namespace bornika::essai

@@ -4,10 +4,9 @@
 
 #include <algorithm>
 
-#include "raw_dump_bench.h"
+#include "retrieval/raw_dump_fixture.h"
 
-using namespace bornika;
-using namespace bornika::essai;
+namespace bornika::essai {
 using simulateur::MesureEnFlash;
 using simulateur::MesurePeriodique;
 
@@ -277,3 +276,5 @@ TEST(RawDump, OfALoggerInCalibrationSaysSoAndGoesOn) {
     EXPECT_EQ(banc.Lignes().size(), 1U + cellules);
     AttendreRepos(banc);
 }
+
+}  // namespace bornika::essai

@@ -9,19 +9,19 @@
 #include "simulator/measure.h"
 #include "support/fault_number.h"
 
-using namespace bornika;
+namespace bornika::essai {
 
 namespace {
 
-using Reponse = std::vector<int>;
+using ReponseMesure = std::vector<int>;
 
-Reponse ReponseDe(const simulateur::MesureEnFlash& mesure) {
-    Reponse reponse{10, 0};
+ReponseMesure ReponseDe(const simulateur::MesureEnFlash& mesure) {
+    ReponseMesure reponse{10, 0};
     reponse.insert(reponse.end(), mesure.begin(), mesure.end());
     return reponse;
 }
 
-bool Passe(const Reponse& reponse) {
+bool Passe(const ReponseMesure& reponse) {
     bool resultat = false;
     ControleParite(0, reponse, resultat);
     return resultat;
@@ -58,18 +58,18 @@ TEST(ControleParite, PassesWhenAllFiveBitsMatch) {
     EXPECT_TRUE(Passe(ReponseDe(simulateur::MesurePeriodique(instant, 777))));
 }
 
-class PariteCassee : public testing::TestWithParam<int> {};
+class BitDeParite : public testing::TestWithParam<int> {};
 
-TEST_P(PariteCassee, OneWrongBitAloneFails) {
+TEST_P(BitDeParite, OneWrongBitAloneFails) {
     EXPECT_FALSE(Passe(ReponseDe(
         simulateur::PariteCassee(simulateur::MesurePeriodique(instant, 777), GetParam()))));
 }
 
-INSTANTIATE_TEST_SUITE_P(EachBit, PariteCassee, testing::Values(6, 5, 4, 3, 2));
+INSTANTIATE_TEST_SUITE_P(EachBit, BitDeParite, testing::Values(6, 5, 4, 3, 2));
 
 TEST(ControleParite, EachByteOfTheTimeStampIsCovered) {
     for (std::size_t i = 4; i <= 7; ++i) {
-        Reponse reponse = ReponseDe(simulateur::MesurePeriodique(instant, 777));
+        ReponseMesure reponse = ReponseDe(simulateur::MesurePeriodique(instant, 777));
         reponse[i] ^= 16;
         EXPECT_FALSE(Passe(reponse)) << "position " << i;
     }
@@ -77,7 +77,7 @@ TEST(ControleParite, EachByteOfTheTimeStampIsCovered) {
 
 TEST(ControleParite, AMeasureWithoutParityInformationAlwaysPasses) {
     for (int bit : {6, 5, 4, 3, 2}) {
-        Reponse reponse =
+        ReponseMesure reponse =
             ReponseDe(simulateur::PariteCassee(simulateur::MesurePeriodique(instant, 777), bit));
         reponse[8] &= ~128;
         EXPECT_TRUE(Passe(reponse)) << "bit " << bit;
@@ -86,15 +86,15 @@ TEST(ControleParite, AMeasureWithoutParityInformationAlwaysPasses) {
 
 TEST(ControleParite, FractionAndLowValueAreNotCovered) {
     for (std::size_t i : {2U, 3U, 9U}) {
-        Reponse reponse = ReponseDe(simulateur::MesurePeriodique(instant, 777));
+        ReponseMesure reponse = ReponseDe(simulateur::MesurePeriodique(instant, 777));
         reponse[i] ^= 1;
         EXPECT_TRUE(Passe(reponse)) << "position " << i;
     }
 }
 
 TEST(ControleParite, BeginsAtTheGivenIndex) {
-    Reponse decalee{99, 98, 97};
-    const Reponse bonne = ReponseDe(simulateur::MesurePeriodique(instant, 777));
+    ReponseMesure decalee{99, 98, 97};
+    const ReponseMesure bonne = ReponseDe(simulateur::MesurePeriodique(instant, 777));
     decalee.insert(decalee.end(), bonne.begin(), bonne.end());
     bool resultat = false;
     ControleParite(3, decalee, resultat);
@@ -106,7 +106,7 @@ TEST(ControleParite, BeginsAtTheGivenIndex) {
 
 TEST(ControleParite, AnAnswerThatIsTooShortIsASubscriptFault) {
     bool resultat = true;
-    const Reponse courte{10, 0, 0};
+    const ReponseMesure courte{10, 0, 0};
     EXPECT_EQ(essai::NumeroDeFaute([&] { ControleParite(0, courte, resultat); }),
               numero_faute::indice);
 }
@@ -159,3 +159,5 @@ TEST(StoredMeasure, AnErasedCellAddsItsLowerTimeBytesToTheTimeBefore) {
     EXPECT_EQ(e.horodatage, 1000 + 16777215);
     EXPECT_EQ(e.points, 1023);
 }
+
+}  // namespace bornika::essai

@@ -8,7 +8,7 @@
 #include "platform/format_pattern.h"
 #include "support/fault_number.h"
 
-using namespace bornika;
+namespace bornika::essai {
 
 namespace {
 
@@ -64,3 +64,5 @@ TEST(TauxImpulsions, ANegativeIntervalGivesANegativeRate) {
 TEST(TauxImpulsions, NoIntervalIsADivisionFault) {
     EXPECT_EQ(essai::NumeroDeFaute([] { TauxImpulsions(0); }), numero_faute::divisionParZero);
 }
+
+}  // namespace bornika::essai

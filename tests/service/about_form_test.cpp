@@ -4,7 +4,7 @@
 
 #include <QRegularExpression>
 
-#include "dialog_bench.h"
+#include "service/dialog_fixture.h"
 #include "ui_about_form.h"
 
 namespace bornika::essai {

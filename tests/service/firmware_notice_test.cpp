@@ -1,6 +1,6 @@
 // What the form tells of a firmware update without a box.
 
-#include "service/firmware_bench.h"
+#include "service/firmware_fixture.h"
 
 namespace bornika::essai::firmware {
 namespace {

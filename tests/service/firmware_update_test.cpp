@@ -1,4 +1,4 @@
-#include "service/firmware_bench.h"
+#include "service/firmware_fixture.h"
 
 namespace bornika::essai::firmware {
 namespace {

@@ -1,6 +1,6 @@
 #include "service/flow_test.h"
 
-#include "service_bench.h"
+#include "service/service_fixture.h"
 
 namespace bornika::essai {
 namespace {

@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include "dialog_bench.h"
-#include "platform/controls.h"
+#include "service/dialog_fixture.h"
 #include "ui_gsm_form.h"
+#include "widgets/controls.h"
 
 namespace bornika::essai {
 namespace {

@@ -4,7 +4,7 @@
 
 #include <QFile>
 
-#include "dialog_bench.h"
+#include "service/dialog_fixture.h"
 #include "ui_production_form.h"
 
 namespace bornika::essai {

@@ -5,7 +5,7 @@
 #include <QDir>
 #include <QFile>
 
-#include "dialog_bench.h"
+#include "service/dialog_fixture.h"
 #include "service/production_form.h"
 #include "support/fault_number.h"
 #include "support/limits.h"

@@ -1,6 +1,6 @@
 #include "service/self_test.h"
 
-#include "service_bench.h"
+#include "service/service_fixture.h"
 
 namespace bornika::essai {
 namespace {

@@ -1,7 +1,7 @@
 #include "service/serial_number.h"
 
 #include "link/device_identity.h"
-#include "service_bench.h"
+#include "service/service_fixture.h"
 #include "shell/language_switch.h"
 
 namespace bornika::essai {

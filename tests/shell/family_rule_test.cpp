@@ -6,7 +6,7 @@
 #include "support/fake_system.h"
 #include "ui_main_screen.h"
 
-using namespace bornika;
+namespace bornika::essai {
 
 namespace {
 
@@ -85,3 +85,5 @@ TEST_F(AppliqueFamilleRule, LeavesTheFlowParametersAsTheyStand) {
     Appliquer(20);
     EXPECT_TRUE(ui.FrameFlowParameter->isHidden());
 }
+
+}  // namespace bornika::essai

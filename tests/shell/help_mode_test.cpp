@@ -9,7 +9,7 @@
 #include "support/fake_system.h"
 #include "ui_main_screen.h"
 
-using namespace bornika;
+namespace bornika::essai {
 
 namespace {
 
@@ -116,3 +116,5 @@ TEST_F(HelpMode, KeepsTheOldToolTipsThroughAChangeOfLanguage) {
     EXPECT_EQ(ui.Lire->toolTip(), avant);
     EXPECT_FALSE(avant.isEmpty());
 }
+
+}  // namespace bornika::essai

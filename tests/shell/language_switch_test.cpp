@@ -12,7 +12,7 @@
 #include "support/fake_system.h"
 #include "ui_main_screen.h"
 
-using namespace bornika;
+namespace bornika::essai {
 
 namespace {
 
@@ -312,3 +312,5 @@ TEST_F(LanguageSwitch, LeavesTheFormUsableWhenTheFileIsGone) {
     EXPECT_EQ(ui.Lire->text(), QStringLiteral("kept"));
     EXPECT_TRUE(ecran.updatesEnabled());
 }
+
+}  // namespace bornika::essai

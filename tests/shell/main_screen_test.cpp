@@ -14,7 +14,7 @@
 #include "support/fake_system.h"
 #include "ui_main_screen.h"
 
-using namespace bornika;
+namespace bornika::essai {
 using essai::Etabli;
 
 namespace {
@@ -420,3 +420,5 @@ TEST(ApplicationState, TakesTheCapacityOfTheThreeKnownSizeCodes) {
     AppliquerTaille(etat, 4);
     EXPECT_EQ(etat.CapaciteMemoire, 540606);
 }
+
+}  // namespace bornika::essai

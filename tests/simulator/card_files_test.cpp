@@ -8,18 +8,20 @@
 #include <algorithm>
 #include <sstream>
 
+#include "exchange_support.h"
 #include "simulator/device_time.h"
 #include "simulator/recordings.h"
 
 namespace bornika::simulateur {
 namespace {
 
+using essai::maintenant;
+
 using testing::ElementsAre;
 using testing::EndsWith;
 using testing::StartsWith;
 
 const std::uint32_t t0 = 1700000000;  // 14 November 2023, 22:13:20
-const std::uint32_t maintenant = TempsAppareil(2026, 3, 5, 14, 7, 9);
 
 const std::vector<MesureEnFlash> mesures = {MesurePeriodique(t0, 64), MesureImpulsion(t0 + 1, 4, 3),
                                             MesureImpulsion(t0 + 3, 4, 3)};

@@ -9,6 +9,9 @@
 
 namespace bornika::essai {
 
+/// Device seconds of 5 March 2026, 14:07:09.
+inline constexpr std::uint32_t maintenant = 1772719629;
+
 using ListeOctets = std::vector<std::uint8_t>;
 
 /// Bytes of a list of numbers.

@@ -12,8 +12,6 @@ namespace {
 
 using namespace simulateur;
 
-const std::uint32_t maintenant = TempsAppareil(2026, 3, 5, 14, 7, 9);
-
 std::vector<PtrEnregistreur> Tous() {
     std::vector<PtrEnregistreur> tous;
     for (const auto preset : {KPodAncien, KPod2100, KPod2089, KPod2098, KPod2110, KPodType19, KTide,
@@ -24,7 +22,7 @@ std::vector<PtrEnregistreur> Tous() {
     return tous;
 }
 
-ListeOctets Identite(EnregistreurSimule& logger) {
+ListeOctets ReponseIdentite(EnregistreurSimule& logger) {
     const ListeOctets version = ReponseA(logger, 9);
     return {version.at(1), version.at(2), version.at(4)};
 }
@@ -37,7 +35,7 @@ TEST(Presets, TypesAndVersionsAreThoseOfTheFamily) {
     const auto tous = Tous();
     ASSERT_EQ(tous.size(), attendues.size());
     for (std::size_t i = 0; i < tous.size(); ++i)
-        EXPECT_EQ(Identite(*tous[i]), attendues[i]);
+        EXPECT_EQ(ReponseIdentite(*tous[i]), attendues[i]);
 }
 
 TEST(Presets, AnyOfThemCanHangOnOneBusUnderItsOwnIdentifier) {
@@ -114,10 +112,10 @@ TEST(Presets, TheSilentOneIsCountedAndOpenedAndNeverAnswers) {
 TEST(Presets, TheDemoFamilyHasOneOfEachKind) {
     const auto famille = FamilleDemo(maintenant);
     ASSERT_EQ(famille.size(), 4U);
-    EXPECT_EQ(Identite(*famille[0]), Octets8({1, 2, 100}));
-    EXPECT_EQ(Identite(*famille[1]), Octets8({1, 2, 89}));
-    EXPECT_EQ(Identite(*famille[2]), Octets8({20, 2, 120}));
-    EXPECT_EQ(Identite(*famille[3]), Octets8({5, 2, 100}));
+    EXPECT_EQ(ReponseIdentite(*famille[0]), Octets8({1, 2, 100}));
+    EXPECT_EQ(ReponseIdentite(*famille[1]), Octets8({1, 2, 89}));
+    EXPECT_EQ(ReponseIdentite(*famille[2]), Octets8({20, 2, 120}));
+    EXPECT_EQ(ReponseIdentite(*famille[3]), Octets8({5, 2, 100}));
     EXPECT_GT(famille[0]->NombreMesures(), 20000);
     EXPECT_GT(famille[1]->NombreMesures(), 1000);
     EXPECT_TRUE(famille[2]->cartePresente);

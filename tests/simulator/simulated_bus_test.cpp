@@ -9,8 +9,6 @@ namespace {
 using namespace simulateur;
 using testing::ElementsAre;
 
-constexpr std::uint32_t maintenant = 1'772'719'629;
-
 EnregistreurSimule AvecId(IdentifiantUsb id) {
     Identite qui;
     qui.usb = id;

@@ -11,7 +11,7 @@ namespace bornika::essai {
 
 using Manquements = std::vector<std::string>;
 
-/// Includes between rooms run down: each room names only those below it and the three leaves.
+/// Includes between rooms run down: each room names only those below it.
 Manquements PiecesMelees(const Sources& sources);
 
 /// No file includes itself by way of others.

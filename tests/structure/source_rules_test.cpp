@@ -28,7 +28,7 @@ TEST(Maison, IsReadAndItsIncludesAreFound) {
     ASSERT_TRUE(Maison().contains("src/shell/main_screen.ui"));
     EXPECT_THAT(Inclusions(Maison(), "src/platform/guard.h"), ElementsAre("src/platform/fault.h"));
     const auto duFormulaire = Inclusions(Maison(), "src/shell/main_screen.ui");
-    EXPECT_THAT(duFormulaire, testing::Contains("src/platform/controls.h"));
+    EXPECT_THAT(duFormulaire, testing::Contains("src/widgets/controls.h"));
 }
 
 TEST(Maison, KeepsIncludesRunningDownItsRooms) {
@@ -74,25 +74,15 @@ TEST(PiecesMelees, FindsAnIncludeBesides) {
                                                    "src/viewer/a.h leans on src/link/station.h"));
 }
 
-TEST(PiecesMelees, LetsTheLeavesBeUsedFromAbove) {
-    const Sources sources = {{"src/shell/a.h", "#include \"link/products.h\"\n"},
-                             {"src/link/products.h", ""},
-                             {"src/logger/b.cpp", "#include \"retrieval/memory_access.h\"\n"},
-                             {"src/retrieval/memory_access.h", "#include \"link/station.h\"\n"},
-                             {"src/link/station.h", "#include \"link/products.h\"\n"}};
-    EXPECT_THAT(PiecesMelees(sources), IsEmpty());
-}
-
-TEST(PiecesMelees, KeepsTheLeavesAsLightAsTheyAre) {
-    const Sources sources = {{"src/link/products.cpp", "#include \"link/station.h\"\n"},
-                             {"src/link/station.h", ""},
-                             {"src/retrieval/memory_access.cpp", "#include \"logger/x.h\"\n"},
-                             {"src/logger/x.h", "#include \"retrieval/download_engine.h\"\n"},
-                             {"src/retrieval/download_engine.h", ""}};
+TEST(PiecesMelees, TellsTheRoomsOfOneFolderApart) {
+    const Sources sources = {{"src/chart/model/m.h", "#include \"chart/view/v.h\"\n"},
+                             {"src/chart/view/v.h", "#include \"chart/model/n.h\"\n"},
+                             {"src/chart/model/n.h", "#include \"recording/r.h\"\n"},
+                             {"src/recording/r.h", "#include \"widgets/w.h\"\n"},
+                             {"src/widgets/w.h", ""}};
     EXPECT_THAT(PiecesMelees(sources),
-                ElementsAre("src/link/products.cpp leans on src/link/station.h",
-                            "src/logger/x.h leans on src/retrieval/download_engine.h",
-                            "src/retrieval/memory_access.cpp leans on src/logger/x.h"));
+                ElementsAre("src/chart/model/m.h leans on src/chart/view/v.h",
+                            "src/recording/r.h leans on src/widgets/w.h"));
 }
 
 TEST(PiecesMelees, FollowsFormsAndTheirPromotedControls) {
@@ -129,21 +119,21 @@ TEST(Bibliotheques, AreFoundOutsideTheirPlace) {
                              {"src/app/b.cpp", "void f() { QFileDialog::getOpenFileName(); }"},
                              {"src/logger/c.cpp", "#include <unistd.h>\n"},
                              {"src/shell/d.h", "#include <pugixml.hpp>\n"},
-                             {"src/viewer/chart_model.h", "class QCPGraph;\n"},
+                             {"src/chart/model/chart_model.h", "class QCPGraph;\n"},
                              {"src/viewer/e.h", "class QCustomPlot;\n"}};
     EXPECT_THAT(BibliothequesHorsDeLeurPlace(sources),
                 ElementsAre("src/app/a.cpp names QMessageBox", "src/app/b.cpp names QMessageBox",
+                            "src/chart/model/chart_model.h names qcustomplot.h",
                             "src/logger/c.cpp names unistd.h", "src/shell/d.h names pugixml.hpp",
-                            "src/viewer/chart_model.h names qcustomplot.h",
                             "src/viewer/e.h names qcustomplot.h"));
 }
 
 TEST(Bibliotheques, AreAtHomeInTheirPlace) {
-    const Sources sources = {{"src/platform/dialogs.cpp", "#include <QMessageBox>\n"},
+    const Sources sources = {{"src/widgets/toolkit_dialogs.cpp", "#include <QMessageBox>\n"},
                              {"src/platform/a.cpp", "#include <sys/stat.h>\n"},
-                             {"src/shell/config_store_x.cpp", "pugi::xml_document d;\n"},
-                             {"src/viewer/chart_template.cpp", "pugi::xml_document d;\n"},
-                             {"src/viewer/chart_view_zoom.h", "class QCustomPlot;\n"}};
+                             {"src/settings/config_store_x.cpp", "pugi::xml_document d;\n"},
+                             {"src/chart/model/chart_template.cpp", "pugi::xml_document d;\n"},
+                             {"src/chart/view/chart_view_zoom.h", "class QCustomPlot;\n"}};
     EXPECT_THAT(BibliothequesHorsDeLeurPlace(sources), IsEmpty());
 }
 

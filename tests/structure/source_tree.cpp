@@ -112,14 +112,9 @@ bool Contient(const std::string& texte, const std::string& mot, bool debut) {
     return false;
 }
 
-std::string SujetDe(const std::string& chemin) {
-    const std::string court = chemin.starts_with("src/") ? chemin.substr(4) : chemin;
-    return court.substr(0, court.rfind('.'));
-}
-
 std::string PieceDe(const std::string& chemin) {
-    const std::string sujet = SujetDe(chemin);
-    return sujet.substr(0, sujet.find('/'));
+    const std::string court = chemin.starts_with("src/") ? chemin.substr(4) : chemin;
+    return court.substr(0, court.rfind('/'));
 }
 
 }  // namespace bornika::essai

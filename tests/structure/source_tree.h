@@ -27,10 +27,7 @@ std::vector<std::string> NomsInclus(const std::string& texte);
 /// True when `mot` stands in the text as a word of its own or, with `debut`, as the start of one.
 bool Contient(const std::string& texte, const std::string& mot, bool debut = false);
 
-/// Room of a file: "link" for "src/link/frames.h", "simulator" for what lies there.
+/// Room of a file: "chart/view" for "src/chart/view/chart_view.h", "simulator" for what lies there.
 std::string PieceDe(const std::string& chemin);
-
-/// "link/products" for "src/link/products.h".
-std::string SujetDe(const std::string& chemin);
 
 }  // namespace bornika::essai

@@ -5,14 +5,13 @@
 #include <chrono>
 #include <thread>
 
-#include "usb_kernel/kernel_bench.h"
+#include "usb_kernel/kernel_fixture.h"
 
 namespace bornika::essai {
 namespace {
 
 using Octets = std::vector<std::uint8_t>;
 
-constexpr IdentifiantUsb id = 1001;
 // Command 9 asks for the version, command 8 whether a card is in.
 const Octets versionDemandee = {9, 0, 0, 0, 0, 0, 0, 0};
 const Octets carteDemandee = {8, 0, 0, 0, 0, 0, 0, 0};
@@ -24,13 +23,13 @@ Octets Attendue(const Octets& trame) {
 /// One logger on a port of the kernel, opened as the program does: a handle for each direction.
 class KernelFrames : public testing::Test {
   protected:
-    void Ouvrir(FicheUsb fiche = Fiche(std::to_string(id)), int delai = delaiSansFin) {
+    void Ouvrir(FicheUsb fiche = Fiche(std::to_string(idBranche)), int delai = delaiSansFin) {
         usb = std::make_unique<EnregistreursUsb>(std::vector{Reglage(delai)});
         appareil = std::make_unique<AppareilUsbIp>(std::move(fiche), simulateur::KPod2100(t0));
         appareil->Brancher();
         ASSERT_TRUE(AttendreCompte(*usb, 1));
-        sortie = usb->Ouvrir(id);
-        entree = usb->Ouvrir(id);
+        sortie = usb->Ouvrir(idBranche);
+        entree = usb->Ouvrir(idBranche);
         ASSERT_GT(sortie, 0);
         ASSERT_GT(entree, 0);
     }
@@ -60,7 +59,7 @@ class KernelFrames : public testing::Test {
 };
 
 TEST_F(KernelFrames, GoThroughInterruptEndpointsInSmallPacketsToo) {
-    FicheUsb fiche = Fiche(std::to_string(id));
+    FicheUsb fiche = Fiche(std::to_string(idBranche));
     fiche.interruption = true;
     fiche.paquet = 8;
     fiche.sortie = 0x02;
@@ -82,7 +81,7 @@ TEST_F(KernelFrames, AStalledEndpointIsSetFree) {
 }
 
 TEST_F(KernelFrames, ALateAnswerIsNotTakenForTheNextOne) {
-    ASSERT_NO_FATAL_FAILURE(Ouvrir(Fiche(std::to_string(id)), ReglageUsb::delaiParDefaut));
+    ASSERT_NO_FATAL_FAILURE(Ouvrir(Fiche(std::to_string(idBranche)), ReglageUsb::delaiParDefaut));
     EXPECT_EQ(Echanger(versionDemandee), Attendue(versionDemandee));
     const int avant = appareil->Retraits();
     Ordonner(PanneUsb::retard);
@@ -97,13 +96,13 @@ TEST_F(KernelFrames, AnotherProgramWaitsUntilTheLoggerIsGivenBack) {
     ASSERT_NO_FATAL_FAILURE(Ouvrir());
     EnregistreursUsb autre({Reglage()});
     EXPECT_EQ(autre.Compte(), 1);
-    EXPECT_EQ(autre.Ouvrir(id), -1);
+    EXPECT_EQ(autre.Ouvrir(idBranche), -1);
     EXPECT_EQ(autre.DerniereErreur(), static_cast<std::uint32_t>(EBUSY));
     EXPECT_EQ(Echanger(versionDemandee), Attendue(versionDemandee));
     usb->Fermer(sortie);
-    EXPECT_EQ(autre.Ouvrir(id), -1);
+    EXPECT_EQ(autre.Ouvrir(idBranche), -1);
     usb->Fermer(entree);
-    const PoigneeUsb poignee = autre.Ouvrir(id);
+    const PoigneeUsb poignee = autre.Ouvrir(idBranche);
     EXPECT_GT(poignee, 0);
     autre.Fermer(poignee);
 }

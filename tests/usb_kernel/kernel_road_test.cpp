@@ -5,7 +5,7 @@
 
 #include "logger/parameter_reading.h"
 #include "simulator/device_time.h"
-#include "usb_kernel/kernel_bench.h"
+#include "usb_kernel/kernel_fixture.h"
 
 namespace bornika::essai {
 namespace {
@@ -13,7 +13,6 @@ namespace {
 using simulateur::GenrePanne;
 using simulateur::MesurePeriodique;
 
-constexpr IdentifiantUsb id = 1001;
 constexpr int nombreMesures = 5000;
 // Enough to be pulled out in the middle.
 constexpr int mesuresCourtes = 1000;
@@ -26,7 +25,7 @@ int Points(int rang) {
 simulateur::PtrEnregistreur Prepare(int mesures) {
     auto enregistreur =
         simulateur::Simple(1, 2, 100, simulateur::TempsAppareil(2026, 3, 5, 14, 7, 9));
-    enregistreur->identite.usb = id;
+    enregistreur->identite.usb = idBranche;
     enregistreur->ReglerNumeroSerie(4711);
     enregistreur->ReglerEtalonnage(simulateur::TempsAppareil(2025, 6, 10, 9, 30), 0x31, 100, 104,
                                    900, 904);
@@ -40,11 +39,11 @@ simulateur::PtrEnregistreur Prepare(int mesures) {
 struct CoteReel {
     explicit CoteReel(int mesures, int delai = delaiSansFin)
         : usb({Reglage(delai)}),
-          appareil(Fiche(std::to_string(id)), Prepare(mesures)),
-          banc(usb, id) {
+          appareil(Fiche(std::to_string(idBranche)), Prepare(mesures)),
+          banc(usb, idBranche) {
         appareil.Brancher();
         EXPECT_TRUE(AttendreCompte(usb, 1));
-        EXPECT_EQ(usb.Identifiant(0), id);
+        EXPECT_EQ(usb.Identifiant(0), idBranche);
     }
     void Panne(const simulateur::OrdrePanne& panne) {
         appareil.Avec(
@@ -58,7 +57,7 @@ struct CoteReel {
 /// The same logger on the simulated bus.
 struct CoteSimule {
     explicit CoteSimule(int mesures)
-        : enregistreur(bus.Brancher(Prepare(mesures))), banc(bus, id) {}
+        : enregistreur(bus.Brancher(Prepare(mesures))), banc(bus, idBranche) {}
     BusSimule bus;
     EnregistreurSimule& enregistreur;
     BancPoste banc;
@@ -130,9 +129,9 @@ void AttendrePerteEtRetour(CoteReel& reel, CoteSimule& simule) {
     EXPECT_TRUE(AttendreCompte(reel.usb, 0));
 
     reel.appareil.Brancher();
-    simule.bus.Rebrancher(id);
+    simule.bus.Rebrancher(idBranche);
     ASSERT_TRUE(AttendreCompte(reel.usb, 1));
-    EXPECT_EQ(reel.usb.Identifiant(0), id);
+    EXPECT_EQ(reel.usb.Identifiant(0), idBranche);
     reel.banc.Telecharger();
     simule.banc.Telecharger();
     EXPECT_EQ(reel.banc.NombreLignes(), mesuresCourtes - 1);
@@ -144,7 +143,7 @@ TEST(KernelUnplugged, BetweenTwoMeasuresNothingThatHadComeIsLost) {
     CoteReel reel(mesuresCourtes);
     CoteSimule simule(mesuresCourtes);
     reel.banc.AuTour(milieu, [&] { reel.appareil.Detacher(); });
-    simule.banc.AuTour(milieu, [&] { simule.bus.Debrancher(id); });
+    simule.banc.AuTour(milieu, [&] { simule.bus.Debrancher(idBranche); });
     reel.banc.Telecharger();
     simule.banc.Telecharger();
     EXPECT_GE(reel.banc.NombreLignes(), milieu - 1);
@@ -179,8 +178,8 @@ TEST(KernelUnplugged, ALoggerThatIsBackAtOnceIsTakenUpAgain) {
         ASSERT_TRUE(AttendreCompte(reel.usb, 1));
     });
     simule.banc.AuTour(milieu, [&] {
-        simule.bus.Debrancher(id);
-        simule.bus.Rebrancher(id);
+        simule.bus.Debrancher(idBranche);
+        simule.bus.Rebrancher(idBranche);
     });
     reel.banc.Telecharger();
     simule.banc.Telecharger();

@@ -5,9 +5,9 @@
 
 #include "link/connect_form.h"
 #include "link/device_discovery.h"
-#include "link/modal.h"
 #include "ui_connect_form.h"
-#include "usb_kernel/kernel_bench.h"
+#include "usb_kernel/kernel_fixture.h"
+#include "widgets/modal.h"
 
 namespace bornika::essai {
 namespace {

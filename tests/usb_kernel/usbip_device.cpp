@@ -9,12 +9,12 @@
 #include <utility>
 
 #include "usb_kernel/vhci_port.h"
+#include "usb_mock/mock/usb_descriptors.h"
 
 namespace bornika::essai {
 
 namespace {
 
-constexpr std::uint8_t versHote = 0x80;
 constexpr std::uint8_t pointAcces = 2;
 constexpr std::size_t tailleDescripteurAppareil = 18;
 
@@ -22,13 +22,11 @@ constexpr std::size_t tailleDescripteurAppareil = 18;
 constexpr std::uint8_t lireEtat = 0;
 constexpr std::uint8_t leverDrapeau = 1;
 constexpr std::uint8_t poserDrapeau = 3;
-constexpr std::uint8_t lireDescripteur = 6;
 constexpr std::uint8_t choisirConfiguration = 9;
 constexpr std::uint8_t choisirVariante = 11;
 
 constexpr std::uint8_t descripteurAppareil = 1;
 constexpr std::uint8_t descripteurConfiguration = 2;
-constexpr std::uint8_t descripteurTexte = 3;
 
 }  // namespace
 

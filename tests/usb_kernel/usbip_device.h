@@ -4,8 +4,8 @@
 #include <mutex>
 #include <thread>
 
-#include "usb/mock/usb_device.h"
 #include "usb_kernel/usbip_messages.h"
+#include "usb_mock/mock/usb_device.h"
 
 namespace bornika::essai {
 

@@ -17,7 +17,7 @@ constexpr std::uint32_t codeTransfert = 1;
 constexpr std::uint32_t codeRetrait = 2;
 constexpr std::uint32_t codeTransfertRendu = 3;
 constexpr std::uint32_t codeRetraitRendu = 4;
-constexpr std::uint32_t versHote = 1;
+constexpr std::uint32_t sensVersHote = 1;
 
 constexpr std::size_t ouCode = 0;
 constexpr std::size_t ouNumero = 4;
@@ -75,7 +75,7 @@ std::optional<MessageUsbIp> RecevoirUsbIp(int prise) {
             return message;
         case codeTransfert:
             message.point = Mot(entete, ouPoint);
-            message.entree = Mot(entete, ouDirection) == versHote;
+            message.entree = Mot(entete, ouDirection) == sensVersHote;
             message.longueur = Mot(entete, ouLongueur);
             break;
         default:

@@ -16,7 +16,7 @@ constexpr int portLibre = 4;
 constexpr int pleineVitesse = 2;
 // Any number above 0 does: bus and address of the device where it really is.
 constexpr int numeroAppareil = 0x10001;
-constexpr std::chrono::seconds patience{60};
+constexpr std::chrono::seconds patienceBranchement{60};
 
 // Runs `voir` with port and state of each port of the hub for low, full and high speed.
 template <typename Regard>
@@ -58,7 +58,7 @@ void DetacherDuControleur(int port) {
 }
 
 void AttendrePortLibre(int port) {
-    const auto fin = std::chrono::steady_clock::now() + patience;
+    const auto fin = std::chrono::steady_clock::now() + patienceBranchement;
     bool libre = false;
     while (!libre) {
         ParcourirPorts([&](int lequel, int etat) {

@@ -5,9 +5,9 @@
 #include <QClipboard>
 #include <QMenu>
 
-#include "viewer/chart_picture.h"
+#include "chart/view/chart_picture.h"
 #include "viewer/paper_reader.h"
-#include "viewer/viewer_bench.h"
+#include "viewer/viewer_fixture.h"
 
 namespace bornika {
 namespace {

@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "platform/guard.h"
-#include "platform/pointer_shape.h"
-#include "viewer/viewer_bench.h"
+#include "viewer/viewer_fixture.h"
+#include "widgets/pointer_shape.h"
 
 namespace bornika {
 namespace {

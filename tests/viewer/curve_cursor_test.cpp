@@ -1,7 +1,7 @@
 #include "viewer/curve_cursor.h"
 
+#include "platform/dates.h"
 #include "platform/format_pattern.h"
-#include "shell/dates.h"
 #include "viewer/reading_scene.h"
 
 namespace bornika {

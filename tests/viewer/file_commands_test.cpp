@@ -4,7 +4,7 @@
 
 #include <QPointer>
 
-#include "viewer/viewer_bench.h"
+#include "viewer/viewer_fixture.h"
 
 namespace bornika {
 namespace {

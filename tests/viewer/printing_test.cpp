@@ -2,10 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/print_preview.h"
 #include "viewer/network_day.h"
 #include "viewer/paper_reader.h"
-#include "viewer/viewer_bench.h"
+#include "viewer/viewer_fixture.h"
+#include "widgets/print_preview.h"
 
 namespace bornika {
 namespace {

@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "chart/model/chart_model.h"
 #include "platform/fault.h"
-#include "viewer/chart_model.h"
 
 namespace bornika {
 namespace {

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "platform/pointer_shape.h"
-#include "viewer/viewer_bench.h"
+#include "viewer/viewer_fixture.h"
+#include "widgets/pointer_shape.h"
 
 namespace bornika {
 namespace {

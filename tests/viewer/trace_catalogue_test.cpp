@@ -2,7 +2,7 @@
 
 #include "shell/captions.h"
 #include "viewer/trace_captions.h"
-#include "viewer/viewer_bench.h"
+#include "viewer/viewer_fixture.h"
 
 namespace bornika {
 namespace {

@@ -3,7 +3,7 @@
 #include <QGroupBox>
 
 #include "viewer/network_day.h"
-#include "viewer/viewer_bench.h"
+#include "viewer/viewer_fixture.h"
 
 namespace bornika {
 namespace {

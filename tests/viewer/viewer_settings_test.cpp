@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "viewer/viewer_bench.h"
+#include "viewer/viewer_fixture.h"
 
 namespace bornika {
 namespace {

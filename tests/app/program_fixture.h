@@ -1,0 +1,82 @@
+#pragma once
+
+#include <QApplication>
+#include <QDialog>
+#include <QListWidget>
+#include <QTest>
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "app/program.h"
+#include "simulator/presets.h"
+#include "simulator/simulated_bus.h"
+#include "support/fake_system.h"
+#include "ui_main_screen.h"
+#include "widgets/modal.h"
+
+namespace bornika::essai {
+
+/// Device seconds of the fixed clock of `HorlogeFigee`: 5 March 2026, 14:07:09.
+inline constexpr std::uint32_t maintenantSimule = 1772719629;
+
+/// Name of a recording that is made at that moment.
+inline const QString nomSelonHorloge = QStringLiteral("2026-03-05-14-07-09");
+
+/// The whole program on simulated loggers, off-screen, in a folder of its own.
+class BancProgramme {
+  public:
+    BancProgramme() {
+        ReglerMontreur([this](QDialog& dialogue) {
+            montres.push_back(QString::fromLatin1(dialogue.metaObject()->className()));
+            dialogue.show();
+            if (main) main(dialogue);
+            dialogue.hide();
+        });
+    }
+    ~BancProgramme() {
+        programme.reset();
+        ReglerMontreur({});
+    }
+
+    MainScreen& ecran() { return programme->ecran; }
+    Ui::MainScreen& ui() { return *programme->ecran.ui; }
+
+    void Construire() {
+        programme = std::make_unique<Programme>(etabli.systeme,
+                                                [this](int etat) { sorties.push_back(etat); });
+    }
+    /// Makes the program and runs its Load; the list's line is chosen with a real click (-1: none).
+    bool Demarrer(int ligne = 0) {
+        if (ligne >= 0) main = [ligne](QDialog& dialogue) { ChoisirLigne(dialogue, ligne); };
+        Construire();
+        const bool demarre = programme->Demarrer();
+        // The form is on the screen and active before anybody clicks.
+        QCoreApplication::processEvents();
+        return demarre;
+    }
+    /// A real click on a line of the list of loggers.
+    static void ChoisirLigne(QDialog& dialogue, int ligne) {
+        auto* liste = dialogue.findChild<QListWidget*>(QStringLiteral("Listekrow"));
+        if (liste == nullptr || ligne >= liste->count()) return;
+        QTest::mouseClick(liste->viewport(), Qt::LeftButton, Qt::NoModifier,
+                          liste->visualItemRect(liste->item(ligne)).center());
+    }
+    /// Near the left edge: an option or a check box answers only over its mark and its text.
+    static void Cliquer(QWidget* bouton) {
+        QTest::mouseClick(bouton, Qt::LeftButton, Qt::NoModifier,
+                          QPoint(qMin(8, bouton->width() / 2), bouton->height() / 2));
+    }
+
+    BusSimule bus;
+    Etabli etabli{&bus};
+    /// Class names of the dialogs shown, in order.
+    QStringList montres;
+    /// The hand that meets each dialog.
+    std::function<void(QDialog&)> main;
+    /// Exit statuses of general failures; the process is not left.
+    std::vector<int> sorties;
+    std::unique_ptr<Programme> programme;
+};
+
+}  // namespace bornika::essai
