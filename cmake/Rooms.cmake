@@ -24,6 +24,28 @@ function(bornika_options target)
     endif()
 endfunction()
 
+# bornika_precompiled(target kind): in a jumbo build the target reads the headers of
+# cmake/precompiled/<kind>.h from one file that was made once.
+function(bornika_precompiled target kind)
+    if(NOT CMAKE_UNITY_BUILD)
+        return()
+    endif()
+    set(headers bornika_${kind}_headers)
+    if(NOT TARGET ${headers})
+        add_library(${headers} STATIC ${PROJECT_SOURCE_DIR}/cmake/precompiled/${kind}.cpp)
+        set_target_properties(${headers} PROPERTIES AUTOMOC OFF AUTORCC OFF UNITY_BUILD OFF)
+        target_link_libraries(${headers} PRIVATE Qt6::Widgets)
+        if(kind STREQUAL tests)
+            # Not QtTest, whose definitions differ from one test program to the next.
+            target_link_libraries(${headers} PRIVATE GTest::gmock)
+        endif()
+        bornika_options(${headers})
+        target_precompile_headers(${headers}
+            PRIVATE ${PROJECT_SOURCE_DIR}/cmake/precompiled/${kind}.h)
+    endif()
+    target_precompile_headers(${target} REUSE_FROM ${headers})
+endfunction()
+
 # bornika_room(name [CORE] SOURCES ... LINKS ... [PRIVATE_LINKS ...]): the library bornika_<name>. With
 # CORE it knows no widget.
 function(bornika_room name)
@@ -46,6 +68,9 @@ function(bornika_room name)
             PUBLIC ${CMAKE_CURRENT_BINARY_DIR}/bornika_${name}_autogen/include)
     endif()
     bornika_options(bornika_${name})
+    if(NOT ROOM_CORE)
+        bornika_precompiled(bornika_${name} toolkit)
+    endif()
 endfunction()
 
 # bornika_test(name SOURCES ... LINKS ...): the program test_<name>, each of its tests known to ctest.
@@ -55,6 +80,7 @@ function(bornika_test name)
     target_link_libraries(test_${name} PRIVATE bornika_test_support GTest::gmock Qt6::Test
                                                ${TEST_LINKS})
     bornika_options(test_${name})
+    bornika_precompiled(test_${name} tests)
     include(GoogleTest)
     gtest_discover_tests(test_${name} TEST_PREFIX "${name}." DISCOVERY_TIMEOUT 120
         PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8" TIMEOUT 300)
