@@ -41,6 +41,8 @@ class MainScreen : public QMainWindow {
     QString Texte(const QString& cle);
     /// The same with a default of its own, for captions and help texts.
     QString Texte(const QString& cle, const QString& defaut);
+    /// The same in a language of its own.
+    QString TexteEn(const QString& langue, const QString& cle, const QString& defaut);
     /// Text of `ListeLangues`.
     QString Langue() const;
 
