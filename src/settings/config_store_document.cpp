@@ -28,6 +28,7 @@ QByteArrayView Rogner(QByteArrayView texte) {
     return texte;
 }
 
+// `CasseRepliee` of a plain letter.
 constexpr char Haute(char c) {
     return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
 }
@@ -73,10 +74,14 @@ struct Ecrivain : pugi::xml_writer {
 
 }  // namespace
 
+QString CasseRepliee(const QString& texte) {
+    return texte.toUpper();
+}
+
 CleRecherche::CleRecherche(const QString& texte, bool rogner) {
     const QByteArray utf8 = texte.toUtf8();
     const QByteArrayView utile = rogner ? Rogner(utf8) : QByteArrayView(utf8);
-    haute_ = QString::fromUtf8(utile).toUpper();
+    haute_ = CasseRepliee(QString::fromUtf8(utile));
     octets_ = haute_.toUtf8();
 }
 
@@ -85,7 +90,7 @@ bool CleRecherche::EgaleNom(QByteArrayView texte) const {
     for (qsizetype i = 0; i < commun; ++i) {
         if (Haute(texte[i]) == octets_[i]) continue;
         // A plain letter differs for good; another one only once it is in upper case.
-        return !EstAscii(texte[i]) && QString::fromUtf8(texte).toUpper() == haute_;
+        return !EstAscii(texte[i]) && CasseRepliee(QString::fromUtf8(texte)) == haute_;
     }
     return texte.size() == octets_.size();
 }
