@@ -1,11 +1,9 @@
 #pragma once
 
 #include <QDialog>
-#include <QTimer>
 #include <memory>
-#include <set>
 
-#include "link/connect_hint.h"
+#include "link/list_watch.h"
 #include "link/station.h"
 
 namespace Ui {
@@ -29,18 +27,7 @@ class frmConnect : public QDialog {
 
     std::unique_ptr<Ui::frmConnect> ui;
     Poste& poste;
-    /// The list is being rebuilt: a change of it is no choice.
-    bool Chargement = false;
-    /// Number of loggers attached when the list was built.
-    int NbDevices = 0;
-    /// Their identifiers.
-    std::set<IdentifiantUsb> Branches;
-    /// Identifier that was current when the form was loaded, 0 for none: its line is preselected.
-    IdentifiantUsb AncienID = 0;
-    /// The hint below the list.
-    Indication Indiquee = Indication::AucunBranche;
-    /// Looks once a second whether loggers came or went.
-    QTimer Veille;
+    VeilleListe Veille;
 
   protected:
     bool eventFilter(QObject* objet, QEvent* evenement) override;
