@@ -5,6 +5,7 @@
 
 #include "link/list_watch.h"
 #include "link/station.h"
+#include "widgets/own_form.h"
 
 namespace Ui {
 class frmConnect;
@@ -14,7 +15,7 @@ namespace bornika {
 
 /// The list of the loggers attached now. A click on a line, or Enter, chooses that logger. While it
 /// stands open it follows what is plugged in and pulled out.
-class frmConnect : public QDialog {
+class frmConnect : public QDialog, public FicheDuProgramme {
     Q_OBJECT
   public:
     /// Ties the controls to the operations of device_discovery.h; `Charger` fills the form.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <map>
+#include <regex>
 #include <set>
 
 namespace bornika::essai {
@@ -137,6 +138,22 @@ Manquements BibliothequesHorsDeLeurPlace(const Sources& sources) {
             if (!CommenceParUn(chemin, reserve.places) && Nomme(reserve, inclus, nu))
                 manquements.push_back(chemin + " names " + reserve.inclus.front());
         }
+    }
+    return manquements;
+}
+
+Manquements FichesSansMarque(const Sources& sources) {
+    static const std::regex classe("<class>([^<]+)</class>");
+    Manquements manquements;
+    for (const auto& [chemin, texte] : sources) {
+        std::smatch trouvee;
+        if (!chemin.ends_with(".ui") || !std::regex_search(texte, trouvee, classe)) continue;
+        const auto enTete = sources.find(chemin.substr(0, chemin.size() - 2) + "h");
+        const std::regex marquee("class " + trouvee[1].str() +
+                                 " : public \\w+, public FicheDuProgramme \\{");
+        if (enTete == sources.end() ||
+            !std::regex_search(SansCommentaires(enTete->second), marquee))
+            manquements.push_back(chemin + " draws a form without the mark of one");
     }
     return manquements;
 }

@@ -21,6 +21,9 @@ Manquements Cercles(const Sources& sources);
 /// operating system are named in their one place only.
 Manquements BibliothequesHorsDeLeurPlace(const Sources& sources);
 
+/// Every form that a ".ui" file draws is marked as one of this program, in the header beside it.
+Manquements FichesSansMarque(const Sources& sources);
+
 /// No header opens a namespace for those who include it.
 Manquements EspacesOuverts(const Sources& sources);
 
