@@ -1,12 +1,12 @@
 #include "settings/config_store_document.h"
 
-#include <QFile>
 #include <string>
 
 #include "platform/atomic_file.h"
 #include "platform/code_page.h"
 #include "platform/fault.h"
 #include "platform/named_fault.h"
+#include "platform/whole_file.h"
 
 namespace bornika {
 
@@ -115,9 +115,7 @@ DocumentConfiguration::Codage DocumentConfiguration::Reconnaitre(QByteArrayView 
 
 pugi::xml_node DocumentConfiguration::Charger(const QString& chemin) {
     ++chargements_;
-    QFile fichier(chemin);
-    QByteArray lus;
-    if (fichier.open(QIODevice::ReadOnly)) lus = fichier.readAll();
+    QByteArray lus = LireTout(chemin).value_or(QByteArray());
     if (!changee_ && chemin == chemin_ && lus == lus_ && document_.document_element())
         return document_.document_element();
     chemin_ = chemin;

@@ -141,6 +141,17 @@ TEST(Bibliotheques, AreAtHomeInTheirPlace) {
     EXPECT_THAT(BibliothequesHorsDeLeurPlace(sources), IsEmpty());
 }
 
+TEST(Bibliotheques, AreToldApartFromLongerNamesWhereAWholeOneIsMeant) {
+    const Sources sources = {{"src/app/a.cpp", "#include <QFileInfo>\nQFileInfo info;\n"},
+                             {"src/logger/b.cpp", "void f() { QFile fichier; }"},
+                             {"src/logger/c.cpp", "#include <QFile>\n"},
+                             {"src/shell/d.cpp", "std::ofstream sortie;\n"},
+                             {"src/platform/e.cpp", "#include <QFile>\nQFile f;\n"}};
+    EXPECT_THAT(BibliothequesHorsDeLeurPlace(sources),
+                ElementsAre("src/logger/b.cpp names QFile", "src/logger/c.cpp names QFile",
+                            "src/shell/d.cpp names QFile"));
+}
+
 TEST(Bibliotheques, MayBeSpokenOf) {
     const Sources sources = {
         {"src/app/a.cpp",
