@@ -20,7 +20,7 @@ constexpr bool EstBlanc(char c) {
     return c == ' ' || c == '\t' || c == '\r' || c == '\n';
 }
 
-QByteArrayView Rogner(QByteArrayView texte) {
+QByteArrayView RognerBlancs(QByteArrayView texte) {
     while (!texte.isEmpty() && EstBlanc(texte.front()))
         texte = texte.sliced(1);
     while (!texte.isEmpty() && EstBlanc(texte.back()))
@@ -48,10 +48,10 @@ const char* TexteSimple(pugi::xml_node element) {
     return EstTexte(premier) && !premier.next_sibling() ? premier.value() : nullptr;
 }
 
-void Joindre(pugi::xml_node element, QByteArray& texte) {
+void JoindreTextes(pugi::xml_node element, QByteArray& texte) {
     for (const pugi::xml_node noeud : element.children()) {
         if (EstTexte(noeud)) texte += noeud.value();
-        if (noeud.type() == pugi::node_element) Joindre(noeud, texte);
+        if (noeud.type() == pugi::node_element) JoindreTextes(noeud, texte);
     }
 }
 
@@ -60,7 +60,7 @@ bool BienForme(const pugi::xml_document& document) {
     int racines = 0;
     for (const pugi::xml_node noeud : document.children()) {
         if (noeud.type() == pugi::node_element) ++racines;
-        if (EstTexte(noeud) && !Rogner(noeud.value()).isEmpty()) return false;
+        if (EstTexte(noeud) && !RognerBlancs(noeud.value()).isEmpty()) return false;
     }
     return racines == 1;
 }
@@ -80,7 +80,7 @@ QString CasseRepliee(const QString& texte) {
 
 CleRecherche::CleRecherche(const QString& texte, bool rogner) {
     const QByteArray utf8 = texte.toUtf8();
-    const QByteArrayView utile = rogner ? Rogner(utf8) : QByteArrayView(utf8);
+    const QByteArrayView utile = rogner ? RognerBlancs(utf8) : QByteArrayView(utf8);
     haute_ = CasseRepliee(QString::fromUtf8(utile));
     octets_ = haute_.toUtf8();
 }
@@ -96,7 +96,7 @@ bool CleRecherche::EgaleNom(QByteArrayView texte) const {
 }
 
 bool CleRecherche::EgaleRognee(QByteArrayView texte) const {
-    return EgaleNom(Rogner(texte));
+    return EgaleNom(RognerBlancs(texte));
 }
 
 DocumentConfiguration::Codage DocumentConfiguration::Reconnaitre(QByteArrayView octets) {
@@ -194,7 +194,7 @@ pugi::xml_node EnfantA(pugi::xml_node parent, int position) {
 QString TexteElement(pugi::xml_node element) {
     if (const char* texte = TexteSimple(element)) return QString::fromUtf8(texte);
     QByteArray texte;
-    Joindre(element, texte);
+    JoindreTextes(element, texte);
     return QString::fromUtf8(texte);
 }
 
@@ -207,7 +207,7 @@ void FixerTexte(pugi::xml_node element, const QString& texte) {
 bool CleEgale(pugi::xml_node element, const CleRecherche& cle) {
     if (const char* texte = TexteSimple(element)) return cle.EgaleRognee(texte);
     QByteArray texte;
-    Joindre(element, texte);
+    JoindreTextes(element, texte);
     return cle.EgaleRognee(texte);
 }
 
