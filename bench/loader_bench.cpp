@@ -19,6 +19,7 @@
 #include <vector>
 
 #include "app/viewer_events.h"
+#include "bench/bench_main.h"
 #include "bench/recording_sample.h"
 #include "chart/model/chart_model.h"
 #include "chart/model/loader_form.h"
@@ -294,11 +295,9 @@ int MontrerCroissance(const QString& chemin) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    banc::AllerHorsEcran();
     QApplication application(argc, argv);
     if (argc == 3 && std::strcmp(argv[1], "--growth") == 0)
         return MontrerCroissance(QString::fromLocal8Bit(argv[2]));
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return banc::Mesurer(argc, argv);
 }

@@ -65,5 +65,3 @@ BENCHMARK(Lissage)
     ->Unit(benchmark::kMillisecond);
 
 }  // namespace
-
-BENCHMARK_MAIN();

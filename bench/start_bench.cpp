@@ -16,6 +16,7 @@
 
 #include "app/application.h"
 #include "app/program.h"
+#include "bench_main.h"
 #include "platform/guard.h"
 #include "platform/no_loggers.h"
 #include "widgets/toolkit_dialogs.h"
@@ -93,11 +94,9 @@ BENCHMARK(Demarrage)->UseManualTime()->Iterations(30)->Unit(benchmark::kMillisec
 }  // namespace
 
 int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    banc::AllerHorsEcran();
     if (argc > 1 && std::strcmp(argv[1], "--empty") == 0) return FenetreVide(argc, argv);
     if (argc > 1 && std::strcmp(argv[1], "--program") == 0) return ProgrammeEntier(argc, argv);
     QCoreApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return banc::Mesurer(argc, argv);
 }

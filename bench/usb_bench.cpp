@@ -11,6 +11,7 @@
 #include <cstdlib>
 #include <limits>
 
+#include "bench_main.h"
 #include "link/multi_usb.h"
 #include "shell/main_screen.h"
 #include "silent_dialogs.h"
@@ -122,9 +123,7 @@ int main(int argc, char** argv) {
         std::puts("There is no mock environment. Run this under umockdev-wrapper.");
         return 77;
     }
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    banc::AllerHorsEcran();
     QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return banc::Mesurer(argc, argv);
 }

@@ -46,6 +46,19 @@ function(bornika_precompiled target kind)
     target_precompile_headers(${target} REUSE_FROM ${headers})
 endfunction()
 
+# A room's form compiler looks at the files that have a form of their own name: the others may include
+# forms that another room has made.
+function(bornika_skip_foreign_forms)
+    foreach(source IN LISTS ARGN)
+        if(source MATCHES "[.]cpp$")
+            string(REGEX REPLACE "[.]cpp$" ".ui" form ${source})
+            if(NOT form IN_LIST ARGN)
+                set_source_files_properties(${source} PROPERTIES SKIP_AUTOUIC ON)
+            endif()
+        endif()
+    endforeach()
+endfunction()
+
 # bornika_room(name [CORE] SOURCES ... LINKS ... [PRIVATE_LINKS ...]): the library bornika_<name>. With
 # CORE it knows no widget.
 function(bornika_room name)
@@ -63,6 +76,7 @@ function(bornika_room name)
     target_compile_options(bornika_${name} PRIVATE -Wconversion)
     # Only a room that holds forms runs the form compiler; the others include what it has made.
     if(ROOM_SOURCES MATCHES "[.]ui(;|$)")
+        bornika_skip_foreign_forms(${ROOM_SOURCES})
         set_target_properties(bornika_${name} PROPERTIES AUTOUIC ON)
         target_include_directories(bornika_${name}
             PUBLIC ${CMAKE_CURRENT_BINARY_DIR}/bornika_${name}_autogen/include)

@@ -8,6 +8,7 @@
 #include "service/splash_form.h"
 #include "shell/main_screen.h"
 #include "shell/window_width.h"
+#include "widgets/own_form.h"
 
 namespace bornika {
 
@@ -15,12 +16,7 @@ namespace {
 
 constexpr int dureeSplash = 2000;  // milliseconds
 
-// The program's own forms all live in its namespace; boxes and common dialogs are the toolkit's.
-bool EstFiche(const QWidget& fenetre) {
-    return QByteArray(fenetre.metaObject()->className()).startsWith("bornika::");
-}
-
-QWidget* FicheDe(const QWindow* fenetre) {
+QWidget* FenetreDe(const QWindow* fenetre) {
     for (QWidget* candidate : QApplication::topLevelWidgets())
         if (candidate->windowHandle() == fenetre) return candidate;
     return nullptr;
@@ -55,12 +51,12 @@ SuiviActivation::SuiviActivation(QWidget& principale, std::function<void()> acti
     : principale_(principale), activer_(std::move(activer)) {
     connect(qApp, &QGuiApplication::focusWindowChanged, this, [this](QWindow* fenetre) {
         if (fenetre == nullptr) return;
-        if (QWidget* fiche = FicheDe(fenetre)) garder([&] { FenetreActive(fiche); });
+        if (QWidget* fiche = FenetreDe(fenetre)) garder([&] { FenetreActive(fiche); });
     });
 }
 
 void SuiviActivation::FenetreActive(QWidget* fenetre) {
-    if (!EstFiche(*fenetre)) return;
+    if (!EstFicheDuProgramme(*fenetre)) return;
     const bool revient = !dejaActivee_ || derniereFiche_ != fenetre;
     derniereFiche_ = fenetre;
     if (fenetre != &principale_) return;

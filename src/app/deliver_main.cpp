@@ -1,10 +1,10 @@
 #include <QCoreApplication>
 #include <QDir>
-#include <QFile>
 #include <cstdio>
 
 #include "platform/atomic_file.h"
 #include "platform/fault.h"
+#include "platform/whole_file.h"
 #include "settings/config_store_merge.h"
 
 // Build step: puts the delivered files beside the programs. A "config.xml" that a program has used
@@ -13,26 +13,25 @@
 
 namespace {
 
-QByteArray Contenu(const QString& chemin) {
-    QFile fichier(chemin);
-    return fichier.open(QIODevice::ReadOnly) ? fichier.readAll() : QByteArray();
+QByteArray ContenuOuRien(const QString& chemin) {
+    return bornika::LireTout(chemin).value_or(QByteArray());
 }
 
-void Livrer(const QDir& source, const QDir& cible) {
+void LivrerFichiers(const QDir& source, const QDir& cible) {
     const QString configuration = QStringLiteral("config.xml");
     const QString chemin = cible.filePath(configuration);
-    const QByteArray livree = Contenu(source.filePath(configuration));
-    if (!QFile::exists(chemin)) {
+    const QByteArray livree = ContenuOuRien(source.filePath(configuration));
+    if (!bornika::FichierExiste(chemin)) {
         bornika::RemplacerFichier(chemin, livree);
     } else {
-        const QByteArray utilisee = Contenu(chemin);
+        const QByteArray utilisee = ContenuOuRien(chemin);
         const QByteArray fusion = bornika::FusionnerConfiguration(utilisee, livree);
         if (fusion != utilisee) bornika::RemplacerFichier(chemin, fusion);
     }
     // The template is only ever read: one that a person has changed stays as it is.
     const QString modele = QStringLiteral("BORNIKA.TEE");
-    if (!QFile::exists(cible.filePath(modele)))
-        bornika::RemplacerFichier(cible.filePath(modele), Contenu(source.filePath(modele)));
+    if (!bornika::FichierExiste(cible.filePath(modele)))
+        bornika::RemplacerFichier(cible.filePath(modele), ContenuOuRien(source.filePath(modele)));
 }
 
 }  // namespace
@@ -44,7 +43,8 @@ int main(int argc, char** argv) {
         return 2;
     }
     try {
-        Livrer(QDir(QString::fromLocal8Bit(argv[1])), QDir(QString::fromLocal8Bit(argv[2])));
+        LivrerFichiers(QDir(QString::fromLocal8Bit(argv[1])),
+                       QDir(QString::fromLocal8Bit(argv[2])));
     } catch (const bornika::FauteExecution& faute) {
         std::fprintf(stderr, "bornika-deliver: %s\n", faute.what());
         return 1;

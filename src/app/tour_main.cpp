@@ -1,5 +1,4 @@
 #include <QDir>
-#include <QFile>
 #include <QLoggingCategory>
 #include <cstdio>
 
@@ -8,28 +7,29 @@
 #include "app/tour.h"
 #include "platform/program_folder.h"
 #include "platform/system.h"
+#include "platform/whole_file.h"
 #include "widgets/toolkit_dialogs.h"
 
 namespace {
 
 using namespace bornika;
 
-void Dire(const QString& ligne) {
+void DireLigne(const QString& ligne) {
     std::printf("%s\n", qUtf8Printable(ligne));
     std::fflush(stdout);
 }
 
 // A new folder beside the program, named after the present time, with a configuration of its own:
 // the tour leaves everything else as it was.
-QString FaireDossier(Horloge& horloge) {
+QString FaireDossierVisite(Horloge& horloge) {
     const QDir programme(DossierProgramme());
     const QString nom = QStringLiteral("tour-") +
                         horloge.Maintenant().toString(QStringLiteral("yyyy-MM-dd-HH-mm-ss"));
     if (!programme.mkpath(nom)) return {};
     const QString dossier = programme.filePath(nom);
     for (const char* fichier : {"config.xml", "BORNIKA.TEE"})
-        QFile::copy(programme.filePath(QLatin1String(fichier)),
-                    QDir(dossier).filePath(QLatin1String(fichier)));
+        CopierFichier(programme.filePath(QLatin1String(fichier)),
+                      QDir(dossier).filePath(QLatin1String(fichier)));
     return dossier;
 }
 
@@ -48,13 +48,13 @@ int main(int argc, char** argv) {
     DialoguesQt dialogues;
     Respiration respiration;
     const std::unique_ptr<BusSimule> usb = BusDeDemonstration(horloge, Allure::CelleDuCable);
-    const QString dossier = FaireDossier(horloge);
+    const QString dossier = FaireDossierVisite(horloge);
     if (dossier.isEmpty()) {
-        Dire(QStringLiteral("Cannot make a folder beside the program."));
+        DireLigne(QStringLiteral("Cannot make a folder beside the program."));
         return 1;
     }
     Systeme systeme{horloge, dialogues, *usb, respiration, Regional::DuSysteme(), dossier};
-    const bool bien = FaireVisite(systeme, Dire);
-    Dire(QStringLiteral("The recording and the pictures are in ") + dossier);
+    const bool bien = FaireVisite(systeme, DireLigne);
+    DireLigne(QStringLiteral("The recording and the pictures are in ") + dossier);
     return bien ? 0 : 1;
 }

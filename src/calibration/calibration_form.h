@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "link/station.h"
+#include "widgets/own_form.h"
 
 class QLabel;
 class QLineEdit;
@@ -29,7 +30,7 @@ struct RangeePoint {
 };
 
 /// The form of the calibration: its controls and which point is being taken.
-class Etalonnage : public QDialog {
+class Etalonnage : public QDialog, public FicheDuProgramme {
     Q_OBJECT
   public:
     /// Ties the controls to the operations of calibration.h.

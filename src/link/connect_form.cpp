@@ -11,8 +11,6 @@ namespace bornika {
 
 namespace {
 
-constexpr int periodeVeille = 1000;  // milliseconds
-
 bool EstValidation(const QEvent& evenement) {
     if (evenement.type() != QEvent::KeyPress) return false;
     const int touche = static_cast<const QKeyEvent&>(evenement).key();
@@ -28,23 +26,22 @@ frmConnect::frmConnect(Poste& lePoste, QWidget* parent)
     brancher(ui->Listekrow, &QListWidget::itemClicked, this, [this] { Listekrow_Click(*this); });
     brancher(ui->ExitEtalonnage, &QPushButton::clicked, this,
              [this] { ExitEtalonnage_Click(*this); });
-    brancher(&Veille, &QTimer::timeout, this, [this] { Veiller(*this); });
-    Veille.setInterval(periodeVeille);
+    brancher(&Veille.Minuterie(), &QTimer::timeout, this, [this] { Veiller(*this); });
     ui->Listekrow->installEventFilter(this);
 }
 
 frmConnect::~frmConnect() = default;
 
 void frmConnect::Charger() {
-    Chargement = true;
-    setWindowTitle(poste.ecran.Texte(QStringLiteral("mnuconnect")));
-    FixerCaption(*ui->ViewAll, poste.ecran.Texte(QStringLiteral("View All")));
-    FixerCaption(*ui->ExitEtalonnage, poste.ecran.Texte(QStringLiteral("Cancel")));
-    ui->ViewAll->setChecked(false);
-    AncienID = poste.ecran.etat.UsbID;
-    Enumere(*this, false);
-    Chargement = false;
-    Veille.start();
+    Veille.Batir([this] {
+        setWindowTitle(poste.ecran.Texte(QStringLiteral("mnuconnect")));
+        FixerCaption(*ui->ViewAll, poste.ecran.Texte(QStringLiteral("View All")));
+        FixerCaption(*ui->ExitEtalonnage, poste.ecran.Texte(QStringLiteral("Cancel")));
+        ui->ViewAll->setChecked(false);
+        Veille.RetenirChoix(poste.ecran.etat.UsbID);
+        Enumere(*this, false);
+    });
+    Veille.Commencer();
 }
 
 bool frmConnect::eventFilter(QObject* objet, QEvent* evenement) {

@@ -8,12 +8,12 @@ namespace bornika {
 namespace {
 
 EtatListe EtatDe(const frmConnect& fiche) {
-    return {static_cast<int>(fiche.Branches.size()), fiche.ui->Listekrow->count(),
+    return {static_cast<int>(fiche.Veille.Branches().size()), fiche.ui->Listekrow->count(),
             fiche.ui->ViewAll->isChecked(), fiche.poste.ecran.systeme.usb.Absence()};
 }
 
 /// The file that the hint sends to; empty for none.
-QString Fichier(const MainScreen& ecran, Indication indication) {
+QString FichierIndique(const MainScreen& ecran, Indication indication) {
     if (indication == Indication::SansReglage || indication == Indication::SansPoints)
         return ecran.configuration.Chemin();
     if (indication == Indication::SansDroits)
@@ -54,11 +54,10 @@ QString CleIndication(Indication indication) {
 
 void AfficherIndication(frmConnect& fiche, bool toujours) {
     const Indication indication = IndicationPour(EtatDe(fiche));
-    if (indication == fiche.Indiquee && !toujours) return;
-    fiche.Indiquee = indication;
+    if (!fiche.Veille.ChangerIndication(indication) && !toujours) return;
     MainScreen& ecran = fiche.poste.ecran;
     QString texte = ecran.Texte(CleIndication(indication));
-    const QString fichier = Fichier(ecran, indication);
+    const QString fichier = FichierIndique(ecran, indication);
     if (!fichier.isEmpty()) texte += u'\n' + fichier;
     fiche.ui->LabelIndication->setText(texte);
 }

@@ -23,11 +23,11 @@ constexpr int longueurIdentite = 6;
 constexpr int roleIdentifiant = Qt::UserRole;
 
 /// The form has to stand in front of the main form once that is there.
-QWidget* Parent(MainScreen& ecran) {
+QWidget* ParentDeListe(MainScreen& ecran) {
     return ecran.isVisible() ? &ecran : nullptr;
 }
 
-bool Drapeau(const MainScreen& ecran) {
+bool DrapeauEdition(const MainScreen& ecran) {
     return DrapeauProduit(ecran.systeme.dossier);
 }
 
@@ -50,11 +50,11 @@ void AjouterLigne(frmConnect& fiche, int index, const QString& numero, Identifia
     if (id == ancienID) fiche.ui->Listekrow->setCurrentItem(ligne);
 }
 
-void Sonder(frmConnect& fiche, int index, bool voirTout, IdentifiantUsb ancienID) {
+void SonderAppareil(frmConnect& fiche, int index, bool voirTout, IdentifiantUsb ancienID) {
     Poste& poste = fiche.poste;
     EtatApplication& etat = poste.ecran.etat;
     etat.UsbID = poste.ecran.systeme.usb.Identifiant(index);
-    fiche.Branches.insert(etat.UsbID);
+    fiche.Veille.NoterBranche(etat.UsbID);
     etat.TimeOut = false;
     poste.ecran.ui->Version->clear();
     QString numero;
@@ -85,11 +85,12 @@ QListWidgetItem* LigneDe(const QListWidget& liste, IdentifiantUsb id) {
 /// Rebuilds the list with the selection that the operator sees. Where there is none, a choice made
 /// earlier is shown again when its logger comes back; one that was only asked last is none. The
 /// toolkit's own current line, which the keyboard starts from, is not a selection.
-void Rebatir(frmConnect& fiche) {
+void RebatirListe(frmConnect& fiche) {
     QListWidget& liste = *fiche.ui->Listekrow;
     const QListWidgetItem* ligne = liste.currentItem();
     const IdentifiantUsb courant = ligne ? IdentifiantDe(*ligne) : 0;
-    const IdentifiantUsb choisi = ligne && ligne->isSelected() ? courant : fiche.AncienID;
+    const IdentifiantUsb choisi =
+        ligne && ligne->isSelected() ? courant : fiche.Veille.ChoixRetenu();
     Enumere(fiche, fiche.ui->ViewAll->isChecked());
     if (QListWidgetItem* retrouvee = LigneDe(liste, choisi))
         liste.setCurrentItem(retrouvee);
@@ -105,13 +106,13 @@ bool EstSousUnAutre(const frmConnect& fiche) {
 }  // namespace
 
 void MontrerConnexion(Poste& poste) {
-    frmConnect fiche(poste, Parent(poste.ecran));
+    frmConnect fiche(poste, ParentDeListe(poste.ecran));
     fiche.Charger();
     MontrerModal(fiche);
 }
 
 void MontrerSelection(Poste& poste) {
-    FormSelection fiche(poste.ecran, Parent(poste.ecran));
+    FormSelection fiche(poste.ecran, ParentDeListe(poste.ecran));
     fiche.Charger();
     MontrerModal(fiche);
 }
@@ -119,13 +120,13 @@ void MontrerSelection(Poste& poste) {
 void Enumere(frmConnect& fiche, bool voirTout) {
     EtatApplication& etat = fiche.poste.ecran.etat;
     fiche.ui->Listekrow->clear();
-    fiche.Branches.clear();
+    fiche.Veille.OublierBranches();
     const int forme = PointeurSouris(fiche);
     FixerPointeurSouris(fiche, pointeur::sablier);
     const IdentifiantUsb ancienID = etat.UsbID;
-    fiche.NbDevices = fiche.poste.ecran.systeme.usb.Compte();
-    for (int i = 0; i < fiche.NbDevices; ++i)
-        Sonder(fiche, i, voirTout, ancienID);
+    fiche.Veille.FixerNombre(fiche.poste.ecran.systeme.usb.Compte());
+    for (int i = 0; i < fiche.Veille.Nombre(); ++i)
+        SonderAppareil(fiche, i, voirTout, ancienID);
     // Without an earlier choice the identifier of the last logger asked stays.
     if (ancienID != 0) etat.UsbID = ancienID;
     FixerPointeurSouris(fiche, forme);
@@ -133,30 +134,26 @@ void Enumere(frmConnect& fiche, bool voirTout) {
 }
 
 void Veiller(frmConnect& fiche) {
-    if (fiche.Chargement || !fiche.Veille.isActive() || EstSousUnAutre(fiche)) return;
-    if (BranchesMaintenant(fiche.poste.ecran.systeme.usb) == fiche.Branches)
+    if (fiche.Veille.EnConstruction() || !fiche.Veille.Active() || EstSousUnAutre(fiche)) return;
+    if (BranchesMaintenant(fiche.poste.ecran.systeme.usb) == fiche.Veille.Branches())
         return AfficherIndication(fiche, false);
-    fiche.Chargement = true;
-    Rebatir(fiche);
-    fiche.Chargement = false;
+    fiche.Veille.Batir([&] { RebatirListe(fiche); });
 }
 
 void ViewAll_Click(frmConnect& fiche) {
-    fiche.Chargement = true;
-    Enumere(fiche, fiche.ui->ViewAll->isChecked());
-    fiche.Chargement = false;
+    fiche.Veille.Batir([&] { Enumere(fiche, fiche.ui->ViewAll->isChecked()); });
 }
 
 void Listekrow_Click(frmConnect& fiche) {
     const QListWidgetItem* ligne = fiche.ui->Listekrow->currentItem();
-    if (!ligne || fiche.ui->ViewAll->isChecked() || fiche.Chargement) return;
+    if (!ligne || fiche.ui->ViewAll->isChecked() || fiche.Veille.EnConstruction()) return;
     Poste& poste = fiche.poste;
     EtatApplication& etat = poste.ecran.etat;
     etat.UsbID = IdentifiantDe(*ligne);
     if (etat.UsbID == 0) return;
-    fiche.Veille.stop();
+    fiche.Veille.Arreter();
     LireIdentite(poste);
-    etat.NomKpod = NomProduit(etat.TypekPod, Drapeau(poste.ecran));
+    etat.NomKpod = NomProduit(etat.TypekPod, DrapeauEdition(poste.ecran));
     etat.Connected = true;
     fiche.accept();
 }
@@ -181,7 +178,7 @@ void LitVersion(Poste& poste, IdentifiantUsb id, bool& estKpod, QString& texte) 
     const Octets r = poste.lien.UsbRead(longueurIdentite, QString(), false, true, QString());
     poste.lien.FermeUSB();
     texte = QStringLiteral("%1 ( %2) %3.%4%5")
-                .arg(NomProduit(r[2], Drapeau(poste.ecran)))
+                .arg(NomProduit(r[2], DrapeauEdition(poste.ecran)))
                 .arg(r[2])
                 .arg(r[1])
                 .arg(r[4])

@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "shell/main_screen.h"
+#include "widgets/own_form.h"
 
 namespace Ui {
 class FormSelection;
@@ -12,7 +13,7 @@ class FormSelection;
 namespace bornika {
 
 /// Names the product by hand when no logger was chosen.
-class FormSelection : public QDialog {
+class FormSelection : public QDialog, public FicheDuProgramme {
     Q_OBJECT
   public:
     /// Ties the controls to the operations of device_discovery.h; `Charger` fills the form.

@@ -24,7 +24,7 @@ namespace {
 }
 
 // The file that a chain of symbolic links ends at: it is replaced, the links stay.
-QString Cible(const QString& chemin) {
+QString CibleDesLiens(const QString& chemin) {
     constexpr int maillons = 40;
     QString cible = chemin;
     for (int i = 0; i < maillons && QFileInfo(cible).isSymLink(); ++i)
@@ -100,7 +100,7 @@ void FichierPrepare::MettreEnPlace() {
 }
 
 void RemplacerFichier(const QString& chemin, const QByteArray& contenu) {
-    const QString cible = Cible(chemin);
+    const QString cible = CibleDesLiens(chemin);
     if (EstPeripherique(cible)) {
         EcrireDansPeripherique(cible, contenu);
         return;

@@ -15,7 +15,7 @@ constexpr std::array<char16_t, 32> haut = {
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
-char Octet(char16_t caractere) {
+char OctetDe(char16_t caractere) {
     if (caractere < premier || (caractere >= 0xA0 && caractere <= 0xFF))
         return static_cast<char>(caractere);
     const auto* trouve = std::find(haut.begin(), haut.end(), caractere);
@@ -40,7 +40,7 @@ QByteArray Vers8Bits(QStringView texte) {
     QByteArray octets(texte.size(), Qt::Uninitialized);
     char* sortie = octets.data();
     for (qsizetype i = 0; i < texte.size(); ++i) {
-        *sortie++ = Octet(texte[i].unicode());
+        *sortie++ = OctetDe(texte[i].unicode());
         // A character of two units is one character, thus one "?".
         if (texte[i].isHighSurrogate() && i + 1 < texte.size() && texte[i + 1].isLowSurrogate())
             ++i;

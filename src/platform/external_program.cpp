@@ -12,7 +12,7 @@ namespace bornika {
 
 namespace {
 
-pid_t Attendre(pid_t pid, int options) {
+pid_t AttendreProcessus(pid_t pid, int options) {
     pid_t rendu;
     do
         rendu = waitpid(pid, nullptr, options);
@@ -26,12 +26,12 @@ class Enfant final : public ProgrammeExterne {
 
     // Somebody has to take note of its end, or it stays behind as a dead entry of the process list.
     ~Enfant() override {
-        if (EnCours()) std::thread([pid = pid_] { Attendre(pid, 0); }).detach();
+        if (EnCours()) std::thread([pid = pid_] { AttendreProcessus(pid, 0); }).detach();
     }
 
     bool EnCours() override {
         // The system may give the number of an ended child to another one: it is asked once.
-        if (!fini_) fini_ = Attendre(pid_, WNOHANG) != 0;
+        if (!fini_) fini_ = AttendreProcessus(pid_, WNOHANG) != 0;
         return !fini_;
     }
 

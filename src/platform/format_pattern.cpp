@@ -93,7 +93,7 @@ void Arrondir(Decimal& decimal, int decimales, bool pair) {
     ++decimal.entiers;
 }
 
-QString Ecrire(const Decimal& decimal, const Motif& motif, const Regional& regional) {
+QString EcrireDecimal(const Decimal& decimal, const Motif& motif, const Regional& regional) {
     const auto coupure = static_cast<std::size_t>(decimal.entiers);
     std::string entiers = decimal.chiffres.substr(0, coupure);
     std::string decimales = decimal.chiffres.substr(coupure);
@@ -133,7 +133,7 @@ QString Format(double valeur, std::string_view motif, const Regional& regional) 
     const Motif places(motif);
     Decimal decimal = Developper(valeur);
     Arrondir(decimal, places.decimalesMax, !places.point);
-    return Ecrire(decimal, places, regional);
+    return EcrireDecimal(decimal, places, regional);
 }
 
 double ArrondiTroisDecimales(double valeur) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <cstddef>
 #include <functional>
 #include <utility>
 
@@ -20,17 +21,20 @@ void SignalerFaute(const FauteExecution& faute);
 
 /// While one lives, faults of raised handlers end that handler and nothing more: for routines that
 /// ignore the faults of the controls that they fill, events of those controls included.
+///
+/// Between such a routine and the handler stands the toolkit, which calls the handler and takes no
+/// argument for it: that faults are ignored has to be known process-wide, to `garder` at the
+/// handler's entry. It is the state of one thread, that of the interface, which is the only one
+/// that may make one or ask; a debug build asserts it. One lives for a block, never longer.
 class FautesIgnorees {
   public:
-    FautesIgnorees() { ++nombre_; }
-    ~FautesIgnorees() { --nombre_; }
+    [[nodiscard]] FautesIgnorees();
+    ~FautesIgnorees();
     FautesIgnorees(const FautesIgnorees&) = delete;
     FautesIgnorees& operator=(const FautesIgnorees&) = delete;
+    static void* operator new(std::size_t) = delete;
 
-    static bool Actif() { return nombre_ > 0; }
-
-  private:
-    static inline int nombre_ = 0;
+    static bool Actif();
 };
 
 /// The guard of one entry point: no fault crosses the toolkit's event loop.

@@ -20,7 +20,7 @@ bool EstChiffre(QChar signe) {
 }
 
 // What `std::to_chars` wrote, with a capital "E" and the separator of the locale.
-QString Habiller(char* debut, char* fin, const Regional& regional) {
+QString HabillerNombre(char* debut, char* fin, const Regional& regional) {
     QString texte = QString::fromLatin1(debut, fin - debut);
     texte.replace(QLatin1Char('e'), QLatin1Char('E'));
     if (regional.separateur != QLatin1String("."))
@@ -76,7 +76,7 @@ qsizetype PrendreNombre(QStringView texte, QStringView separateur, Ascii& nombre
 
 // The value of such a number; 0 when it is too small and infinite when it is too large for a
 // double.
-double Convertir(const Ascii& nombre) {
+double ConvertirAscii(const Ascii& nombre) {
     double valeur = 0;
     const char* debut = nombre.constData();
     const char* fin = debut + nombre.size();
@@ -111,14 +111,14 @@ QString TexteGeneral(double valeur, const Regional& regional) {
     if (valeur == 0) return QStringLiteral("0");
     char texte[32];
     const auto fin = std::to_chars(texte, std::end(texte), valeur, std::chars_format::general, 15);
-    return Habiller(texte, fin.ptr, regional);
+    return HabillerNombre(texte, fin.ptr, regional);
 }
 
 QString TexteCourt(float valeur, const Regional& regional) {
     if (!std::isfinite(valeur)) return TexteNonFini(static_cast<double>(valeur));
     if (valeur == 0) return QStringLiteral("0");
     char texte[64];
-    return Habiller(texte, std::to_chars(texte, std::end(texte), valeur).ptr, regional);
+    return HabillerNombre(texte, std::to_chars(texte, std::end(texte), valeur).ptr, regional);
 }
 
 QString TexteBooleen(bool valeur) {
@@ -130,7 +130,7 @@ double ValeurDebut(QStringView texte) {
         texte = texte.sliced(1);
     Ascii nombre;
     if (PrendreNombre(texte, u".", nombre) == 0) return 0;
-    const double valeur = Convertir(nombre);
+    const double valeur = ConvertirAscii(nombre);
     if (std::isinf(valeur)) LeverFaute(numero_faute::depassement);
     return valeur;
 }
@@ -140,7 +140,7 @@ bool EstNumerique(QStringView texte, const Regional& regional) {
     Ascii nombre;
     const qsizetype fin = PrendreNombre(texte, regional.separateur, nombre);
     // A number that no variable can hold would only end the program one step later.
-    return fin > 0 && fin == texte.size() && std::isfinite(Convertir(nombre));
+    return fin > 0 && fin == texte.size() && std::isfinite(ConvertirAscii(nombre));
 }
 
 double EnDouble(QStringView texte, const Regional& regional) {
@@ -148,7 +148,7 @@ double EnDouble(QStringView texte, const Regional& regional) {
     Ascii nombre;
     const qsizetype fin = PrendreNombre(texte, regional.separateur, nombre);
     if (fin == 0 || fin != texte.size()) LeverFaute(numero_faute::typeIncompatible);
-    const double valeur = Convertir(nombre);
+    const double valeur = ConvertirAscii(nombre);
     if (std::isinf(valeur)) LeverFaute(numero_faute::depassement);
     return valeur;
 }

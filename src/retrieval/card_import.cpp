@@ -1,13 +1,13 @@
 #include "retrieval/card_import.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <optional>
 
 #include "link/device_identity.h"
 #include "platform/atomic_file.h"
 #include "platform/named_fault.h"
+#include "platform/whole_file.h"
 #include "products/firmware_versions.h"
 #include "recording/recording_file.h"
 #include "shell/product_box.h"
@@ -40,21 +40,16 @@ QString DemanderFichiers(MainScreen& ecran) {
     return ecran.systeme.dialogues.Ouvrir(demande).value_or(demande.nom);
 }
 
-void Copier(QFile& source, FichierPrepare& cible, const QString& nomCible) {
+void CopierFichierCarte(const QString& chemin, FichierPrepare& cible, const QString& nomCible) {
+    const QString nom = QFileInfo(chemin).fileName();
+    std::optional<FichierParMorceaux> source;
+    nommer(nom, [&] { source.emplace(chemin); });
     for (;;) {
-        const QByteArray morceau = source.read(tailleMorceau);
-        if (source.error() != QFileDevice::NoError)
-            nommer(QFileInfo(source).fileName(), [] { LeverFaute(numero_faute::accesRefuse); });
+        QByteArray morceau;
+        nommer(nom, [&] { morceau = source->Lire(tailleMorceau); });
         if (morceau.isEmpty()) return;
         nommer(nomCible, [&] { cible.Ecrire(morceau); });
     }
-}
-
-void OuvrirSource(QFile& source) {
-    if (source.open(QIODevice::ReadOnly)) return;
-    const int numero =
-        source.exists() ? numero_faute::accesRefuse : numero_faute::fichierIntrouvable;
-    nommer(QFileInfo(source).fileName(), [&] { LeverFaute(numero); });
 }
 
 void Montrer(AccesTrace& acces, const QString& fichier) {
@@ -95,11 +90,8 @@ void JoindreFichiers(const QStringList& sources, const QString& cible) {
     const QString nomCible = QFileInfo(cible).fileName();
     std::optional<FichierPrepare> prepare;
     nommer(nomCible, [&] { prepare.emplace(cible); });
-    for (const QString& chemin : sources) {
-        QFile source(chemin);
-        OuvrirSource(source);
-        Copier(source, *prepare, nomCible);
-    }
+    for (const QString& chemin : sources)
+        CopierFichierCarte(chemin, *prepare, nomCible);
     nommer(nomCible, [&] { prepare->MettreEnPlace(); });
 }
 

@@ -3,6 +3,7 @@
 #include <QPixmap>
 
 #include "platform/guard.h"
+#include "platform/version.h"
 #include "service/system_info.h"
 #include "shell/images.h"
 #include "shell/main_screen.h"
@@ -19,7 +20,7 @@ frmAbout::frmAbout(Systeme& systeme, RegistreMachine& registre, QWidget* parent)
     const QString titre = QString::fromLatin1(titreApplication);
     setWindowTitle(QStringLiteral("About BORNIKA ") + titre);
     ui->lblTitle->setText(QStringLiteral("BORNIKA ") + titre);
-    ui->lblVersion->setText(QStringLiteral("Version " BORNIKA_VERSION));
+    ui->lblVersion->setText(QLatin1String("Version ") + QLatin1String(versionProgramme));
     QFont grande = ui->lblTitle->font();
     grande.setPointSizeF(grande.pointSizeF() * 1.5);
     grande.setBold(true);

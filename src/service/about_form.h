@@ -3,6 +3,8 @@
 #include <QDialog>
 #include <memory>
 
+#include "widgets/own_form.h"
+
 namespace Ui {
 class frmAbout;
 }
@@ -14,7 +16,7 @@ class RegistreMachine;
 struct Systeme;
 
 /// What this program is, and in which version. Its texts are the same in every language.
-class frmAbout : public QDialog {
+class frmAbout : public QDialog, public FicheDuProgramme {
     Q_OBJECT
   public:
     frmAbout(Systeme& systeme, RegistreMachine& registre, QWidget* parent = nullptr);

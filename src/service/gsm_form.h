@@ -3,6 +3,8 @@
 #include <QDialog>
 #include <memory>
 
+#include "widgets/own_form.h"
+
 namespace Ui {
 class GSM;
 }
@@ -13,7 +15,7 @@ class MainScreen;
 
 /// Settings for a logger that sends by GSM. Pulse value and pulse unit are stored; the telephone
 /// fields are neither read nor written by anything.
-class GSM : public QDialog {
+class GSM : public QDialog, public FicheDuProgramme {
     Q_OBJECT
   public:
     explicit GSM(MainScreen& ecran, QWidget* parent = nullptr);

@@ -3,6 +3,8 @@
 #include <QDialog>
 #include <memory>
 
+#include "widgets/own_form.h"
+
 namespace Ui {
 class frmProduction;
 }
@@ -12,7 +14,7 @@ namespace bornika {
 class MainScreen;
 
 /// Order number and comment of the production report; its button writes it.
-class frmProduction : public QDialog {
+class frmProduction : public QDialog, public FicheDuProgramme {
     Q_OBJECT
   public:
     /// Ties the button to the operation of production_report.h.

@@ -4,6 +4,8 @@
 #include <QWidget>
 #include <memory>
 
+#include "widgets/own_form.h"
+
 namespace Ui {
 class frmSplash;
 }
@@ -12,7 +14,7 @@ namespace bornika {
 
 /// The picture shown at the start of the program. It closes itself on a click on the picture, on a
 /// key, or when `Timer1` fires; who shows it sets the timer.
-class frmSplash : public QWidget {
+class frmSplash : public QWidget, public FicheDuProgramme {
     Q_OBJECT
   public:
     explicit frmSplash(QWidget* parent = nullptr);

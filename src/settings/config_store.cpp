@@ -46,7 +46,7 @@ void ParcourirListes(pugi::xml_node racine, const QString& langue, const QString
     });
 }
 
-std::vector<pugi::xml_node> Lignes(pugi::xml_node liste) {
+std::vector<pugi::xml_node> LignesDeListe(pugi::xml_node liste) {
     const CleRecherche nom(QStringLiteral("LIGNE"));
     std::vector<pugi::xml_node> lignes;
     for (const pugi::xml_node enfant : liste.children())
@@ -61,7 +61,7 @@ struct Ligne {
     QString valeur;
 };
 
-void Remplir(ListeDeroulante& liste, const std::vector<Ligne>& lignes) {
+void RemplirDeLignes(ListeDeroulante& liste, const std::vector<Ligne>& lignes) {
     liste.Vider();
     for (const Ligne& ligne : lignes) {
         const int position = EnEntier32(ValeurDebut(ligne.index));
@@ -206,19 +206,19 @@ void Configuration::RemplitListe(const QString& langue, const QString& nom,
     std::vector<std::vector<Ligne>> listes;
     ParcourirListes(document_->Charger(Chemin()), langue, nom, [&](pugi::xml_node noeud) {
         std::vector<Ligne>& lignes = listes.emplace_back();
-        for (const pugi::xml_node ligne : Lignes(noeud))
+        for (const pugi::xml_node ligne : LignesDeListe(noeud))
             lignes.push_back({TexteElement(EnfantA(ligne, 0)), TexteElement(EnfantA(ligne, 1)),
                               TexteElement(EnfantA(ligne, 2))});
         return true;
     });
     for (const std::vector<Ligne>& lignes : listes)
-        Remplir(liste, lignes);
+        RemplirDeLignes(liste, lignes);
 }
 
 void Configuration::LitEchelle(const QString& langue, int index, double& mini, double& maxi) {
     ParcourirListes(document_->Charger(Chemin()), langue, QStringLiteral("ListeEchelles"),
                     [&](pugi::xml_node liste) {
-                        for (const pugi::xml_node ligne : Lignes(liste)) {
+                        for (const pugi::xml_node ligne : LignesDeListe(liste)) {
                             if (ValeurDebut(TexteElement(EnfantA(ligne, 1))) != index) continue;
                             mini = ValeurDebut(TexteElement(EnfantA(ligne, 2)));
                             maxi = ValeurDebut(TexteElement(EnfantA(ligne, 3)));

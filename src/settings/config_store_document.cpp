@@ -1,12 +1,12 @@
 #include "settings/config_store_document.h"
 
-#include <QFile>
 #include <string>
 
 #include "platform/atomic_file.h"
 #include "platform/code_page.h"
 #include "platform/fault.h"
 #include "platform/named_fault.h"
+#include "platform/whole_file.h"
 
 namespace bornika {
 
@@ -20,7 +20,7 @@ constexpr bool EstBlanc(char c) {
     return c == ' ' || c == '\t' || c == '\r' || c == '\n';
 }
 
-QByteArrayView Rogner(QByteArrayView texte) {
+QByteArrayView RognerBlancs(QByteArrayView texte) {
     while (!texte.isEmpty() && EstBlanc(texte.front()))
         texte = texte.sliced(1);
     while (!texte.isEmpty() && EstBlanc(texte.back()))
@@ -28,6 +28,7 @@ QByteArrayView Rogner(QByteArrayView texte) {
     return texte;
 }
 
+// `CasseRepliee` of a plain letter.
 constexpr char Haute(char c) {
     return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
 }
@@ -47,10 +48,10 @@ const char* TexteSimple(pugi::xml_node element) {
     return EstTexte(premier) && !premier.next_sibling() ? premier.value() : nullptr;
 }
 
-void Joindre(pugi::xml_node element, QByteArray& texte) {
+void JoindreTextes(pugi::xml_node element, QByteArray& texte) {
     for (const pugi::xml_node noeud : element.children()) {
         if (EstTexte(noeud)) texte += noeud.value();
-        if (noeud.type() == pugi::node_element) Joindre(noeud, texte);
+        if (noeud.type() == pugi::node_element) JoindreTextes(noeud, texte);
     }
 }
 
@@ -59,7 +60,7 @@ bool BienForme(const pugi::xml_document& document) {
     int racines = 0;
     for (const pugi::xml_node noeud : document.children()) {
         if (noeud.type() == pugi::node_element) ++racines;
-        if (EstTexte(noeud) && !Rogner(noeud.value()).isEmpty()) return false;
+        if (EstTexte(noeud) && !RognerBlancs(noeud.value()).isEmpty()) return false;
     }
     return racines == 1;
 }
@@ -73,10 +74,14 @@ struct Ecrivain : pugi::xml_writer {
 
 }  // namespace
 
+QString CasseRepliee(const QString& texte) {
+    return texte.toUpper();
+}
+
 CleRecherche::CleRecherche(const QString& texte, bool rogner) {
     const QByteArray utf8 = texte.toUtf8();
-    const QByteArrayView utile = rogner ? Rogner(utf8) : QByteArrayView(utf8);
-    haute_ = QString::fromUtf8(utile).toUpper();
+    const QByteArrayView utile = rogner ? RognerBlancs(utf8) : QByteArrayView(utf8);
+    haute_ = CasseRepliee(QString::fromUtf8(utile));
     octets_ = haute_.toUtf8();
 }
 
@@ -85,13 +90,13 @@ bool CleRecherche::EgaleNom(QByteArrayView texte) const {
     for (qsizetype i = 0; i < commun; ++i) {
         if (Haute(texte[i]) == octets_[i]) continue;
         // A plain letter differs for good; another one only once it is in upper case.
-        return !EstAscii(texte[i]) && QString::fromUtf8(texte).toUpper() == haute_;
+        return !EstAscii(texte[i]) && CasseRepliee(QString::fromUtf8(texte)) == haute_;
     }
     return texte.size() == octets_.size();
 }
 
 bool CleRecherche::EgaleRognee(QByteArrayView texte) const {
-    return EgaleNom(Rogner(texte));
+    return EgaleNom(RognerBlancs(texte));
 }
 
 DocumentConfiguration::Codage DocumentConfiguration::Reconnaitre(QByteArrayView octets) {
@@ -110,9 +115,7 @@ DocumentConfiguration::Codage DocumentConfiguration::Reconnaitre(QByteArrayView 
 
 pugi::xml_node DocumentConfiguration::Charger(const QString& chemin) {
     ++chargements_;
-    QFile fichier(chemin);
-    QByteArray lus;
-    if (fichier.open(QIODevice::ReadOnly)) lus = fichier.readAll();
+    QByteArray lus = LireTout(chemin).value_or(QByteArray());
     if (!changee_ && chemin == chemin_ && lus == lus_ && document_.document_element())
         return document_.document_element();
     chemin_ = chemin;
@@ -191,7 +194,7 @@ pugi::xml_node EnfantA(pugi::xml_node parent, int position) {
 QString TexteElement(pugi::xml_node element) {
     if (const char* texte = TexteSimple(element)) return QString::fromUtf8(texte);
     QByteArray texte;
-    Joindre(element, texte);
+    JoindreTextes(element, texte);
     return QString::fromUtf8(texte);
 }
 
@@ -204,7 +207,7 @@ void FixerTexte(pugi::xml_node element, const QString& texte) {
 bool CleEgale(pugi::xml_node element, const CleRecherche& cle) {
     if (const char* texte = TexteSimple(element)) return cle.EgaleRognee(texte);
     QByteArray texte;
-    Joindre(element, texte);
+    JoindreTextes(element, texte);
     return cle.EgaleRognee(texte);
 }
 

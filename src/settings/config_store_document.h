@@ -7,13 +7,18 @@
 
 namespace bornika {
 
+/// A name or a key of the configuration as it is compared everywhere: in Unicode upper case.
+/// Persons edit the file by hand and the keys are French sentences, so that neither the case of a
+/// letter nor that of an accented one makes another key.
+QString CasseRepliee(const QString& texte);
+
 /// A text to be found without regard to case and to outer blanks: prepared once, compared with
 /// hundreds of raw UTF-8 texts without making an object of each.
 class CleRecherche {
   public:
     explicit CleRecherche(const QString& texte, bool rogner = false);
 
-    /// Whether the whole text is the same in Unicode upper case.
+    /// Whether the whole text is the same by `CasseRepliee`.
     bool EgaleNom(QByteArrayView texte) const;
     /// The same for the text less its outer blanks.
     bool EgaleRognee(QByteArrayView texte) const;

@@ -12,24 +12,27 @@ namespace bornika {
 
 namespace {
 
-QString Plie(const char* texte) {
-    return QString::fromUtf8(texte).trimmed().toUpper();
+// The document's own rule, and no outer blank of any kind counts: where it is in doubt whether the
+// used file has a text, it has it, since what a person owns is not to be said twice.
+QString SigneFusion(const char* texte) {
+    return CasseRepliee(QString::fromUtf8(texte).trimmed());
 }
 
-QString Nom(pugi::xml_node noeud) {
+QString NomFusion(pugi::xml_node noeud) {
     for (const pugi::xml_attribute attribut : noeud.attributes())
-        if (Plie(attribut.name()) == QLatin1String("NOM")) return Plie(attribut.value());
+        if (SigneFusion(attribut.name()) == QLatin1String("NOM"))
+            return SigneFusion(attribut.value());
     return {};
 }
 
-pugi::xml_node Enfant(pugi::xml_node parent, int position) {
+pugi::xml_node EnfantOuRien(pugi::xml_node parent, int position) {
     for (const pugi::xml_node noeud : parent.children())
         if (noeud.type() == pugi::node_element && position-- == 0) return noeud;
     return {};
 }
 
 template <class Egal>
-pugi::xml_node Trouver(pugi::xml_node parent, Egal egal) {
+pugi::xml_node TrouverElement(pugi::xml_node parent, Egal egal) {
     for (const pugi::xml_node noeud : parent.children())
         if (noeud.type() == pugi::node_element && egal(noeud)) return noeud;
     return {};
@@ -41,7 +44,7 @@ class Fusion {
 
     void Racine(pugi::xml_node a, pugi::xml_node b) {
         ParNom(a, b, [this](pugi::xml_node x, pugi::xml_node y) {
-            const QString nom = Plie(y.name());
+            const QString nom = SigneFusion(y.name());
             if (nom == QLatin1String("LISTES")) ParLangue(x, y, &Fusion::Listes);
             if (nom == QLatin1String("MESSAGES")) ParLangue(x, y, &Fusion::Textes);
         });
@@ -59,9 +62,9 @@ class Fusion {
     void ParNom(pugi::xml_node a, pugi::xml_node b, Suite fusion) {
         for (const pugi::xml_node y : b.children()) {
             if (y.type() != pugi::node_element) continue;
-            const QString nom = Plie(y.name());
+            const QString nom = SigneFusion(y.name());
             const pugi::xml_node x =
-                Trouver(a, [&](pugi::xml_node n) { return Plie(n.name()) == nom; });
+                TrouverElement(a, [&](pugi::xml_node n) { return SigneFusion(n.name()) == nom; });
             if (x)
                 fusion(x, y);
             else
@@ -73,8 +76,9 @@ class Fusion {
                    void (Fusion::*fusion)(pugi::xml_node, pugi::xml_node)) {
         for (const pugi::xml_node y : b.children()) {
             if (y.type() != pugi::node_element) continue;
-            const QString langue = Nom(y);
-            const pugi::xml_node x = Trouver(a, [&](pugi::xml_node n) { return Nom(n) == langue; });
+            const QString langue = NomFusion(y);
+            const pugi::xml_node x =
+                TrouverElement(a, [&](pugi::xml_node n) { return NomFusion(n) == langue; });
             if (x)
                 (this->*fusion)(x, y);
             else
@@ -93,10 +97,10 @@ class Fusion {
     void ParCle(pugi::xml_node a, pugi::xml_node b, int position) {
         std::vector<QString> connues;
         for (const pugi::xml_node n : a.children())
-            connues.push_back(Plie(Enfant(n, position).text().get()));
+            connues.push_back(SigneFusion(EnfantOuRien(n, position).text().get()));
         for (const pugi::xml_node y : b.children()) {
             if (y.type() != pugi::node_element) continue;
-            const QString cle = Plie(Enfant(y, position).text().get());
+            const QString cle = SigneFusion(EnfantOuRien(y, position).text().get());
             if (std::find(connues.begin(), connues.end(), cle) == connues.end()) Ajouter(a, y);
         }
     }

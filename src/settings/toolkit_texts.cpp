@@ -21,7 +21,7 @@ bool EstNomDe(const QString& langue, const QLocale& locale) {
 }
 
 /// File of that language, "" for none.
-QString Fichier(const QString& langue, const QDir& dossier) {
+QString FichierDeTraduction(const QString& langue, const QDir& dossier) {
     const QString debut = QStringLiteral("qtbase_");
     for (const QString& nom : dossier.entryList({debut + QLatin1String("*.qm")}, QDir::Files)) {
         const QString code = nom.mid(debut.size()).chopped(3);
@@ -40,7 +40,7 @@ void TraduireOutils(const QString& langue, const QString& dossier) {
     // Deleted, a translator takes its texts back.
     delete qApp->findChild<QTranslator*>(QLatin1String(nomTraducteur));
     auto traducteur = std::make_unique<QTranslator>();
-    const QString fichier = Fichier(langue, QDir(dossier));
+    const QString fichier = FichierDeTraduction(langue, QDir(dossier));
     if (fichier.isEmpty() || !traducteur->load(fichier)) return;
     traducteur->setObjectName(QLatin1String(nomTraducteur));
     traducteur->setParent(qApp);

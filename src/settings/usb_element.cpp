@@ -31,7 +31,7 @@ constexpr std::array<EntreeConnue, nombreEntrees> connues{{
     {"Delai", 1, ReglageUsb::delaiMaximal, "UsbAttenduDelai"},
 }};
 
-std::optional<unsigned> Nombre(const QString& texte) {
+std::optional<unsigned> NombreUsb(const QString& texte) {
     const bool seize = texte.startsWith(QLatin1String("0x"), Qt::CaseInsensitive);
     const QByteArray chiffres = (seize ? texte.mid(2) : texte).toUtf8();
     unsigned nombre = 0;
@@ -84,7 +84,7 @@ class LecteurAppareil {
         if (lues_[rang]) return Refuser(nom, texte, "UsbAttenduUneFois");
         lues_[rang] = true;
         if (texte.isEmpty()) return;
-        const auto nombre = Nombre(texte);
+        const auto nombre = NombreUsb(texte);
         if (!nombre || *nombre < connue->mini || *nombre > connue->maxi)
             return Refuser(nom, texte, connue->attendu);
         nombres_[rang] = nombre;

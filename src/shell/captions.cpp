@@ -65,13 +65,13 @@ bool EstControle(const QObject& objet) {
     return objet.isWidgetType() || qobject_cast<const QAction*>(&objet);
 }
 
-void Parcourir(const QObject& parent, std::vector<QObject*>& controles) {
+void ParcourirControles(const QObject& parent, std::vector<QObject*>& controles) {
     for (QObject* enfant : parent.children()) {
         if (enfant->isWidgetType() && static_cast<QWidget*>(enfant)->isWindow() &&
             !qobject_cast<QMenu*>(enfant))
             continue;  // another form that stands above this one
         if (EstControle(*enfant)) controles.push_back(enfant);
-        if (!EstCompose(*enfant)) Parcourir(*enfant, controles);
+        if (!EstCompose(*enfant)) ParcourirControles(*enfant, controles);
     }
 }
 
@@ -79,7 +79,7 @@ void Parcourir(const QObject& parent, std::vector<QObject*>& controles) {
 
 std::vector<QObject*> ControlesDe(QWidget& fiche) {
     std::vector<QObject*> controles;
-    Parcourir(fiche, controles);
+    ParcourirControles(fiche, controles);
     return controles;
 }
 

@@ -6,13 +6,19 @@
 
 namespace bornika {
 
-void TraduireFiche(QWidget& fiche, MainScreen& ecran) {
+void TraduireFiche(QWidget& fiche, MainScreen& ecran, const RegleCaptions& regle) {
     for (QObject* controle : ControlesDe(fiche)) {
-        if (!aCaption(*controle)) continue;
+        if (!aCaption(*controle) || controle == regle.exclu) continue;
         ignorer([&] {
-            FixerCaption(*controle, ecran.Texte(CleDe(*controle), CaptionDeDepart(*controle)));
+            const QString texte =
+                ecran.TexteEn(regle.langue, CleDe(*controle), CaptionDeDepart(*controle));
+            if (!regle.garderSiVide || !texte.isEmpty()) FixerCaption(*controle, texte);
         });
     }
+}
+
+void TraduireFiche(QWidget& fiche, MainScreen& ecran) {
+    TraduireFiche(fiche, ecran, {.langue = ecran.Langue()});
 }
 
 }  // namespace bornika

@@ -1,9 +1,7 @@
 #include "shell/language_switch.h"
 
-#include "platform/fault.h"
-#include "settings/text_catalogue.h"
 #include "settings/toolkit_texts.h"
-#include "shell/captions.h"
+#include "shell/form_captions.h"
 #include "shell/main_screen.h"
 #include "shell/threshold_labels.h"
 #include "ui_main_screen.h"
@@ -27,12 +25,6 @@ class SansDessin {
     bool avant_;
 };
 
-QString TexteEn(MainScreen& ecran, const QString& langue, const QString& cle,
-                const QString& defaut = {}) {
-    return Message(ecran.configuration, ecran.systeme.dossier, langue, cle, ecran.etat.TypekPod,
-                   defaut);
-}
-
 void RemplirListes(MainScreen& ecran, const QString& langue) {
     auto& ui = *ecran.ui;
     auto& configuration = ecran.configuration;
@@ -45,21 +37,10 @@ void RemplirListes(MainScreen& ecran, const QString& langue) {
     ui.ListeUnites->ChoisirSiPresent(ecran.etat.CodePays >= 3 ? 0 : 1);
 }
 
-void TraduireControles(MainScreen& ecran, const QString& langue) {
-    for (QObject* controle : ControlesDe(ecran)) {
-        // The duration is computed, and stays.
-        if (!aCaption(*controle) || controle == ecran.ui->DureeEnregistrement) continue;
-        ignorer([&] {
-            FixerCaption(*controle,
-                         TexteEn(ecran, langue, CleDe(*controle), CaptionDeDepart(*controle)));
-        });
-    }
-}
-
 void RafraichirTextes(MainScreen& ecran, const QString& langue) {
     TextesEcran& t = ecran.textes;
     const auto prendre = [&](QString& membre, const char* cle) {
-        membre = TexteEn(ecran, langue, QString::fromUtf8(cle));
+        membre = ecran.TexteEn(langue, QString::fromUtf8(cle), {});
     };
     prendre(t.TexteValeursStockees, "Valeurs stockées dans le fichier");
     prendre(t.TexteEcritureTerminee, "Ecriture des paramètres terminées");
@@ -89,7 +70,8 @@ void ChangeTextes(MainScreen& ecran, const QString& langue, bool init) {
     TraduireOutils(langue);
     if (init) ecran.configuration.RemplitListeLangues(*ui.ListeLangues, langue);
     RemplirListes(ecran, langue);
-    TraduireControles(ecran, langue);
+    // The duration is computed, and stays.
+    TraduireFiche(ecran, ecran, {.langue = langue, .exclu = ui.DureeEnregistrement});
     RafraichirTextes(ecran, langue);
     NommerSeuils(ecran);
     // Fixed in every language, whatever the catalogue holds for them.

@@ -36,7 +36,11 @@ QString MainScreen::Texte(const QString& cle) {
 }
 
 QString MainScreen::Texte(const QString& cle, const QString& defaut) {
-    return Message(configuration, systeme.dossier, Langue(), cle, etat.TypekPod, defaut);
+    return TexteEn(Langue(), cle, defaut);
+}
+
+QString MainScreen::TexteEn(const QString& langue, const QString& cle, const QString& defaut) {
+    return Message(configuration, systeme.dossier, langue, cle, etat.TypekPod, defaut);
 }
 
 QString MainScreen::Langue() const {

@@ -6,6 +6,7 @@
 #include "platform/system.h"
 #include "settings/config_store.h"
 #include "shell/application_state.h"
+#include "widgets/own_form.h"
 
 namespace Ui {
 class MainScreen;
@@ -30,7 +31,7 @@ struct TextesEcran {
 
 /// The main form: its controls and the state of the program. It knows no operation; operations take
 /// it as an argument, and the table of events in src/app ties the two.
-class MainScreen : public QMainWindow {
+class MainScreen : public QMainWindow, public FicheDuProgramme {
     Q_OBJECT
   public:
     explicit MainScreen(Systeme& systeme, QWidget* parent = nullptr);
@@ -41,6 +42,8 @@ class MainScreen : public QMainWindow {
     QString Texte(const QString& cle);
     /// The same with a default of its own, for captions and help texts.
     QString Texte(const QString& cle, const QString& defaut);
+    /// The same in a language of its own.
+    QString TexteEn(const QString& langue, const QString& cle, const QString& defaut);
     /// Text of `ListeLangues`.
     QString Langue() const;
 

@@ -16,7 +16,7 @@ namespace {
 // Logical pixels of a title bar, or of the desktop's bar where it does not tell its own height.
 constexpr int hauteurBarre = 40;
 
-void Limiter(MainScreen& ecran) {
+void LimiterAuxEcrans(MainScreen& ecran) {
     const QScreen& moniteur = *ecran.screen();
     int barres = hauteurBarre;
     if (moniteur.availableGeometry() == moniteur.geometry()) barres += hauteurBarre;
@@ -35,7 +35,7 @@ class SuiviMoniteur : public QObject {
         if (evenement->type() == QEvent::Show) {
             objet->removeEventFilter(this);
             connect(ecran_.windowHandle(), &QWindow::screenChanged, this,
-                    [this] { Limiter(ecran_); });
+                    [this] { LimiterAuxEcrans(ecran_); });
         }
         return QObject::eventFilter(objet, evenement);
     }
@@ -47,10 +47,10 @@ class SuiviMoniteur : public QObject {
 }  // namespace
 
 void TenirDansEcran(MainScreen& ecran) {
-    Limiter(ecran);
+    LimiterAuxEcrans(ecran);
     for (const QScreen* moniteur : QGuiApplication::screens())
         QObject::connect(moniteur, &QScreen::availableGeometryChanged, &ecran,
-                         [&ecran] { Limiter(ecran); });
+                         [&ecran] { LimiterAuxEcrans(ecran); });
     ecran.installEventFilter(new SuiviMoniteur(ecran));
 }
 

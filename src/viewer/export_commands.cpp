@@ -1,7 +1,5 @@
 #include "viewer/export_commands.h"
 
-#include <QFile>
-#include <QFileInfo>
 #include <QPushButton>
 #include <algorithm>
 
@@ -12,6 +10,7 @@
 #include "platform/numbers.h"
 #include "platform/text_file.h"
 #include "platform/vector_registers.h"
+#include "platform/whole_file.h"
 #include "recording/recording_format.h"
 #include "recording/recording_path.h"
 #include "shell/main_screen.h"
@@ -142,12 +141,6 @@ void EcrireVersCible(Trace& trace, QPushButton& bouton, const QString& extension
     bouton.setEnabled(true);
 }
 
-void EffacerFichier(const QString& chemin) {
-    if (!QFileInfo::exists(chemin)) LeverFaute(numero_faute::fichierIntrouvable);
-    // A protected file goes too: the operator has just said so.
-    if (!QFile::remove(chemin)) LeverFaute(numero_faute::accesRefuse);
-}
-
 /// The line with its pressure worked out anew: all fields but the last, each with its ";".
 QString LigneMiseAJour(const QString& ligne, const Regional& regional) {
     constexpr double barParPoint = 16.0 / 1024;
@@ -192,6 +185,7 @@ void Detruire(Trace& trace) {
     const QString question = ecran.Texte(QStringLiteral("Voulez Détruire le fichier ")) +
                              QLatin1Char(' ') + nom + QStringLiteral(" ?");
     if (MontrerBoite(ecran, Icone::Question, Boutons::OuiNon, question) != Reponse::Oui) return;
+    // A protected file goes too: the operator has just said so.
     nommer(nom, [&] { EffacerFichier(nom); });
     // The box let the interface run: another file may have been opened.
     if (trace.NomFichierCourant == nom) trace.NomFichierCourant.clear();

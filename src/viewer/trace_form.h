@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "chart/model/chart_model.h"
+#include "widgets/own_form.h"
 
 namespace Ui {
 class Trace;
@@ -19,7 +20,7 @@ class MainScreen;
 ///
 /// It comes up empty and shows its working controls once a recording is loaded. Closing it, by its
 /// frame or by `Sortir`, ends its life: a load that runs leaves after its next yield.
-class Trace : public QWidget {
+class Trace : public QWidget, public FicheDuProgramme {
     Q_OBJECT
   public:
     /// Makes the form and runs its Load.

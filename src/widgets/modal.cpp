@@ -4,7 +4,7 @@ namespace bornika {
 
 namespace {
 
-Montreur& Actuel() {
+Montreur& MontreurActuel() {
     static Montreur montreur;
     return montreur;
 }
@@ -12,12 +12,12 @@ Montreur& Actuel() {
 }  // namespace
 
 void ReglerMontreur(Montreur montreur) {
-    Actuel() = std::move(montreur);
+    MontreurActuel() = std::move(montreur);
 }
 
 void MontrerModal(QDialog& dialogue) {
-    if (Actuel())
-        Actuel()(dialogue);
+    if (MontreurActuel())
+        MontreurActuel()(dialogue);
     else
         dialogue.exec();
 }

@@ -18,7 +18,7 @@ namespace {
 // The form below. Right behind another box the window system has not activated it again yet: then
 // it is the dialog that waits for both, so that the second box comes up where the first one was.
 // A window that deletes itself, such as the splash, would take the box with it.
-QWidget* Parent() {
+QWidget* ParentDeDialogue() {
     QWidget* active = QApplication::activeWindow();
     if (active && !active->testAttribute(Qt::WA_DeleteOnClose)) return active;
     return QApplication::activeModalWidget();
@@ -38,7 +38,7 @@ class BoiteSansFuite : public QMessageBox {
     void closeEvent(QCloseEvent* evenement) override { evenement->ignore(); }
 };
 
-QMessageBox::Icon Image(Icone icone) {
+QMessageBox::Icon ImageDe(Icone icone) {
     switch (icone) {
         case Icone::Information:
             return QMessageBox::Information;
@@ -54,10 +54,10 @@ QMessageBox::Icon Image(Icone icone) {
     return QMessageBox::NoIcon;
 }
 
-void Preparer(QMessageBox& boite, Icone icone, const QString& titre, const QString& texte) {
+void PreparerBoite(QMessageBox& boite, Icone icone, const QString& titre, const QString& texte) {
     QString lignes = texte;
     lignes.replace(QLatin1String("\r\n"), QLatin1String("\n"));
-    boite.setIcon(Image(icone));
+    boite.setIcon(ImageDe(icone));
     boite.setWindowTitle(titre);
     // Names of files may hold what looks like mark-up.
     boite.setTextFormat(Qt::PlainText);
@@ -84,12 +84,12 @@ QString MotifsDesDeuxCasses(const QString& motifs) {
 }
 
 // A label may have lost the end of its bracket.
-QString Etiquette(const QString& texte) {
+QString EtiquetteFermee(const QString& texte) {
     return texte.count(QLatin1Char('(')) > texte.count(QLatin1Char(')')) ? texte + QLatin1Char(')')
                                                                          : texte;
 }
 
-void Preparer(QFileDialog& dialogue, const DemandeFichier& demande) {
+void PreparerDialogue(QFileDialog& dialogue, const DemandeFichier& demande) {
     // The label says already what is shown: the patterns behind it are for the dialog alone.
     dialogue.setOption(QFileDialog::HideNameFilterDetails);
     if (!demande.titre.isEmpty()) dialogue.setWindowTitle(demande.titre);
@@ -113,7 +113,7 @@ QString EnUnTexte(const QStringList& fichiers) {
     return morceaux.join(QChar(u'\0'));
 }
 
-std::optional<QString> Demander(QFileDialog& dialogue) {
+std::optional<QString> DemanderFichiers(QFileDialog& dialogue) {
     if (dialogue.exec() != QDialog::Accepted || dialogue.selectedFiles().isEmpty()) return {};
     return EnUnTexte(dialogue.selectedFiles());
 }
@@ -130,21 +130,21 @@ QString FiltrePourDialogue(const QString& filtre) {
     const QStringList morceaux = filtre.split(QLatin1Char('|'));
     QStringList filtres;
     for (qsizetype i = 0; i + 1 < morceaux.size(); i += 2)
-        filtres << Etiquette(morceaux[i]) + QLatin1String(" (") +
+        filtres << EtiquetteFermee(morceaux[i]) + QLatin1String(" (") +
                        MotifsDesDeuxCasses(morceaux[i + 1]) + QLatin1Char(')');
     return filtres.join(QLatin1String(";;"));
 }
 
 Reponse DialoguesQt::Boite(Icone icone, Boutons boutons, const QString& titre,
                            const QString& texte) {
-    QWidget* parent = Parent();
+    QWidget* parent = ParentDeDialogue();
     if (boutons == Boutons::OuiNon) {
         BoiteSansFuite boite(parent);
-        Preparer(boite, icone, titre, texte);
+        PreparerBoite(boite, icone, titre, texte);
         return DemanderOuiNon(boite);
     }
     QMessageBox boite(parent);
-    Preparer(boite, icone, titre, texte);
+    PreparerBoite(boite, icone, titre, texte);
     if (boutons == Boutons::Ok) {
         boite.setStandardButtons(QMessageBox::Ok);
         boite.exec();
@@ -157,25 +157,25 @@ Reponse DialoguesQt::Boite(Icone icone, Boutons boutons, const QString& titre,
 }
 
 std::optional<QString> DialoguesQt::Ouvrir(const DemandeFichier& demande) {
-    QFileDialog dialogue(Parent());
-    Preparer(dialogue, demande);
+    QFileDialog dialogue(ParentDeDialogue());
+    PreparerDialogue(dialogue, demande);
     dialogue.setAcceptMode(QFileDialog::AcceptOpen);
     dialogue.setFileMode(demande.plusieurs ? QFileDialog::ExistingFiles
                                            : QFileDialog::ExistingFile);
-    return Demander(dialogue);
+    return DemanderFichiers(dialogue);
 }
 
 std::optional<QString> DialoguesQt::Enregistrer(const DemandeFichier& demande) {
-    QFileDialog dialogue(Parent());
-    Preparer(dialogue, demande);
+    QFileDialog dialogue(ParentDeDialogue());
+    PreparerDialogue(dialogue, demande);
     dialogue.setAcceptMode(QFileDialog::AcceptSave);
     dialogue.setFileMode(QFileDialog::AnyFile);
     dialogue.setOption(QFileDialog::DontConfirmOverwrite, demande.ajout);
-    return Demander(dialogue);
+    return DemanderFichiers(dialogue);
 }
 
 std::optional<std::uint32_t> DialoguesQt::Couleur(std::uint32_t depart) {
-    const QColor choisie = QColorDialog::getColor(VersQColor(depart), Parent());
+    const QColor choisie = QColorDialog::getColor(VersQColor(depart), ParentDeDialogue());
     if (!choisie.isValid()) return {};
     return DepuisQColor(choisie);
 }

@@ -14,12 +14,12 @@ TEST(FrmConnect, AClickWhileTheListIsRebuiltIsNoChoice) {
     BancDeChoix b;
     auto& appareil = b.Attacher(Serie(1));
     b.Connexion([&](frmConnect& fiche) {
-        fiche.Chargement = true;
-        const int trames = appareil.journal.Total();
-        BancDeChoix::Cliquer(fiche, 0);
-        EXPECT_EQ(appareil.journal.Total(), trames);
-        EXPECT_TRUE(fiche.isVisible());
-        fiche.Chargement = false;
+        fiche.Veille.Batir([&] {
+            const int trames = appareil.journal.Total();
+            BancDeChoix::Cliquer(fiche, 0);
+            EXPECT_EQ(appareil.journal.Total(), trames);
+            EXPECT_TRUE(fiche.isVisible());
+        });
         BancDeChoix::Cliquer(fiche, 0);
         EXPECT_FALSE(fiche.isVisible());
     });
@@ -34,15 +34,15 @@ TEST(FrmConnect, ChargementStandsDuringEveryListingAndFallsAfterwards) {
     int avecDrapeau = 0;
     b.bus.ReglerCadence(std::chrono::milliseconds(1), [&](std::chrono::nanoseconds) {
         ++echanges;
-        if (fiche.Chargement) ++avecDrapeau;
+        if (fiche.Veille.EnConstruction()) ++avecDrapeau;
     });
     fiche.Charger();
     const int auChargement = echanges;
     EXPECT_GT(auChargement, 0);
-    EXPECT_FALSE(fiche.Chargement);
+    EXPECT_FALSE(fiche.Veille.EnConstruction());
     fiche.ui->ViewAll->setChecked(true);
     EXPECT_GT(echanges, auChargement);
-    EXPECT_FALSE(fiche.Chargement);
+    EXPECT_FALSE(fiche.Veille.EnConstruction());
     EXPECT_EQ(avecDrapeau, echanges);
 }
 
@@ -129,7 +129,7 @@ TEST(FrmConnect, EmptyLineIsNotClickedAndTheListDropsItsOldLines) {
         b.bus.Debrancher(appareil.identite.usb);
         Enumere(fiche, false);
         EXPECT_EQ(fiche.ui->Listekrow->count(), 0);
-        EXPECT_EQ(fiche.NbDevices, 0);
+        EXPECT_EQ(fiche.Veille.Nombre(), 0);
         Listekrow_Click(fiche);
         EXPECT_TRUE(fiche.isVisible());
     });

@@ -18,7 +18,7 @@ TEST(FrmConnect, ListsNameTypeVersionAndSerialNumber) {
         EXPECT_EQ(BancDeChoix::Lignes(fiche)[0], q("k-Pod = 1 2-100-->1234"));
         EXPECT_TRUE(BancDeChoix::Lignes(fiche)[1].startsWith(q("k-Tide = 5 ")));
         EXPECT_TRUE(BancDeChoix::Lignes(fiche)[1].endsWith(q("-->77")));
-        EXPECT_EQ(fiche.NbDevices, 2);
+        EXPECT_EQ(fiche.Veille.Nombre(), 2);
     });
 }
 

@@ -81,7 +81,7 @@ inline simulateur::PtrEnregistreur Serie(std::uint32_t numero) {
 
 /// One second passes.
 inline void Regarder(frmConnect& fiche) {
-    QMetaObject::invokeMethod(&fiche.Veille, "timeout");
+    QMetaObject::invokeMethod(&fiche.Veille.Minuterie(), "timeout");
 }
 
 }  // namespace bornika::essai

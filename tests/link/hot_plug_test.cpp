@@ -28,11 +28,11 @@ struct HotPlug : testing::Test {
 
 TEST_F(HotPlug, TheListLooksOnceASecondWhileItIsOpen) {
     frmConnect fiche(b.banc.poste);
-    EXPECT_FALSE(fiche.Veille.isActive());
+    EXPECT_FALSE(fiche.Veille.Minuterie().isActive());
     fiche.Charger();
-    EXPECT_TRUE(fiche.Veille.isActive());
-    EXPECT_FALSE(fiche.Veille.isSingleShot());
-    EXPECT_EQ(fiche.Veille.interval(), 1000);
+    EXPECT_TRUE(fiche.Veille.Minuterie().isActive());
+    EXPECT_FALSE(fiche.Veille.Minuterie().isSingleShot());
+    EXPECT_EQ(fiche.Veille.Minuterie().interval(), 1000);
 }
 
 TEST_F(HotPlug, ALoggerPluggedInAppearsAndOnePulledOutGoes) {
@@ -42,11 +42,11 @@ TEST_F(HotPlug, ALoggerPluggedInAppearsAndOnePulledOutGoes) {
         Regarder(fiche);
         EXPECT_EQ(BancDeChoix::Lignes(fiche),
                   (QStringList{q("k-Pod = 1 2-100-->1"), q("k-Pod = 1 2-100-->2")}));
-        EXPECT_EQ(fiche.NbDevices, 2);
+        EXPECT_EQ(fiche.Veille.Nombre(), 2);
         b.bus.Debrancher(premier.identite.usb);
         Regarder(fiche);
         EXPECT_EQ(BancDeChoix::Lignes(fiche), QStringList{q("k-Pod = 1 2-100-->2")});
-        EXPECT_FALSE(fiche.Chargement);
+        EXPECT_FALSE(fiche.Veille.EnConstruction());
         EXPECT_TRUE(fiche.isVisible());
     });
     EXPECT_FALSE(b.etat().Connected);
@@ -270,7 +270,7 @@ TEST_F(HotPlug, ALoggerPulledOutWhileItIsAskedIsGoneAtTheNextLook) {
         Regarder(fiche);
         Regarder(fiche);
         EXPECT_EQ(BancDeChoix::Lignes(fiche), QStringList{q("k-Pod = 1 2-100-->2")});
-        EXPECT_EQ(fiche.NbDevices, 1);
+        EXPECT_EQ(fiche.Veille.Nombre(), 1);
     });
     EXPECT_EQ(b.bus.PoigneesOuvertes(), 0);
 }

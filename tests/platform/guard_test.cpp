@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QTimer>
 #include <stdexcept>
+#include <thread>
 
 #include "platform/clock.h"
 #include "platform/yield.h"
@@ -124,6 +125,17 @@ TEST(GardeDeathTest, AbortsWithoutAHandler) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     EXPECT_DEATH(garder([] { LeverFaute(6); }), "Run-time error '6': Overflow");
 }
+
+#ifndef QT_NO_DEBUG
+TEST(GardeDeathTest, AssertsThatFaultsAreIgnoredInTheThreadOfTheInterfaceOnly) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    const auto ailleurs = [] {
+        const FautesIgnorees ici;
+        std::thread([] { const FautesIgnorees la; }).join();
+    };
+    EXPECT_DEATH(ailleurs(), "outside the thread of the interface");
+}
+#endif
 
 TEST(Cession, LetsTheInterfaceRunAtEveryCallWithoutAStep) {
     Respiration respiration;

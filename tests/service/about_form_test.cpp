@@ -4,6 +4,7 @@
 
 #include <QRegularExpression>
 
+#include "platform/version.h"
 #include "service/dialog_fixture.h"
 #include "ui_about_form.h"
 
@@ -26,7 +27,8 @@ TEST_F(FicheApropos, NamesTheProgramAndItsVersionTheSameInEveryLanguage) {
             EXPECT_TRUE(fiche.isModal());
             EXPECT_EQ(Clair(fiche.windowTitle()), "About BORNIKA k-Pod");
             EXPECT_EQ(Clair(fiche.ui->lblTitle->text()), "BORNIKA k-Pod");
-            EXPECT_EQ(Clair(fiche.ui->lblVersion->text()), "Version " BORNIKA_VERSION);
+            EXPECT_EQ(Clair(fiche.ui->lblVersion->text()),
+                      std::string("Version ") + versionProgramme);
             EXPECT_FALSE(fiche.ui->lblDisclaimer->text().isEmpty());
             EXPECT_FALSE(fiche.ui->Image1->pixmap().isNull());
         });

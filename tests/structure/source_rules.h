@@ -17,9 +17,12 @@ Manquements PiecesMelees(const Sources& sources);
 /// No file includes itself by way of others.
 Manquements Cercles(const Sources& sources);
 
-/// The chart library, the XML library, the USB library, boxes and dialogs, and calls of the
-/// operating system are named in their one place only.
+/// The chart library, the XML library, the USB library, boxes and dialogs, calls of the operating
+/// system, and files that are opened are named in their one place only.
 Manquements BibliothequesHorsDeLeurPlace(const Sources& sources);
+
+/// Every form that a ".ui" file draws is marked as one of this program, in the header beside it.
+Manquements FichesSansMarque(const Sources& sources);
 
 /// No header opens a namespace for those who include it.
 Manquements EspacesOuverts(const Sources& sources);

@@ -43,6 +43,10 @@ TEST(Maison, NamesEachLibraryInItsPlaceOnly) {
     EXPECT_EQ(Liste(BibliothequesHorsDeLeurPlace(Maison())), "");
 }
 
+TEST(Maison, MarksEveryFormAsOneOfTheProgram) {
+    EXPECT_EQ(Liste(FichesSansMarque(Maison())), "");
+}
+
 TEST(Maison, OpensNoNamespaceInAHeader) {
     EXPECT_EQ(Liste(EspacesOuverts(Maison())), "");
 }
@@ -137,11 +141,35 @@ TEST(Bibliotheques, AreAtHomeInTheirPlace) {
     EXPECT_THAT(BibliothequesHorsDeLeurPlace(sources), IsEmpty());
 }
 
+TEST(Bibliotheques, AreToldApartFromLongerNamesWhereAWholeOneIsMeant) {
+    const Sources sources = {{"src/app/a.cpp", "#include <QFileInfo>\nQFileInfo info;\n"},
+                             {"src/logger/b.cpp", "void f() { QFile fichier; }"},
+                             {"src/logger/c.cpp", "#include <QFile>\n"},
+                             {"src/shell/d.cpp", "std::ofstream sortie;\n"},
+                             {"src/platform/e.cpp", "#include <QFile>\nQFile f;\n"}};
+    EXPECT_THAT(BibliothequesHorsDeLeurPlace(sources),
+                ElementsAre("src/logger/b.cpp names QFile", "src/logger/c.cpp names QFile",
+                            "src/shell/d.cpp names QFile"));
+}
+
 TEST(Bibliotheques, MayBeSpokenOf) {
     const Sources sources = {
         {"src/app/a.cpp",
          "// no QMessageBox here\n/* nor\n QFileDialog */ auto t = \"QCPGraph\";"}};
     EXPECT_THAT(BibliothequesHorsDeLeurPlace(sources), IsEmpty());
+}
+
+TEST(FichesSansMarque, AreFoundWhereTheMarkOrTheHeaderIsMissing) {
+    const std::string dessin = "<ui><class>F</class><class>bornika::Liste</class></ui>";
+    const Sources sources = {
+        {"src/app/a.ui", dessin},
+        {"src/app/a.h", "class F : public QDialog, public FicheDuProgramme {\n"},
+        {"src/app/b.ui", dessin},
+        {"src/app/b.h", "class F : public QDialog {  // , public FicheDuProgramme {\n"},
+        {"src/app/c.ui", dessin}};
+    EXPECT_THAT(FichesSansMarque(sources),
+                ElementsAre("src/app/b.ui draws a form without the mark of one",
+                            "src/app/c.ui draws a form without the mark of one"));
 }
 
 TEST(EspacesOuverts, AreFoundInHeadersAlone) {

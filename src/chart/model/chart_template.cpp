@@ -1,9 +1,10 @@
 #include "chart/model/chart_template.h"
 
-#include <QFile>
+#include <optional>
 #include <pugixml.hpp>
 
 #include "platform/fault.h"
+#include "platform/whole_file.h"
 
 namespace bornika {
 
@@ -89,12 +90,11 @@ Couleur Apparence::CouleurSerie(int position) const {
 }
 
 Gabarit LireGabarit(const QString& chemin) {
-    QFile fichier(chemin);
-    if (!fichier.open(QIODevice::ReadOnly)) LeverFaute(numero_faute::fichierIntrouvable);
-    const QByteArray octets = fichier.readAll();
+    const std::optional<QByteArray> lus = LireTout(chemin);
+    if (!lus) LeverFaute(numero_faute::fichierIntrouvable);
     pugi::xml_document document;
     const pugi::xml_node racine =
-        document.load_buffer(octets.constData(), static_cast<std::size_t>(octets.size()))
+        document.load_buffer(lus->constData(), static_cast<std::size_t>(lus->size()))
             ? document.child("Graphe")
             : pugi::xml_node();
     if (!racine) LeverFaute(numero_faute::formatDeFichier);
