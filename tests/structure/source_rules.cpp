@@ -70,6 +70,22 @@ bool Nomme(const Reserve& reserve, const std::vector<std::string>& inclus, const
                        [&](const std::string& mot) { return Contient(nu, mot, true); });
 }
 
+const Reserve& reserveGraphe = reserves.front();
+
+// The file at the end of the includes from `fichier` that includes the chart library, "" without
+// one. `vus` are those that were looked at already.
+std::string AmeneLeGraphe(const Sources& sources, const std::string& fichier, Ensemble& vus) {
+    if (!vus.insert(fichier).second) return {};
+    const auto inclus = NomsInclus(sources.at(fichier));
+    if (std::find(inclus.begin(), inclus.end(), reserveGraphe.inclus.front()) != inclus.end())
+        return fichier;
+    for (const std::string& suivant : Inclusions(sources, fichier)) {
+        const std::string porteur = AmeneLeGraphe(sources, suivant, vus);
+        if (!porteur.empty()) return porteur;
+    }
+    return {};
+}
+
 // Walks the includes from one file; `chemin_` is the way from the start to where it stands.
 class Promenade {
   public:
@@ -137,6 +153,18 @@ Manquements BibliothequesHorsDeLeurPlace(const Sources& sources) {
             if (!CommenceParUn(chemin, reserve.places) && Nomme(reserve, inclus, nu))
                 manquements.push_back(chemin + " names " + reserve.inclus.front());
         }
+    }
+    return manquements;
+}
+
+Manquements EntrainentLaBibliothequeDuGraphe(const Sources& sources) {
+    Manquements manquements;
+    for (const auto& [chemin, texte] : sources) {
+        if (CommenceParUn(chemin, reserveGraphe.places)) continue;
+        Ensemble vus;
+        const std::string porteur = AmeneLeGraphe(sources, chemin, vus);
+        if (!porteur.empty())
+            manquements.push_back(chemin + " reads the chart library by way of " + porteur);
     }
     return manquements;
 }
