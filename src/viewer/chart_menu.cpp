@@ -7,7 +7,6 @@
 
 #include "chart/model/chart_cursor.h"
 #include "chart/view/chart_picture.h"
-#include "chart/view/chart_view_keys.h"
 #include "platform/atomic_file.h"
 #include "platform/named_fault.h"
 #include "recording/recording_path.h"
@@ -29,7 +28,7 @@ QString NomEnregistrement(const Trace& trace) {
 }
 
 /// Asks for a file and writes into it what `contenu` holds.
-void Enregistrer(Trace& trace, const QString& extension, const QByteArray& contenu) {
+void EnregistrerGraphe(Trace& trace, const QString& extension, const QByteArray& contenu) {
     // The dialog lets the interface run: the form may be closed meanwhile.
     const Trace::Occupation occupation(trace);
     Systeme& systeme = trace.ecran.systeme;
@@ -64,23 +63,23 @@ void MontrerMenuGraphe(Trace& trace, QPoint place) {
 }
 
 void Agrandir_Click(Trace& trace) {
-    PresserTouche(*trace.ui->TChart1, Qt::Key_Plus);
+    trace.ui->TChart1->PresserTouche(Qt::Key_Plus);
 }
 
 void Reduire_Click(Trace& trace) {
-    PresserTouche(*trace.ui->TChart1, Qt::Key_Minus);
+    trace.ui->TChart1->PresserTouche(Qt::Key_Minus);
 }
 
 void VueEntiere_Click(Trace& trace) {
-    PresserTouche(*trace.ui->TChart1, Qt::Key_0);
+    trace.ui->TChart1->PresserTouche(Qt::Key_0);
 }
 
 void PointPrecedent_Click(Trace& trace) {
-    PresserTouche(*trace.ui->TChart1, Qt::Key_Left, Qt::ControlModifier);
+    trace.ui->TChart1->PresserTouche(Qt::Key_Left, Qt::ControlModifier);
 }
 
 void PointSuivant_Click(Trace& trace) {
-    PresserTouche(*trace.ui->TChart1, Qt::Key_Right, Qt::ControlModifier);
+    trace.ui->TChart1->PresserTouche(Qt::Key_Right, Qt::ControlModifier);
 }
 
 void CopierImage_Click(Trace& trace) {
@@ -88,12 +87,12 @@ void CopierImage_Click(Trace& trace) {
 }
 
 void EnregistrerPng_Click(Trace& trace) {
-    Enregistrer(trace, QStringLiteral("png"), PngGraphe(*trace.ui->TChart1));
+    EnregistrerGraphe(trace, QStringLiteral("png"), PngGraphe(*trace.ui->TChart1));
 }
 
 void EnregistrerPdf_Click(Trace& trace) {
-    Enregistrer(trace, QStringLiteral("pdf"),
-                PdfGraphe(*trace.ui->TChart1, NomEnregistrement(trace)));
+    EnregistrerGraphe(trace, QStringLiteral("pdf"),
+                      PdfGraphe(*trace.ui->TChart1, NomEnregistrement(trace)));
 }
 
 }  // namespace bornika

@@ -83,6 +83,22 @@ bool Nomme(const Reserve& reserve, const std::vector<std::string>& inclus, const
                        [&](const std::string& mot) { return Contient(nu, mot, !reserve.entiers); });
 }
 
+const Reserve& reserveGraphe = reserves.front();
+
+// The file at the end of the includes from `fichier` that includes the chart library, "" without
+// one. `vus` are those that were looked at already.
+std::string AmeneLeGraphe(const Sources& sources, const std::string& fichier, Ensemble& vus) {
+    if (!vus.insert(fichier).second) return {};
+    const auto inclus = NomsInclus(sources.at(fichier));
+    if (std::find(inclus.begin(), inclus.end(), reserveGraphe.inclus.front()) != inclus.end())
+        return fichier;
+    for (const std::string& suivant : Inclusions(sources, fichier)) {
+        const std::string porteur = AmeneLeGraphe(sources, suivant, vus);
+        if (!porteur.empty()) return porteur;
+    }
+    return {};
+}
+
 // Walks the includes from one file; `chemin_` is the way from the start to where it stands.
 class Promenade {
   public:
@@ -166,6 +182,18 @@ Manquements FichesSansMarque(const Sources& sources) {
         if (enTete == sources.end() ||
             !std::regex_search(SansCommentaires(enTete->second), marquee))
             manquements.push_back(chemin + " draws a form without the mark of one");
+    }
+    return manquements;
+}
+
+Manquements EntrainentLaBibliothequeDuGraphe(const Sources& sources) {
+    Manquements manquements;
+    for (const auto& [chemin, texte] : sources) {
+        if (CommenceParUn(chemin, reserveGraphe.places)) continue;
+        Ensemble vus;
+        const std::string porteur = AmeneLeGraphe(sources, chemin, vus);
+        if (!porteur.empty())
+            manquements.push_back(chemin + " reads the chart library by way of " + porteur);
     }
     return manquements;
 }

@@ -47,6 +47,10 @@ TEST(Maison, MarksEveryFormAsOneOfTheProgram) {
     EXPECT_EQ(Liste(FichesSansMarque(Maison())), "");
 }
 
+TEST(Maison, ReadsTheChartLibraryInTheRoomOfThePlotOnly) {
+    EXPECT_EQ(Liste(EntrainentLaBibliothequeDuGraphe(Maison())), "");
+}
+
 TEST(Maison, OpensNoNamespaceInAHeader) {
     EXPECT_EQ(Liste(EspacesOuverts(Maison())), "");
 }
@@ -170,6 +174,31 @@ TEST(FichesSansMarque, AreFoundWhereTheMarkOrTheHeaderIsMissing) {
     EXPECT_THAT(FichesSansMarque(sources),
                 ElementsAre("src/app/b.ui draws a form without the mark of one",
                             "src/app/c.ui draws a form without the mark of one"));
+}
+
+TEST(BibliothequeDuGraphe, IsFoundBehindHeadersAndForms) {
+    const Sources sources = {
+        {"src/app/a.cpp", "#include \"ui_f.h\"\n"},
+        {"src/app/b.cpp", "#include \"viewer/light.h\"\n"},
+        {"src/viewer/f.ui", "<header>chart/view/v.h</header>"},
+        {"src/viewer/light.h", "#include \"chart/view/page.h\"\n"},
+        {"src/chart/view/page.h", "// #include <qcustomplot.h>\nclass QCustomPlot;\n"},
+        {"src/chart/view/v.h", "#include \"chart/view/zoom.h\"\n"},
+        {"src/chart/view/zoom.h", "#include <qcustomplot.h>\n"}};
+    EXPECT_THAT(
+        EntrainentLaBibliothequeDuGraphe(sources),
+        ElementsAre("src/app/a.cpp reads the chart library by way of src/chart/view/zoom.h",
+                    "src/viewer/f.ui reads the chart library by way of src/chart/view/zoom.h"));
+}
+
+TEST(BibliothequeDuGraphe, BelongsToTheRoomOfThePlot) {
+    const Sources sources = {
+        {"src/viewer/a.cpp", "#include \"chart/view/v.h\"\n"},
+        {"src/viewer/b.cpp", "#include <qcustomplot.h>\n"},
+        {"src/chart/view/v.h", "class DessinGraphe;\n"},
+        {"src/chart/view/v.cpp", "#include \"chart/view/v.h\"\n#include <qcustomplot.h>\n"}};
+    EXPECT_THAT(EntrainentLaBibliothequeDuGraphe(sources),
+                ElementsAre("src/viewer/b.cpp reads the chart library by way of src/viewer/b.cpp"));
 }
 
 TEST(EspacesOuverts, AreFoundInHeadersAlone) {

@@ -4,7 +4,7 @@
 #include <cstdlib>
 #include <utility>
 
-#include "chart/view/chart_view.h"
+#include "chart/view/chart_plot.h"
 #include "chart/view/chart_view_legend.h"
 
 namespace bornika {
@@ -16,7 +16,7 @@ constexpr int tirageMinimal = 6;
 /// One notch of the wheel shows that part of the time shown before.
 constexpr double partCran = 0.8;
 
-QCPRange Decale(const QCPAxis& axe, const QCPRange& depart, QPoint de, QPoint a) {
+QCPRange EtendueTiree(const QCPAxis& axe, const QCPRange& depart, QPoint de, QPoint a) {
     // In pixels of the axis, so that the point under the mouse stays under it.
     const bool horizontal = axe.orientation() == Qt::Horizontal;
     const double pixels = horizontal ? a.x() - de.x() : de.y() - a.y();
@@ -27,7 +27,7 @@ QCPRange Decale(const QCPAxis& axe, const QCPRange& depart, QPoint de, QPoint a)
 
 }  // namespace
 
-GestesGraphe::GestesGraphe(VueGraphe& vue) : vue_(vue), bande_(&vue) {}
+GestesGraphe::GestesGraphe(DessinGraphe& vue) : vue_(vue), bande_(&vue) {}
 
 void GestesGraphe::Appuyer(const QMouseEvent& evenement) {
     if (geste_ != Geste::Aucun) return;
@@ -70,10 +70,11 @@ void GestesGraphe::Bouger(const QMouseEvent& evenement) {
 void GestesGraphe::Tirer(QPoint position) {
     vue_.setCursor(Qt::ClosedHandCursor);
     Etendues etendues = etenduesDepart_;
-    if (vue_.Defilement() & 1) etendues.bas = Decale(*vue_.xAxis, etendues.bas, depart_, position);
+    if (vue_.Defilement() & 1)
+        etendues.bas = EtendueTiree(*vue_.xAxis, etendues.bas, depart_, position);
     if (vue_.Defilement() & 2) {
-        etendues.gauche = Decale(*vue_.yAxis, etendues.gauche, depart_, position);
-        etendues.droite = Decale(*vue_.yAxis2, etendues.droite, depart_, position);
+        etendues.gauche = EtendueTiree(*vue_.yAxis, etendues.gauche, depart_, position);
+        etendues.droite = EtendueTiree(*vue_.yAxis2, etendues.droite, depart_, position);
     }
     vue_.Montrer(etendues, QCustomPlot::rpQueuedReplot);
 }

@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "chart/view/chart_view.h"
+#include "chart/view/chart_plot.h"
 #include "chart/view/chart_view_cursor.h"
 
 namespace bornika {
@@ -15,7 +15,7 @@ constexpr double retraitCurseur = 0.1;
 constexpr double zoomExtreme = 1e-7;
 
 /// A range moved by `ecart`, but not further out of the whole one than it is.
-QCPRange Decaler(const QCPRange& etendue, const QCPRange& entiere, double ecart) {
+QCPRange DecalerEtendue(const QCPRange& etendue, const QCPRange& entiere, double ecart) {
     const double avant = std::min(0.0, entiere.lower - etendue.lower);
     const double apres = std::max(0.0, entiere.upper - etendue.upper);
     return etendue + std::clamp(ecart, avant, apres);
@@ -28,7 +28,7 @@ bool SeVoit(const OutilGraphe& curseur, const Apparence& apparence) {
 
 }  // namespace
 
-void VueGraphe::ZoomerSur(const QRect& zone) {
+void DessinGraphe::ZoomerSur(const QRect& zone) {
     animation.Terminer();
     const auto entre = [](const QCPAxis& axe, double un, double autre) {
         return QCPRange(axe.pixelToCoord(un), axe.pixelToCoord(autre));
@@ -42,7 +42,7 @@ void VueGraphe::ZoomerSur(const QRect& zone) {
     Q_EMIT Zoom();
 }
 
-void VueGraphe::ZoomerAutour(double centre, double facteur) {
+void DessinGraphe::ZoomerAutour(double centre, double facteur) {
     animation.Terminer();
     const QCPRange entiere = EtenduesEntieres().bas;
     Etendues cible = EtenduesVisibles();
@@ -57,14 +57,14 @@ void VueGraphe::ZoomerAutour(double centre, double facteur) {
     Q_EMIT Zoom();
 }
 
-void VueGraphe::Defiler(double temps, double valeurs) {
+void DessinGraphe::Defiler(double temps, double valeurs) {
     if (!PeutNaviguer()) return;
     animation.Terminer();
     const Etendues entieres = EtenduesEntieres();
     const Etendues visibles = EtenduesVisibles();
     Etendues cible = visibles;
     const auto decaler = [](QCPRange& etendue, const QCPRange& entiere, double part) {
-        etendue = Decaler(etendue, entiere, part * etendue.size());
+        etendue = DecalerEtendue(etendue, entiere, part * etendue.size());
     };
     if (Defilement() & 1) decaler(cible.bas, entieres.bas, temps);
     if (Defilement() & 2) {
@@ -76,7 +76,7 @@ void VueGraphe::Defiler(double temps, double valeurs) {
         Montrer(cible);
 }
 
-double VueGraphe::CentreZoom() const {
+double DessinGraphe::CentreZoom() const {
     const QCPRange& montree = xAxis->range();
     const OutilGraphe* curseur = modele_ ? CurseurMobile(std::as_const(*modele_)) : nullptr;
     const bool visible = curseur && curseur->point >= 0 && montree.contains(curseur->x) &&
@@ -84,7 +84,7 @@ double VueGraphe::CentreZoom() const {
     return visible ? curseur->x : montree.center();
 }
 
-bool VueGraphe::AvancerCurseur(PasCurseur pas) {
+bool DessinGraphe::AvancerCurseur(PasCurseur pas) {
     const OutilGraphe* curseur = modele_ ? CurseurMobile(std::as_const(*modele_)) : nullptr;
     if (!curseur || !SeVoit(*curseur, apparence_)) return false;
     animation.Terminer();
@@ -97,18 +97,18 @@ bool VueGraphe::AvancerCurseur(PasCurseur pas) {
 }
 
 /// Scrolls in time as far as the cursor needs.
-void VueGraphe::MontrerCurseur() {
+void DessinGraphe::MontrerCurseur() {
     const double x = CurseurMobile(*modele_)->x;
     Etendues cible = EtenduesVisibles();
     if (cible.bas.contains(x)) return;
     const double retrait = cible.bas.size() * retraitCurseur;
     const double ecart =
         x < cible.bas.lower ? x - retrait - cible.bas.lower : x + retrait - cible.bas.upper;
-    cible.bas = Decaler(cible.bas, EtenduesEntieres().bas, ecart);
+    cible.bas = DecalerEtendue(cible.bas, EtenduesEntieres().bas, ecart);
     Montrer(cible);
 }
 
-void VueGraphe::AnnulerZoom() {
+void DessinGraphe::AnnulerZoom() {
     if (!PeutNaviguer()) return;
     animation.Terminer();
     const Etendues entieres = EtenduesEntieres();
@@ -119,7 +119,7 @@ void VueGraphe::AnnulerZoom() {
     Q_EMIT AnnulationZoom();
 }
 
-void VueGraphe::RemettreEchelles() {
+void DessinGraphe::RemettreEchelles() {
     animation.Abandonner();
     echellesFixes_ = false;
     if (!modele_) return;
