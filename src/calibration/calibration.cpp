@@ -5,6 +5,7 @@
 #include "calibration/calibration_display.h"
 #include "calibration/calibration_form.h"
 #include "calibration/calibration_messages.h"
+#include "link/command_exchange.h"
 #include "link/command_table.h"
 #include "link/frames.h"
 #include "logger/pressure_scale.h"

@@ -9,47 +9,47 @@ namespace bornika {
 
 namespace {
 
-double Mot(const Tampon& reponse, std::size_t position) {
-    return reponse[position] * 256 + reponse[position + 1];
-}
-
 QString Numero(int point) {
     return QStringLiteral(" %1 ").arg(point);
 }
 
-/// The bytes of a reply from a position on to the last of a frame.
-Octets Reste(const Tampon& reponse, int position) {
-    return {reponse.begin() + position, reponse.begin() + longueurTrame};
+/// The bytes of a reply from a place on, as many as end a frame: each goes one place behind its
+/// own.
+Octets Reste(const VueReponse& reponse, std::size_t rang) {
+    Octets reste;
+    for (; rang + 1 < longueurTrame; ++rang)
+        reste.push_back(reponse.Octet(rang));
+    return reste;
 }
 
 }  // namespace
 
-double VersionEtalonnage(const Tampon& reponse) {
+double VersionEtalonnage(const VueReponse& reponse) {
     QString texte;
-    for (std::size_t position = 2; position <= 5; ++position)
-        texte += QString::number(reponse[position]);
+    for (const std::size_t rang : {1U, 2U, 3U, 4U})
+        texte += QString::number(reponse.Octet(rang));
     return ValeurDebut(texte) / 1000;
 }
 
-bool EstAncienFirmware(const Tampon& reponse) {
-    return reponse[1] == CMD_LIT_VERSION && VersionEtalonnage(reponse) <= version::unPoint;
+bool EstAncienFirmware(const VueReponse& reponse) {
+    return reponse.Octet(0) == CMD_LIT_VERSION && VersionEtalonnage(reponse) <= version::unPoint;
 }
 
-DateEtalonnage DateDe(const Tampon& reponse) {
-    const int octet = reponse[6];
-    return {Mot(reponse, 2) * 65536 + Mot(reponse, 4), octet / 16, UniteDeOctet(octet)};
+DateEtalonnage DateDe(const VueReponse& reponse) {
+    const int octet = reponse.Octet(5);
+    return {reponse.Quatre(1), octet / 16, UniteDeOctet(octet)};
 }
 
-PointEtalonnage PointDe(const Tampon& reponse) {
-    return {Mot(reponse, 2), Mot(reponse, 4)};
+PointEtalonnage PointDe(const VueReponse& reponse) {
+    return {static_cast<double>(reponse.Mot(1)), static_cast<double>(reponse.Mot(3))};
 }
 
-Octets TramePoint(double points, int point, const Tampon& version) {
-    return TrameEcritPointEtalonnage(points, point, Reste(version, 4));
+Octets TramePoint(double points, int point, const VueReponse& version) {
+    return TrameEcritPointEtalonnage(points, point, Reste(version, 3));
 }
 
-Octets TrameDate(std::int32_t date, int echelle, int unite, const Tampon& version) {
-    return TrameEcritDateEtalonnage(date, OctetEchelle(echelle, unite), Reste(version, 6));
+Octets TrameDate(std::int32_t date, int echelle, int unite, const VueReponse& version) {
+    return TrameEcritDateEtalonnage(date, OctetEchelle(echelle, unite), Reste(version, 5));
 }
 
 QString SansNumero(QString caption) {

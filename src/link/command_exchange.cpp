@@ -2,28 +2,8 @@
 
 #include "link/frames.h"
 #include "platform/fault.h"
-#include "platform/numbers.h"
 
 namespace bornika {
-
-namespace {
-
-/// Value of 16 bits, rounded half to even.
-int Mot(double x) {
-    const double arrondi = ArrondiPair(x);
-    if (!(arrondi >= 0 && arrondi <= 65535)) LeverFaute(numero_faute::depassement);
-    return static_cast<int>(arrondi);
-}
-
-}  // namespace
-
-std::uint8_t MSB(double x) {
-    return static_cast<std::uint8_t>(Mot(x) / 256);
-}
-
-std::uint8_t LSB(double x) {
-    return static_cast<std::uint8_t>(Mot(x) % 256);
-}
 
 Octets LireReponse(Poste& poste, int combien, bool erreur) {
     // The catalogue is only asked when the text is to be shown: a download reads too often.

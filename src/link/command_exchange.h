@@ -1,18 +1,11 @@
 #pragma once
 
-#include <array>
-#include <cstdint>
+#include <span>
 
+#include "link/bytes.h"
 #include "link/station.h"
 
 namespace bornika {
-
-/// Reply of a command: the first reply byte (r0) lands at index 1, and index 0 keeps what it held.
-using Tampon = std::array<std::uint8_t, 17>;
-
-/// High and low byte of a value rounded half to even, 0 to 65535; fault 6 outside.
-std::uint8_t MSB(double x);
-std::uint8_t LSB(double x);
 
 /// Sends the 8-byte frame `code`, `extracode`, six zeros, and reads `combien` bytes into `buffer`
 /// from index 1. The link must be open. False when the logger did not answer: `TimeOut` is then

@@ -12,9 +12,6 @@ namespace bornika {
 
 namespace {
 
-constexpr int longueurNumeroSerie = 8;
-constexpr int longueurVersion = 9;
-
 /// One command in a conversation of its own. A silent logger leaves the reply all zero.
 Tampon Interroger(Poste& poste, int code, int combien) {
     Tampon buffer{};
@@ -32,24 +29,23 @@ double NumeroVersion(int haut, int bas) {
 }
 
 QString LitNumeroSerieKpod(Poste& poste) {
-    const Tampon buffer = Interroger(poste, CMD_LIT_NUMERO_SERIE, longueurNumeroSerie);
+    const Tampon buffer = Interroger(poste, CMD_LIT_NUMERO_SERIE, longueurReponse);
+    const VueReponse reponse(buffer);
     QString numero;
-    if (buffer[1] != CMD_LIT_NUMERO_SERIE) return numero;
-    ignorer([&] {
-        numero = QString::number(EnEntier32(buffer[4] * 16777216.0 + buffer[5] * 65536.0 +
-                                            buffer[6] * 256.0 + buffer[7]));
-    });
+    if (reponse.Octet(0) != CMD_LIT_NUMERO_SERIE) return numero;
+    ignorer([&] { numero = QString::number(EnEntier32(reponse.Quatre(3))); });
     return numero;
 }
 
 QString LitVersionKpod(Poste& poste, bool& ok) {
     EtatApplication& etat = poste.ecran.etat;
     etat.TimeOut = false;
-    const Tampon buffer = Interroger(poste, CMD_LIT_VERSION, longueurVersion);
-    if (buffer[1] != CMD_LIT_VERSION) return {};
-    const int type = buffer[2];
-    const int haut = buffer[3];
-    const int bas = buffer[5];
+    const Tampon buffer = Interroger(poste, CMD_LIT_VERSION, longueurReponseVersion);
+    const VueReponse reponse(buffer);
+    if (reponse.Octet(0) != CMD_LIT_VERSION) return {};
+    const int type = reponse.Octet(1);
+    const int haut = reponse.Octet(2);
+    const int bas = reponse.Octet(4);
     ok = true;
     etat.VersionLogiciel = NumeroVersion(haut, bas);
     return QStringLiteral("%1 = %2 %3-%4")
@@ -61,8 +57,9 @@ QString LitVersionKpod(Poste& poste, bool& ok) {
 
 QString LitTypeKpod(Poste& poste, bool /*sansEffet*/) {
     poste.ecran.etat.TimeOut = false;
-    const Tampon buffer = Interroger(poste, CMD_LIT_VERSION, longueurVersion);
-    return buffer[1] == CMD_LIT_VERSION ? QString::number(buffer[2]) : QString();
+    const Tampon buffer = Interroger(poste, CMD_LIT_VERSION, longueurReponseVersion);
+    const VueReponse reponse(buffer);
+    return reponse.Octet(0) == CMD_LIT_VERSION ? QString::number(reponse.Octet(1)) : QString();
 }
 
 }  // namespace bornika

@@ -1,10 +1,9 @@
 #include "link/frames.h"
 
 #include <algorithm>
+#include <utility>
 
-#include "link/command_exchange.h"
 #include "link/command_table.h"
-#include "platform/dates.h"
 #include "platform/fault.h"
 
 namespace bornika {
@@ -25,7 +24,7 @@ class Trame {
     }
     Trame& Mot(double valeur) { return Octet(MSB(valeur)).Octet(LSB(valeur)); }
     Trame& Double(std::int32_t valeur) {
-        const std::vector<int> octets = EntierVersOctets(valeur);
+        const Octets octets = EntierVersOctets(valeur);
         octets_.insert(octets_.end(), octets.rbegin(), octets.rend());
         return *this;
     }

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <span>
 
-#include "link/multi_usb.h"
+#include "link/bytes.h"
 
 /// The frame of every command: pure functions, one for each shape. Numbers go most significant byte
 /// first unless told otherwise; words are 0 to 65535 (fault 6 outside), dates are device time.

@@ -6,15 +6,12 @@
 #include <span>
 #include <vector>
 
+#include "link/bytes.h"
 #include "platform/usb_interface.h"
 
 namespace bornika {
 
 class MainScreen;
-
-/// Values of the bytes of a frame or a reply. Wider than a byte, because sending a value outside 0
-/// to 255 is a fault that has to be seen.
-using Octets = std::vector<int>;
 
 /// The only code that touches the device: one pair of handles to one logger, opened for one action
 /// of the user. It reads and sets `TimeOut` of the main form's state.

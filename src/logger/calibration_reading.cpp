@@ -2,6 +2,7 @@
 
 #include "link/command_exchange.h"
 #include "link/command_table.h"
+#include "logger/calibration_figures.h"
 #include "logger/parameter_report.h"
 #include "platform/format_pattern.h"
 
@@ -22,10 +23,11 @@ PointLu LirePoint(Poste& poste, int selecteur) {
     if (!Envoi_Entete(poste, CMD_LIT_POINT_ETALONNAGE, buffer, longueurReponse, false, selecteur)) {
         return {};
     }
-    if (buffer[1] != CMD_LIT_POINT_ETALONNAGE) return {Issue::AutreEcho, {}, 0};
-    const double valeur = buffer[2] * 256 + buffer[3];
-    const double mesure = buffer[4] * 256 + buffer[5];
-    return {Issue::Point, {valeur, mesure}, buffer[6]};
+    const VueReponse reponse(buffer);
+    if (reponse.Octet(0) != CMD_LIT_POINT_ETALONNAGE) return {Issue::AutreEcho, {}, 0};
+    const double valeur = reponse.Mot(1);
+    const double mesure = reponse.Mot(3);
+    return {Issue::Point, {valeur, mesure}, reponse.Octet(5)};
 }
 
 QString QuatreDecimales(const MainScreen& ecran, double valeur) {
@@ -103,28 +105,6 @@ bool LireDeuxPoints(Poste& poste) {
 }
 
 }  // namespace
-
-Etalonnage7 EtalonnageUnPoint(const PointEtalonnage& bas) {
-    Etalonnage7 etalonnage;
-    etalonnage.valeur_etalonnage_bas = bas.valeur;
-    etalonnage.mesure_etalonnage_bas = bas.mesure;
-    etalonnage.correction_etalonnage = bas.valeur - bas.mesure;
-    return etalonnage;
-}
-
-Etalonnage7 EtalonnageDeuxPoints(const PointEtalonnage& bas, const PointEtalonnage& haut) {
-    Etalonnage7 etalonnage = EtalonnageUnPoint(bas);
-    const bool absent = haut.valeur == 0 && haut.mesure == 0;
-    if (absent || haut.mesure == bas.mesure) return etalonnage;
-    double pente = (haut.valeur - bas.valeur) / (haut.mesure - bas.mesure);
-    if (pente == 0) pente = 1;
-    etalonnage.valeur_etalonnage_haut = haut.valeur;
-    etalonnage.mesure_etalonnage_haut = haut.mesure;
-    etalonnage.correction_etalonnage = 0;
-    etalonnage.pente_etalonnage = pente;
-    etalonnage.offset_etalonnage = bas.valeur - pente * bas.mesure;
-    return etalonnage;
-}
 
 bool LireEtalonnageCapteur(Poste& poste, bool AncienFirmware) {
     return AncienFirmware ? LireUnPoint(poste) : LireDeuxPoints(poste);

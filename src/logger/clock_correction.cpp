@@ -5,7 +5,6 @@
 #include "link/command_exchange.h"
 #include "link/frames.h"
 #include "link/memory_access.h"
-#include "platform/dates.h"
 #include "platform/fault.h"
 #include "platform/format_pattern.h"
 #include "platform/numbers.h"

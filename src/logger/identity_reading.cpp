@@ -14,7 +14,6 @@ namespace bornika {
 
 namespace {
 
-constexpr int longueurVersion = 9;
 constexpr double pileMaximum = 158;
 constexpr double pileMinimum = 111;
 
@@ -37,16 +36,16 @@ void MontrerTaille(MainScreen& ecran, int code) {
 
 Suite LireVersion(LectureParametres& lecture) {
     MainScreen& ecran = lecture.ecran;
-    if (!lecture.Demander(CMD_LIT_VERSION, longueurVersion)) return Suite::Terminer;
-    if (lecture.Octet(0) != CMD_LIT_VERSION) return Suite::Continuer;
-    const int type = lecture.Octet(1);
-    const int haut = lecture.Octet(2);
-    const int bas = lecture.Octet(4);
+    if (!lecture.Demander(CMD_LIT_VERSION, longueurReponseVersion)) return Suite::Terminer;
+    if (lecture.Reponse().Octet(0) != CMD_LIT_VERSION) return Suite::Continuer;
+    const int type = lecture.Reponse().Octet(1);
+    const int haut = lecture.Reponse().Octet(2);
+    const int bas = lecture.Reponse().Octet(4);
     ecran.etat.VersionLogiciel = NumeroVersion(haut, bas);
     lecture.AncienFirmware = ecran.etat.VersionLogiciel <= version::unPoint;
     ecran.ui->Version->setText(QStringLiteral("(%1) %2.%3").arg(type).arg(haut).arg(bas));
-    MontrerPile(ecran, lecture.Mot(5));
-    MontrerTaille(ecran, lecture.Octet(7));
+    MontrerPile(ecran, lecture.Reponse().Mot(5));
+    MontrerTaille(ecran, lecture.Reponse().Octet(7));
     return Suite::Continuer;
 }
 
@@ -54,8 +53,8 @@ Suite LireNumeroSerie(LectureParametres& lecture) {
     MainScreen& ecran = lecture.ecran;
     const auto& ui = ecran.ui;
     if (!lecture.Demander(CMD_LIT_NUMERO_SERIE)) return Suite::Terminer;
-    if (lecture.Octet(0) == CMD_LIT_NUMERO_SERIE) {
-        ui->NumeroSerie->setText(QString::number(static_cast<qint64>(lecture.Quatre(3))));
+    if (lecture.Reponse().Octet(0) == CMD_LIT_NUMERO_SERIE) {
+        ui->NumeroSerie->setText(QString::number(static_cast<qint64>(lecture.Reponse().Quatre(3))));
     }
     AjouteRapport(ecran, QStringLiteral("LabelNumeroSerie"), ui->NumeroSerie->text());
     AjouteRapport(ecran, QStringLiteral("LabelVersion"), ui->Version->text());
@@ -65,16 +64,17 @@ Suite LireNumeroSerie(LectureParametres& lecture) {
 
 Suite LireDateEtalonnage(LectureParametres& lecture) {
     MainScreen& ecran = lecture.ecran;
-    if (!Envoi_Entete(lecture.poste, CMD_LIT_DATE_ETALONNAGE, lecture.buffer, 8, false) ||
-        lecture.Octet(0) != CMD_LIT_DATE_ETALONNAGE) {
+    if (!Envoi_Entete(lecture.poste, CMD_LIT_DATE_ETALONNAGE, lecture.buffer, longueurReponse,
+                      false) ||
+        lecture.Reponse().Octet(0) != CMD_LIT_DATE_ETALONNAGE) {
         return Suite::Continuer;
     }
-    const double date = lecture.Quatre(1);
+    const double date = lecture.Reponse().Quatre(1);
     QString texteDate = QStringLiteral("---");
     QString capteur = texteDate;
     if (date != 0) {
         texteDate = EpochVersTexte(date, ecran.systeme.regional);
-        capteur = ecran.ui->ListeEchelles->TexteA(EchelleDeOctet(lecture.Octet(5)));
+        capteur = ecran.ui->ListeEchelles->TexteA(EchelleDeOctet(lecture.Reponse().Octet(5)));
     }
     AjouteRapport(ecran, QStringLiteral("LabelDateEtalonnage"), texteDate);
     AjouteRapport(ecran, QStringLiteral("LabelCapteurEtalonnage"), capteur);

@@ -30,8 +30,9 @@ struct Pointeur {
 bool LirePointeur(Poste& poste, int commande, Pointeur& pointeur) {
     Tampon buffer{};
     if (!Envoi_Entete(poste, commande, buffer, longueurReponse, true)) return false;
-    if (buffer[1] != commande) return false;
-    pointeur = {buffer[2] * 256 + buffer[3], buffer[4] * 256 + buffer[5], buffer[6]};
+    const VueReponse reponse(buffer);
+    if (reponse.Octet(0) != commande) return false;
+    pointeur = {reponse.Mot(1), reponse.Mot(3), reponse.Octet(5)};
     return true;
 }
 

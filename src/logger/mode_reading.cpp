@@ -17,7 +17,7 @@ const auto inferieur = QStringLiteral(" < ");
 void MontrerEchelleEtUnite(LectureParametres& lecture) {
     MainScreen& ecran = lecture.ecran;
     const auto& ui = ecran.ui;
-    const int code = lecture.Octet(6);
+    const int code = lecture.Reponse().Octet(6);
     afficher([&] { ui->ListeEchelles->Choisir(EchelleDeOctet(code)); });
     afficher([&] { ui->ListeUnites->Choisir(UniteDeOctet(code)); });
     AjouteRapport(ecran, QStringLiteral("Label1"), ui->ListeEchelles->Texte());
@@ -37,8 +37,8 @@ void MontrerSeuils(LectureParametres& lecture, int octetMode) {
     const bool absolue = (octetMode & mode::pressionAbsolue) != 0;
     afficher([&] { ui->PressionAbsolue->setChecked(absolue); });
     if (absolue) AjouteRapport(ecran, QStringLiteral("PressionAbsolue"), {});
-    MontrerSeuil(ecran, *ui->Seuil1, lecture.Mot(2), absolue);
-    MontrerSeuil(ecran, *ui->Seuil2, lecture.Mot(4), absolue);
+    MontrerSeuil(ecran, *ui->Seuil1, lecture.Reponse().Mot(2), absolue);
+    MontrerSeuil(ecran, *ui->Seuil2, lecture.Reponse().Mot(4), absolue);
 }
 
 void MontrerSens(MainScreen& ecran, int octetMode) {
@@ -91,10 +91,10 @@ void MontrerMonoCoup(MainScreen& ecran, int octetMode) {
 
 Suite LireMode(LectureParametres& lecture) {
     if (!lecture.Demander(CMD_LIT_MODE)) return Suite::Terminer;
-    if (lecture.Octet(0) != CMD_LIT_MODE) return Suite::Continuer;
+    if (lecture.Reponse().Octet(0) != CMD_LIT_MODE) return Suite::Continuer;
     MainScreen& ecran = lecture.ecran;
     const auto& ui = ecran.ui;
-    const int octetMode = lecture.Octet(1);
+    const int octetMode = lecture.Reponse().Octet(1);
     MontrerEchelleEtUnite(lecture);
     MontrerSeuils(lecture, octetMode);
     MontrerSens(ecran, octetMode);

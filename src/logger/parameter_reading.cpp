@@ -22,7 +22,7 @@ namespace bornika {
 
 namespace {
 
-constexpr int caracteresParCommande = 7;
+constexpr std::size_t caracteresParCommande = 7;
 
 Suite CommencerLecture(LectureParametres& lecture) {
     EtatApplication& etat = lecture.ecran.etat;
@@ -48,8 +48,8 @@ Suite LirePointsEtalonnage(LectureParametres& lecture) {
 Suite LireMoitieCommentaire(LectureParametres& lecture, int commande) {
     if (!lecture.Demander(commande)) return Suite::Terminer;
     QByteArray caracteres;
-    for (int rang = 1; rang <= caracteresParCommande; ++rang) {
-        caracteres.append(static_cast<char>(lecture.Octet(rang)));
+    for (std::size_t rang = 1; rang <= caracteresParCommande; ++rang) {
+        caracteres.append(static_cast<char>(lecture.Reponse().Octet(rang)));
     }
     QLineEdit& boite = *lecture.ecran.ui->Commentaire;
     afficher([&] { boite.setText(boite.text() + Depuis8Bits(caracteres)); });

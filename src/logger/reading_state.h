@@ -3,6 +3,7 @@
 #include <QDateTime>
 
 #include "link/command_exchange.h"
+#include "link/command_table.h"
 
 namespace bornika {
 
@@ -14,14 +15,11 @@ struct LectureParametres {
     explicit LectureParametres(Poste& lePoste) : poste(lePoste), ecran(lePoste.ecran) {}
 
     /// Sends a command whose silence ends the sequence. False on silence.
-    bool Demander(int commande, int combien = 8) {
+    bool Demander(int commande, int combien = longueurReponse) {
         return Envoi_Entete(poste, commande, buffer, combien, true);
     }
-    /// Byte of the last reply, counted from 0.
-    int Octet(int rang) const { return buffer[static_cast<std::size_t>(rang) + 1]; }
-    /// Two and four bytes of it, most significant first.
-    int Mot(int rang) const { return Octet(rang) * 256 + Octet(rang + 1); }
-    double Quatre(int rang) const { return Mot(rang) * 65536.0 + Mot(rang + 2); }
+    /// The last reply.
+    VueReponse Reponse() const { return buffer; }
 
     Poste& poste;
     MainScreen& ecran;

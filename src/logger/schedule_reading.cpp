@@ -26,13 +26,14 @@ Suite LireProchaineMesure(LectureParametres& lecture) {
     MainScreen& ecran = lecture.ecran;
     const auto& ui = ecran.ui;
     if (!lecture.Demander(CMD_LIT_PROCHAINE_MESURE)) return Suite::Terminer;
-    if (lecture.Octet(0) != CMD_LIT_PROCHAINE_MESURE) return Suite::Continuer;
-    ui->ProchaineMesure->setText(EpochVersTexte(lecture.Quatre(1), ecran.systeme.regional));
-    const int periode = lecture.Mot(5);
+    if (lecture.Reponse().Octet(0) != CMD_LIT_PROCHAINE_MESURE) return Suite::Continuer;
+    ui->ProchaineMesure->setText(
+        EpochVersTexte(lecture.Reponse().Quatre(1), ecran.systeme.regional));
+    const int periode = lecture.Reponse().Mot(5);
     const int index = Chercher(*ui->ListePeriodeEchantillonage, periode);
     if (index >= 0) afficher([&] { ui->ListePeriodeEchantillonage->Choisir(index); });
     if (index == 0) afficher([&] { ui->DureeSaisie->setText(QString::number(periode)); });
-    afficher([&] { ui->NbMesures->setText(QString::number(lecture.Octet(7))); });
+    afficher([&] { ui->NbMesures->setText(QString::number(lecture.Reponse().Octet(7))); });
     return Suite::Continuer;
 }
 
@@ -45,8 +46,8 @@ Suite NoterPeriode(LectureParametres& lecture) {
 Suite LireDemarrage(LectureParametres& lecture) {
     MainScreen& ecran = lecture.ecran;
     if (!lecture.Demander(CMD_LIT_DEMARRAGE)) return Suite::Terminer;
-    if (lecture.Octet(0) != CMD_LIT_DEMARRAGE) return Suite::Continuer;
-    lecture.DateDemarrageLue = lecture.Quatre(1);
+    if (lecture.Reponse().Octet(0) != CMD_LIT_DEMARRAGE) return Suite::Continuer;
+    lecture.DateDemarrageLue = lecture.Reponse().Quatre(1);
     const QDateTime instant = EpochVersInstant(lecture.DateDemarrageLue);
     afficher([&] { ecran.ui->DTPicker1->setDateTime(instant); });
     afficher([&] { ecran.ui->DTPicker2->setDateTime(instant); });
@@ -60,12 +61,12 @@ Suite LireDateCourante(LectureParametres& lecture) {
     MainScreen& ecran = lecture.ecran;
     const auto& ui = ecran.ui;
     if (!lecture.Demander(CMD_LIT_DATE_COURANTE)) return Suite::Terminer;
-    if (lecture.Octet(0) != CMD_LIT_DATE_COURANTE) return Suite::Continuer;
+    if (lecture.Reponse().Octet(0) != CMD_LIT_DATE_COURANTE) return Suite::Continuer;
     lecture.DateLectureLocale = ecran.systeme.horloge.Maintenant();
-    ui->DateCourante->setText(EpochVersTexte(lecture.Quatre(1), ecran.systeme.regional));
-    const int index = Chercher(*ui->PeriodeTrigger, lecture.Mot(5));
+    ui->DateCourante->setText(EpochVersTexte(lecture.Reponse().Quatre(1), ecran.systeme.regional));
+    const int index = Chercher(*ui->PeriodeTrigger, lecture.Reponse().Mot(5));
     if (index >= 0) afficher([&] { ui->PeriodeTrigger->Choisir(index); });
-    MontrerCarte(ecran, lecture.Octet(7) == cartePresente);
+    MontrerCarte(ecran, lecture.Reponse().Octet(7) == cartePresente);
     return Suite::Continuer;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "link/multi_usb.h"
+#include "link/bytes.h"
 
 /// The recording set-up of the main form as the frames that carry it to the logger.
 namespace bornika {

@@ -10,11 +10,6 @@ namespace bornika {
 
 namespace {
 
-/// Byte of a reply, counted from 0.
-int Octet(const Tampon& reponse, std::size_t rang) {
-    return reponse[rang + 1];
-}
-
 void DireCarteAbsente(MainScreen& ecran) {
     MontrerMessage(ecran, Icone::Aucune, QStringLiteral("SD card absent "));
 }
@@ -37,18 +32,17 @@ EtatCarte ControlerCarte(Poste& poste) {
     if (!Envoi_Entete(poste, CMD_LIT_DATE_COURANTE, reponse, longueurReponse, true)) {
         return EtatCarte::SansReponse;
     }
-    const bool presente = Octet(reponse, 7) == cartePresente;
+    const bool presente = VueReponse(reponse).Octet(7) == cartePresente;
     MontrerCarte(ecran, presente);
     if (presente) return EtatCarte::Presente;
     DireCarteAbsente(ecran);
     return EtatCarte::Absente;
 }
 
-std::optional<int> AutreCapteur(const Tampon& reponse, int choisi, int nombre) {
-    if (Octet(reponse, 0) != CMD_LIT_DATE_ETALONNAGE) return std::nullopt;
-    const bool jamais =
-        (Octet(reponse, 1) | Octet(reponse, 2) | Octet(reponse, 3) | Octet(reponse, 4)) == 0;
-    const int etalonne = EchelleDeOctet(Octet(reponse, 5));
+std::optional<int> AutreCapteur(const VueReponse& reponse, int choisi, int nombre) {
+    if (reponse.Octet(0) != CMD_LIT_DATE_ETALONNAGE) return std::nullopt;
+    const bool jamais = reponse.Quatre(1) == 0;
+    const int etalonne = EchelleDeOctet(reponse.Octet(5));
     if (jamais || etalonne == choisi || etalonne >= nombre) return std::nullopt;
     return etalonne;
 }

@@ -16,7 +16,7 @@ EtatCarte ControlerCarte(Poste& poste);
 /// Index of the sensor that an answer to `CMD_LIT_DATE_ETALONNAGE` tells of, when it is another one
 /// than `choisi` and one of the `nombre` that the list knows. Nothing for a logger that was never
 /// calibrated and for an answer of another command.
-std::optional<int> AutreCapteur(const Tampon& reponse, int choisi, int nombre);
+std::optional<int> AutreCapteur(const VueReponse& reponse, int choisi, int nombre);
 
 /// Compares the chosen scale with the calibrated sensor; a box tells of a difference, and the
 /// result is then false. A logger that does not know the question passes: the link is opened again

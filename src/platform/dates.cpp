@@ -194,21 +194,6 @@ QString FormatDateCourt(const Regional& regional) {
     return regional.dateCourte;
 }
 
-std::vector<int> EntierVersOctets(std::int32_t valeur) {
-    const auto bits = static_cast<std::uint32_t>(valeur);
-    std::vector<int> octets(4);
-    for (unsigned i = 0; i < 4; ++i)
-        octets[i] = static_cast<int>(bits >> (8 * i) & 255u);
-    return octets;
-}
-
-std::int32_t OctetsVersEntier(const std::vector<int>& tableau) {
-    if (tableau.size() != 4) return 0;
-    const double v =
-        tableau[3] * 16777216.0 + tableau[2] * 65536.0 + tableau[1] * 256.0 + tableau[0];
-    return EnEntier32(v > 2147483647.0 ? -(4294967296.0 - v) : v);
-}
-
 QString SeparateurDecimal(const Regional& regional) {
     return regional.separateur;
 }

@@ -3,7 +3,6 @@
 #include <QDateTime>
 #include <QString>
 #include <cstdint>
-#include <vector>
 
 #include "platform/regional.h"
 
@@ -37,11 +36,6 @@ QString HeureLocale(int heures, int minutes, int secondes);
 
 /// Short date pattern of the locale.
 QString FormatDateCourt(const Regional& regional);
-
-/// Four bytes, low byte first.
-std::vector<int> EntierVersOctets(std::int32_t valeur);
-/// 0 unless the array has exactly four elements.
-std::int32_t OctetsVersEntier(const std::vector<int>& tableau);
 
 /// The decimal separator of the user's locale.
 QString SeparateurDecimal(const Regional& regional);

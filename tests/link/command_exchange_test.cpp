@@ -1,7 +1,5 @@
 #include "link/command_exchange.h"
 
-#include <limits>
-
 #include "link/command_table.h"
 #include "link/frames.h"
 #include "link/link_fixture.h"
@@ -10,33 +8,6 @@
 
 namespace bornika::essai {
 namespace {
-
-TEST(MSB, RoundsHalfToEvenBeforeSplitting) {
-    EXPECT_EQ(MSB(65535), 255);
-    EXPECT_EQ(LSB(65535), 255);
-    EXPECT_EQ(MSB(0), 0);
-    EXPECT_EQ(LSB(0), 0);
-    EXPECT_EQ(MSB(254.5), 0);
-    EXPECT_EQ(LSB(254.5), 254);
-    EXPECT_EQ(MSB(255.5), 1);
-    EXPECT_EQ(LSB(255.5), 0);
-    EXPECT_EQ(MSB(256.5), 1);
-    EXPECT_EQ(LSB(256.5), 0);
-    EXPECT_EQ(MSB(526), 2);
-    EXPECT_EQ(LSB(526), 14);
-}
-
-TEST(MSB, ValueThatDoesNotFitSixteenBitsIsAFault) {
-    for (const double x : {65536.0, -1.0, 65535.5, 1e9}) {
-        EXPECT_EQ(NumeroDeFaute([&] { MSB(x); }), numero_faute::depassement) << x;
-        EXPECT_EQ(NumeroDeFaute([&] { LSB(x); }), numero_faute::depassement) << x;
-    }
-    EXPECT_EQ(NumeroDeFaute([&] { MSB(std::numeric_limits<double>::quiet_NaN()); }),
-              numero_faute::depassement);
-    EXPECT_EQ(NumeroDeFaute([&] { MSB(65535.4); }), 0);
-    EXPECT_EQ(LSB(-0.5), 0);
-    EXPECT_EQ(MSB(-0.5), 0);
-}
 
 Tampon Plein() {
     Tampon buffer;

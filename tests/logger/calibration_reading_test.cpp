@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "logger/calibration_figures.h"
 #include "logger/logger_fixture.h"
 
 namespace bornika {

@@ -197,25 +197,6 @@ TEST(HeureLocale, IsTwentyFourHoursAndEmptyOutOfRange) {
     EXPECT_EQ(HeureLocale(-1, 0, 0), QString());
 }
 
-TEST(EntierVersOctets, GivesTheLowByteFirst) {
-    EXPECT_EQ(EntierVersOctets(16909060), (std::vector<int>{4, 3, 2, 1}));
-    EXPECT_EQ(EntierVersOctets(-1), (std::vector<int>{255, 255, 255, 255}));
-    EXPECT_EQ(EntierVersOctets(-2), (std::vector<int>{254, 255, 255, 255}));
-    EXPECT_EQ(EntierVersOctets(0), (std::vector<int>{0, 0, 0, 0}));
-}
-
-TEST(OctetsVersEntier, TakesBackWhatWasSplit) {
-    for (const std::int32_t v : {0, 1, -1, 255, 256, -256, 65536, 2147483647, -2147483647,
-                                 std::numeric_limits<std::int32_t>::min()})
-        EXPECT_EQ(OctetsVersEntier(EntierVersOctets(v)), v);
-}
-
-TEST(OctetsVersEntier, OtherThanFourElementsGiveZero) {
-    EXPECT_EQ(OctetsVersEntier({1, 2, 3}), 0);
-    EXPECT_EQ(OctetsVersEntier({1, 2, 3, 4, 5}), 0);
-    EXPECT_EQ(OctetsVersEntier({}), 0);
-}
-
 TEST(SeparateurDecimal, IsTheLocalesWhateverItIs) {
     EXPECT_EQ(SeparateurDecimal(Regional{}), q("."));
     EXPECT_EQ(SeparateurDecimal(Regional{q(","), q("dd/MM/yyyy")}), q(","));
