@@ -52,7 +52,7 @@ void CopierFichierCarte(const QString& chemin, FichierPrepare& cible, const QStr
     }
 }
 
-void Montrer(AccesTrace& acces, const QString& fichier) {
+void MontrerEnregistrement(AccesTrace& acces, const QString& fichier) {
     Trace& trace = acces.Fiche();
     trace.show();
     trace.NomDialogue = fichier;
@@ -111,7 +111,7 @@ void LireSD(Poste& poste, AccesTrace& acces) {
     ecran.setWindowTitle(choix.section(separateur, 0, 0));
     MontrerTexte(ecran, Icone::Information,
                  ecran.textes.TexteValeursStockees + QLatin1Char(' ') + fichier);
-    if (!ecran.etat.EnFermeture) Montrer(acces, fichier);
+    if (!ecran.etat.EnFermeture) MontrerEnregistrement(acces, fichier);
 }
 
 }  // namespace bornika

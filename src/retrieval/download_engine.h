@@ -8,6 +8,8 @@
 #include "recording/recording_file.h"
 #include "retrieval/download_progress.h"
 #include "retrieval/measure_group.h"
+#include "retrieval/pressure_settings.h"
+#include "retrieval/write_failure.h"
 
 namespace bornika {
 
@@ -74,6 +76,7 @@ class Telechargement : private SortieMesures {
     Octets Demander();
     bool SurvivreAuSilence();
     void Respirer();
+    void RelireFiche();
     Etat Exploiter(const Octets& reponse);
     void Compter(std::int32_t Compteur) override;
     void Mesurer(const MesureDatee& mesure) override;
@@ -84,7 +87,7 @@ class Telechargement : private SortieMesures {
     bool FermerFichiers(bool complets);
     void TerminerNormalement();
     void TerminerSansSuite();
-    void DireEchec();
+    void DireEchec(const QString& texte);
     void RendreBouton(const QString& cle);
 
     static inline int transferts_ = 0;
@@ -95,14 +98,15 @@ class Telechargement : private SortieMesures {
     Avancement avancement_;
     DecodeurMesures decodeur_;
     RedacteurLignes redacteur_;
+    ReglagesPression reglages_;
     /// Kept here too: a dump begun meanwhile gives the program another name.
     QString nom_;
     std::optional<PaireEnregistrement> fichiers_;
     bool premier_ = true;
     int nbEchecs_ = 0;
     int pointeurSauve_ = 0;
-    /// File and reason of the first write that failed, empty as long as all is well.
-    QString echec_;
+    /// Of the two files: a transfer can end for another reason and lose lines besides.
+    EchecEcriture echec_;
 };
 
 }  // namespace bornika

@@ -5,13 +5,14 @@
 
 #include "link/memory_access.h"
 #include "logger/parameter_reading.h"
-#include "logger/pressure_scale.h"
 #include "platform/code_page.h"
 #include "platform/dates.h"
-#include "platform/fault.h"
+#include "platform/named_fault.h"
 #include "platform/numbers.h"
 #include "platform/text_file.h"
 #include "retrieval/download_progress.h"
+#include "retrieval/pressure_settings.h"
+#include "retrieval/write_failure.h"
 #include "shell/product_box.h"
 #include "ui_main_screen.h"
 #include "widgets/pointer_shape.h"
@@ -31,6 +32,7 @@ class DumpFlash {
     DumpFlash(MainScreen& ecran, const QString& nom)
         : ecran_(ecran),
           avancement_(ecran),
+          reglages_(LireReglagesPression(ecran)),
           nom_(nom),
           // Each cell costs an exchange over a link of its own: its line can go out at once.
           fichier_(ecran.systeme.Chemin(nom), ModeEcriture::Remplacer,
@@ -48,15 +50,14 @@ class DumpFlash {
     }
 
     void Annoncer() {
-        const QString texte =
-            echec_.isEmpty() ? ecran_.Texte(QStringLiteral("Valeurs stockées dans le fichier")) +
-                                   QLatin1Char(' ') + nom_
-                             : echec_;
-        MontrerTexte(ecran_, echec_.isEmpty() ? Icone::Information : Icone::Critique, texte);
+        if (echec_.Texte()) return MontrerTexte(ecran_, Icone::Critique, *echec_.Texte());
+        MontrerTexte(ecran_, Icone::Information,
+                     ecran_.Texte(QStringLiteral("Valeurs stockées dans le fichier")) +
+                         QLatin1Char(' ') + nom_);
     }
 
   private:
-    bool Fini() const { return ecran_.etat.EnFermeture || !echec_.isEmpty(); }
+    bool Fini() const { return ecran_.etat.EnFermeture || echec_.EstSurvenu(); }
 
     void LirePage(Poste& poste, int page) {
         for (int offset = 0; offset < finDePage; offset += longueurCellule) {
@@ -70,41 +71,44 @@ class DumpFlash {
         Respiration& respiration = ecran_.systeme.respiration;
         if (!respiration.EstDue()) return;
         avancement_.Montrer();
-        respiration.Ceder();
+        if (respiration.Ceder()) RelireFiche();
     }
+
+    /// What the operator can change while the interface runs counts from the next cell on.
+    void RelireFiche() { reglages_ = LireReglagesPression(ecran_); }
 
     /// Each statement keeps what it had where it fails: the line of a cell that cannot be read is
     /// the one of the last good cell.
     void LireCellule(Poste& poste, int page, int offset) {
+        const bool muet = ecran_.etat.TimeOut;
         ignorer([&] { octets_ = Memoire_Flash(poste, true, page, offset); });
+        // The box of a logger that has fallen silent let the interface run.
+        if (!muet && ecran_.etat.TimeOut) RelireFiche();
         if (octets_.size() == longueurCellule)
             DecoderEnregistrement(std::span(octets_).first<longueurCellule>(), cellule_);
-        ignorer([&] { pression_ = Donne_Pression(ecran_, cellule_.points, true, false); });
+        ignorer([&] { pression_ = PressionCorrigee(cellule_.points, reglages_, false); });
         Garder([&] {
             fichier_.EcrireLigneOctets(LigneDump(cellule_, pression_, ecran_.systeme.regional));
         });
         avancement_.Avancer();
     }
 
-    /// The first failure of the file counts: the logger still holds what could not be written.
+    /// One statement that works on the file.
     template <class Instruction>
     void Garder(Instruction&& instruction) {
-        try {
-            instruction();
-        } catch (const FauteExecution& faute) {
-            if (echec_.isEmpty()) echec_ = nom_ + QStringLiteral(" : ") + faute.texte();
-        }
+        echec_.Garder([&] { nommer(nom_, instruction); });
     }
 
     MainScreen& ecran_;
     Avancement avancement_;
+    ReglagesPression reglages_;
     /// Kept here: a download begun meanwhile gives the program another name.
     QString nom_;
     FichierTexteEcrit fichier_;
     Octets octets_;
     Enregistrement cellule_;
     double pression_ = 0;
-    QString echec_;
+    EchecEcriture echec_;
 };
 
 void OuvrirBarre(MainScreen& ecran, int PageDebut, int PageFin) {
@@ -136,6 +140,7 @@ QByteArray LigneDump(const Enregistrement& cellule, double pression, const Regio
 void LectureValeursPage(Poste& poste, int PageDebut, int PageFin) {
     MainScreen& ecran = poste.ecran;
     const auto& ui = ecran.ui;
+    // By hand, without guards: a file that cannot be made leaves pointer and button so.
     const int pointeurSauve = PointeurSouris(ecran);
     FixerPointeurSouris(ecran, pointeur::fleche);
     ui->LireValeursPage->setEnabled(false);

@@ -1,8 +1,8 @@
 #include "service/firmware_update.h"
 
 #include "link/device_identity.h"
-#include "products/firmware_versions.h"
 #include "service/firmware_file.h"
+#include "service/firmware_identity.h"
 #include "service/firmware_notice.h"
 #include "service/serial_number.h"
 #include "settings/text_catalogue.h"
@@ -43,9 +43,9 @@ class MiseAJourFirmware {
     bool ProduitPermis();
     bool NomValide();
     void Transferer();
-    QString RelireVersion();
+    Relecture RelireVersion();
     void RendreIdentite();
-    void SignalerNumero();
+    void RendreNumero();
 
     Poste& poste_;
     MainScreen& ecran_;
@@ -114,31 +114,31 @@ void MiseAJourFirmware::Transferer() {
     avis_.Fini();
 }
 
-/// The form shows what the logger is now. "" from a logger that gives no version.
-QString MiseAJourFirmware::RelireVersion() {
+/// The form shows what the logger is now.
+Relecture MiseAJourFirmware::RelireVersion() {
+    if (etat_.TimeOut) return Relecture::PasDemandee;
     bool ok = true;
     const QString version = LitVersionKpod(poste_, ok);
-    if (!version.isEmpty()) ecran_.ui->Version->setText(version);
-    return version;
+    if (version.isEmpty()) return Relecture::SansReponse;
+    ecran_.ui->Version->setText(version);
+    return Relecture::Lue;
 }
 
 void MiseAJourFirmware::RendreIdentite() {
-    if (etat_.TimeOut) return SignalerNumero();
-    const QString version = RelireVersion();
-    // Another logger may have been chosen meanwhile: it keeps its own number.
-    const bool autre = etat_.UsbID != usb_;
-    if (autre || version.isEmpty()) SignalerNumero();
-    const bool franchie =
-        ancienneVersion_ < version::numeroSerie && etat_.VersionLogiciel >= version::numeroSerie;
-    if (autre || !franchie) return;
-    ecran_.ui->ValeurNumeroSerie->setText(numeroSerie_);
-    ProgNumeroSerie_Click(poste_);
+    const Relecture relecture = RelireVersion();
+    const SuiteNumeroSerie suite = SuiteDeMiseAJour({.transferee = transferee_,
+                                                     .ancienneVersion = ancienneVersion_,
+                                                     .numeroConnu = !numeroSerie_.isEmpty(),
+                                                     .relecture = relecture,
+                                                     .autreEnregistreur = etat_.UsbID != usb_,
+                                                     .nouvelleVersion = etat_.VersionLogiciel});
+    if (suite.signaler) avis_.NumeroNonRendu(numeroSerie_);
+    if (suite.rendre) RendreNumero();
 }
 
-/// The logger cannot be asked whether it has lost its number: the operator gets it instead.
-void MiseAJourFirmware::SignalerNumero() {
-    const bool menace = transferee_ && ancienneVersion_ < version::numeroSerie;
-    if (menace && !numeroSerie_.isEmpty()) avis_.NumeroNonRendu(numeroSerie_);
+void MiseAJourFirmware::RendreNumero() {
+    ecran_.ui->ValeurNumeroSerie->setText(numeroSerie_);
+    ProgNumeroSerie_Click(poste_);
 }
 
 /// Disables the entry while the operation lasts.

@@ -1,9 +1,6 @@
 #include "viewer/comments.h"
 
-#include <QFile>
-
-#include "platform/code_page.h"
-#include "platform/named_fault.h"
+#include "recording/comment_file.h"
 #include "shell/main_screen.h"
 #include "shell/product_box.h"
 #include "ui_trace_form.h"
@@ -14,8 +11,7 @@ namespace bornika {
 namespace {
 
 QString CheminCommentaires(const Trace& trace, const QString& repertoire) {
-    const QString base = repertoire.section(QLatin1Char('.'), 0, 0);
-    return trace.ecran.systeme.Chemin(base + QStringLiteral(".cmt"));
+    return trace.ecran.systeme.Chemin(NomCommentaires(repertoire));
 }
 
 }  // namespace
@@ -31,13 +27,7 @@ void EnregistrerCommentaires(Trace& trace, const QString& repertoire) {
 }
 
 void EcrireCommentaires(Trace& trace, const QString& chemin, ModeEcriture mode) {
-    QString texte = trace.ui->Commentaires->toPlainText();
-    texte.replace(QLatin1Char('\n'), QLatin1String("\r\n"));
-    nommer(chemin, [&] {
-        FichierTexteEcrit fichier(chemin, mode);
-        fichier.EcrireLigne(texte);
-        fichier.Fermer();
-    });
+    EcrireTexteCommentaires(chemin, trace.ui->Commentaires->toPlainText(), mode);
 }
 
 void LitCommentaires(Trace& trace) {
@@ -47,16 +37,11 @@ void LitCommentaires(Trace& trace) {
 }
 
 void LireFichierCommentaires(Trace& trace, const QString& repertoire) {
-    const QString chemin = CheminCommentaires(trace, repertoire);
-    if (!QFile::exists(chemin)) FichierTexteEcrit(chemin, ModeEcriture::Ajouter).Fermer();
-    const FichierTexteLu fichier(chemin);
-    if (fichier.EstFinDeLigne()) {
+    const QString texte = LireTexteCommentaires(CheminCommentaires(trace, repertoire));
+    if (texte.isEmpty())
         trace.ui->Commentaires->clear();
-        return;
-    }
-    QFile entier(chemin);
-    if (entier.open(QIODevice::ReadOnly))
-        trace.ui->Commentaires->setPlainText(Depuis8Bits(entier.readAll()));
+    else
+        trace.ui->Commentaires->setPlainText(texte);
 }
 
 }  // namespace bornika

@@ -230,6 +230,8 @@ TEST(RawDumpFailing, AFileThatCannotBeMadeIsAFault) {
     ASSERT_TRUE(QDir(banc.etabli.dossier.path()).mkdir(banc.fichier));
     banc.Lire();
     EXPECT_EQ(banc.etabli.fautes, std::vector<int>{numero_faute::accesRefuse});
+    EXPECT_EQ(PointeurSouris(banc.ecran), pointeur::fleche);
+    EXPECT_FALSE(banc.ui.LireValeursPage->isEnabled());
     EXPECT_EQ(banc.Demandees(), 0);
     EXPECT_EQ(banc.PoigneesOuvertes(), 0);
 }
@@ -304,6 +306,21 @@ TEST(RawDumpDisturbed, AUnitChosenMeanwhileCountsFromTheNextCellOn) {
     banc.Lire();
     EXPECT_EQ(banc.Lignes()[9], BancDump::Attendue(9));
     EXPECT_EQ(banc.Lignes()[10], Ligne(t0 + 9, 9, "140.625"));
+}
+
+TEST(RawDumpDisturbed, AUnitChosenWhileTheBoxOfTheAbsentLoggerStandsCountsFromThatCellOn) {
+    BancDump banc;
+    banc.PanneCellule(GenrePanne::silence, 11);
+    banc.etabli.dialogues.pendantBoite = [&](const auto& boite) {
+        if (boite.icone == Icone::Aucune)
+            banc.ui.ListeUnites->Choisir(banc.ui.ListeUnites->findText(QStringLiteral("mbar")));
+    };
+    // From there on the interface runs no more.
+    banc.AuTour(11, [&] { banc.etabli.respiration.ReglerPas(std::chrono::hours(1)); });
+    banc.Lire();
+    EXPECT_EQ(banc.tours, 11);
+    EXPECT_EQ(banc.Lignes()[10], BancDump::Attendue(10));
+    EXPECT_EQ(banc.Lignes()[11], Ligne(t0 + 9, 9, "140.625"));
 }
 
 TEST(RawDumpDisturbed, APressureThatCannotBeComputedKeepsTheLastOne) {
