@@ -44,7 +44,7 @@ struct DumpButtons : testing::Test {
     QList<QByteArray> Lignes(const QString& nom) { return banc.etabli.Lire(nom).split('\n'); }
     QStringList Boites() {
         QStringList textes;
-        for (const auto& boite : banc.etabli.dialogues.boites)
+        for (const auto& boite : banc.etabli.dialogues.Boites())
             textes << boite.texte;
         return textes;
     }
@@ -59,7 +59,7 @@ struct DumpButtons : testing::Test {
 };
 
 TEST_F(DumpButtons, TheContextGoesToTheFileThatTheOperatorNames) {
-    banc.etabli.dialogues.fichiers = {banc.etabli.Chemin(contexte)};
+    banc.etabli.dialogues.AnnoncerEnregistrement(banc.etabli.Chemin(contexte));
     BancProgramme::Cliquer(banc.ui().LireEeprom);
     const QList<QByteArray> lignes = Lignes(contexte);
     ASSERT_EQ(lignes.size(), 168);
@@ -74,12 +74,13 @@ TEST_F(DumpButtons, TheContextGoesToTheFileThatTheOperatorNames) {
 
 TEST_F(DumpButtons, TheContextShowsWhatTheLoggerWasToldMeanwhile) {
     pod.memoire.EcrireMot(simulateur::adresse::periodeStockage, 960);
-    banc.etabli.dialogues.fichiers = {banc.etabli.Chemin(contexte)};
+    banc.etabli.dialogues.AnnoncerEnregistrement(banc.etabli.Chemin(contexte));
     BancProgramme::Cliquer(banc.ui().LireEeprom);
     EXPECT_TRUE(banc.etabli.Lire(contexte).contains("Ofs - 45 Interval de stockage : 960\r\n"));
 }
 
 TEST_F(DumpButtons, ACancelledDialogAndALostLoggerLeaveNoContextFile) {
+    banc.etabli.dialogues.AnnoncerEnregistrement(std::nullopt);
     BancProgramme::Cliquer(banc.ui().LireEeprom);
     banc.bus.Debrancher(pod.identite.usb);
     BancProgramme::Cliquer(banc.ui().LireEeprom);
@@ -93,13 +94,14 @@ TEST_F(DumpButtons, ACancelledDialogAndALostLoggerLeaveNoContextFile) {
 
     banc.bus.Rebrancher(pod.identite.usb);
     BancProgramme::Cliquer(banc.ui().Lire);
-    banc.etabli.dialogues.fichiers = {banc.etabli.Chemin(contexte)};
+    banc.etabli.dialogues.AnnoncerEnregistrement(banc.etabli.Chemin(contexte));
     BancProgramme::Cliquer(banc.ui().LireEeprom);
     EXPECT_EQ(Lignes(contexte).size(), 168);
 }
 
 TEST_F(DumpButtons, AContextFileThatCannotBeMadeIsTheGeneralFailure) {
-    banc.etabli.dialogues.fichiers = {banc.etabli.Chemin(QStringLiteral("absent/") + contexte)};
+    banc.etabli.dialogues.AnnoncerEnregistrement(
+        banc.etabli.Chemin(QStringLiteral("absent/") + contexte));
     BancProgramme::Cliquer(banc.ui().LireEeprom);
     EXPECT_EQ(Boites(),
               QStringList{QStringLiteral("Run-time error '76':\n\nContexte.txt : Path not found")});
@@ -137,7 +139,7 @@ TEST_F(DumpButtons, ASecondClickWhileItRunsDoesNothing) {
 }
 
 TEST_F(DumpButtons, TheContextCanBeDumpedWhileThePagesAre) {
-    banc.etabli.dialogues.fichiers = {banc.etabli.Chemin(contexte)};
+    banc.etabli.dialogues.AnnoncerEnregistrement(banc.etabli.Chemin(contexte));
     AuTour(20, [&] { BancProgramme::Cliquer(banc.ui().LireEeprom); });
     LirePages("1", "1");
     EXPECT_EQ(Lignes(contexte).size(), 168);
@@ -165,7 +167,7 @@ TEST_F(DumpButtons, ADownloadLosesNothingOverTheServiceReadingsInsideIt) {
     ASSERT_GT(seul.count('\n'), 100);
     ASSERT_TRUE(QFile::remove(banc.etabli.Chemin(mesures)));
 
-    banc.etabli.dialogues.fichiers = {banc.etabli.Chemin(contexte)};
+    banc.etabli.dialogues.AnnoncerEnregistrement(banc.etabli.Chemin(contexte));
     banc.etabli.respiration.ReglerEvenements([this] {
         ++tours;
         if (tours == 20) BancProgramme::Cliquer(banc.ui().LireEeprom);
@@ -215,8 +217,8 @@ TEST_F(DumpButtons, WithoutALoggerThePagesButtonStaysDisabledAndTheOthersWork) {
 TEST_F(DumpButtons, AFullDiskIsToldAndTheProgramGoesOn) {
     ASSERT_TRUE(QFile::link(QStringLiteral("/dev/full"), banc.etabli.Chemin(pages)));
     LirePages("1", "3");
-    ASSERT_EQ(banc.etabli.dialogues.boites.size(), 1U);
-    EXPECT_EQ(banc.etabli.dialogues.boites.front().icone, Icone::Critique);
+    ASSERT_EQ(banc.etabli.dialogues.Boites().size(), 1U);
+    EXPECT_EQ(banc.etabli.dialogues.Boites().front().icone, Icone::Critique);
     EXPECT_TRUE(banc.ui().LireValeursPage->isEnabled());
     EXPECT_TRUE(banc.sorties.empty());
     EXPECT_EQ(pod.journal.Nombre(20), 0);

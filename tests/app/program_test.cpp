@@ -34,8 +34,8 @@ TEST_P(UnwritableFolder, IsToldInOneBoxAndNothingElseHappens) {
     }
     banc.etabli.systeme.dossier = dossier;
     EXPECT_EQ(Executer(banc.etabli.systeme), 1);
-    ASSERT_EQ(banc.etabli.dialogues.boites.size(), 1U);
-    const auto& boite = banc.etabli.dialogues.boites.front();
+    ASSERT_EQ(banc.etabli.dialogues.Boites().size(), 1U);
+    const auto& boite = banc.etabli.dialogues.Boites().front();
     EXPECT_EQ(boite.icone, Icone::Critique);
     EXPECT_EQ(boite.boutons, Boutons::Ok);
     EXPECT_TRUE(boite.texte.contains(dossier)) << boite.texte.toStdString();
@@ -63,7 +63,7 @@ TEST(WholeProgram, EndsWithTheMainFormAlsoWhenTheViewerStandsOpen) {
     QTimer::singleShot(20'000, &geste, [] { QCoreApplication::exit(99); });
     EXPECT_EQ(Executer(banc.etabli.systeme), 0);
     EXPECT_TRUE(ouverte);
-    EXPECT_TRUE(banc.etabli.dialogues.boites.empty());
+    EXPECT_TRUE(banc.etabli.dialogues.Boites().empty());
 }
 
 TEST(WholeProgram, KeepsTheMainFormWithinTheScreen) {
@@ -96,8 +96,8 @@ TEST(WholeProgram, AFaultBehindAButtonIsToldOnceClosesTheLinkAndLeaves) {
     banc.programme->lien.OuvreUSB(pod.identite.usb);
     QFile::remove(banc.etabli.Chemin(QStringLiteral("config.xml")));
     banc.ui().mnuChargeRapide->trigger();
-    ASSERT_EQ(banc.etabli.dialogues.boites.size(), 1U);
-    EXPECT_EQ(banc.etabli.dialogues.boites.front().texte,
+    ASSERT_EQ(banc.etabli.dialogues.Boites().size(), 1U);
+    EXPECT_EQ(banc.etabli.dialogues.Boites().front().texte,
               QStringLiteral("Run-time error '91':\n\nObject variable not set"));
     EXPECT_EQ(banc.sorties, std::vector<int>({1}));
     EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);

@@ -29,7 +29,7 @@ struct Road : testing::Test {
     int Lignes(const QString& nom) { return static_cast<int>(banc.etabli.Lire(nom).count("\r\n")); }
     QStringList Boites() {
         QStringList textes;
-        for (const auto& boite : banc.etabli.dialogues.boites)
+        for (const auto& boite : banc.etabli.dialogues.Boites())
             textes << boite.texte;
         return textes;
     }
@@ -95,7 +95,7 @@ TEST_F(Road, GoingToTheViewerAndBackCancelsTheDownload) {
     EXPECT_LT(lignes, 400);
     EXPECT_TRUE(
         banc.etabli.Lire(nomSelonHorloge + QStringLiteral(".err")).endsWith("End Parity Control"));
-    EXPECT_EQ(banc.etabli.dialogues.boites.size(), 1U);
+    EXPECT_EQ(banc.etabli.dialogues.Boites().size(), 1U);
     EXPECT_EQ(banc.programme->trace.Presente()->modele.Serie(0).Nombre(), lignes - 1);
     EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);
 }
@@ -139,9 +139,9 @@ TEST_F(Road, ADiskThatFillsUpIsToldOnceAndNothingReceivedIsLost) {
     ASSERT_TRUE(QFile::link(QStringLiteral("/dev/full"),
                             banc.etabli.Chemin(nomSelonHorloge + QStringLiteral(".txt"))));
     BancProgramme::Cliquer(banc.ui().LireValeurs);
-    ASSERT_EQ(banc.etabli.dialogues.boites.size(), 1U);
-    EXPECT_EQ(banc.etabli.dialogues.boites.front().icone, Icone::Critique);
-    EXPECT_TRUE(banc.etabli.dialogues.boites.front().texte.contains(nomSelonHorloge));
+    ASSERT_EQ(banc.etabli.dialogues.Boites().size(), 1U);
+    EXPECT_EQ(banc.etabli.dialogues.Boites().front().icone, Icone::Critique);
+    EXPECT_TRUE(banc.etabli.dialogues.Boites().front().texte.contains(nomSelonHorloge));
     EXPECT_TRUE(banc.sorties.empty());
     EXPECT_FALSE(banc.ecran().etat.EnLecture);
     EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);

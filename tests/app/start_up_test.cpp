@@ -180,8 +180,8 @@ TEST(Load, AMissingConfigurationIsTheGeneralFailure) {
     BancProgramme banc;
     QFile::remove(banc.etabli.Chemin(QStringLiteral("config.xml")));
     EXPECT_FALSE(banc.Demarrer(-1));
-    ASSERT_FALSE(banc.etabli.dialogues.boites.empty());
-    EXPECT_EQ(banc.etabli.dialogues.boites.front().texte,
+    ASSERT_FALSE(banc.etabli.dialogues.Boites().empty());
+    EXPECT_EQ(banc.etabli.dialogues.Boites().front().texte,
               QStringLiteral("Run-time error '91':\n\nObject variable not set"));
     ASSERT_FALSE(banc.sorties.empty());
     EXPECT_EQ(banc.sorties.front(), 1);
@@ -248,11 +248,11 @@ TEST(Connect, WithTimeOutSetShowsCaptionAndFamilyButReadsNothing) {
 TEST(Connect, ACancelWithNoDeviceStillReadsAndTellsThatItIsAbsent) {
     BancProgramme banc;
     ASSERT_TRUE(banc.Demarrer(-1));
-    banc.etabli.dialogues.boites.clear();
+    banc.etabli.dialogues.OublierBoites();
     banc.ui().mnuconnect->trigger();
-    ASSERT_EQ(banc.etabli.dialogues.boites.size(), 1U);
-    EXPECT_EQ(banc.etabli.dialogues.boites.front().texte, QStringLiteral("k-Pod absent"));
-    EXPECT_EQ(banc.etabli.dialogues.boites.front().titre, QString());
+    ASSERT_EQ(banc.etabli.dialogues.Boites().size(), 1U);
+    EXPECT_EQ(banc.etabli.dialogues.Boites().front().texte, QStringLiteral("k-Pod absent"));
+    EXPECT_EQ(banc.etabli.dialogues.Boites().front().titre, QString());
 }
 
 TEST(Connected, StaysTrueAfterTheLinkWasLost) {

@@ -90,7 +90,7 @@ TEST(LitVersionKpod, SilentDeviceLeavesTheVersionNumber) {
     EXPECT_FALSE(ok);
     EXPECT_EQ(b.ecran.etat.VersionLogiciel, 2.5);
     EXPECT_TRUE(b.ecran.etat.TimeOut);
-    EXPECT_TRUE(b.dialogues.boites.empty());
+    EXPECT_TRUE(b.dialogues.Boites().empty());
     EXPECT_EQ(b.lien.ReadHandle, 0);
 }
 
@@ -142,7 +142,7 @@ TEST(LitTypeKpod, FailureGivesEmptyText) {
     EXPECT_FALSE(b.ecran.etat.TimeOut);
     EXPECT_EQ(LitTypeKpod(b.poste), QString());
     EXPECT_TRUE(b.ecran.etat.TimeOut);
-    EXPECT_TRUE(b.dialogues.boites.empty());
+    EXPECT_TRUE(b.dialogues.Boites().empty());
     EXPECT_EQ(b.lien.ReadHandle, 0);
 }
 
@@ -209,7 +209,7 @@ TEST(LitNumeroSerieKpod, WrongEchoAndSilenceGiveEmptyTextWithoutABox) {
     EXPECT_FALSE(b.ecran.etat.TimeOut);
     EXPECT_EQ(LitNumeroSerieKpod(b.poste), QString());
     EXPECT_TRUE(b.ecran.etat.TimeOut);
-    EXPECT_TRUE(b.dialogues.boites.empty());
+    EXPECT_TRUE(b.dialogues.Boites().empty());
 }
 
 }  // namespace

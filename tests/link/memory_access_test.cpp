@@ -18,10 +18,10 @@ struct BancMemoire : BancLecture {
         enregistreur.pannes.Ordonner({.code = code, .genre = simulateur::GenrePanne::silence});
     }
     bool AbsentDit() const {
-        return etabli.dialogues.boites.size() == 1 &&
-               etabli.dialogues.boites[0].texte ==
+        return etabli.dialogues.Boites().size() == 1 &&
+               etabli.dialogues.Boites()[0].texte ==
                    const_cast<MainScreen&>(ecran).Texte(QStringLiteral("k-Pod Absent")) &&
-               etabli.dialogues.boites[0].titre.isEmpty();
+               etabli.dialogues.Boites()[0].titre.isEmpty();
     }
 };
 
@@ -57,7 +57,7 @@ TEST(MemoireFlash, DoesNotClearTimeOutAndThenReachesNoAnswer) {
     BancMemoire banc;
     banc.ecran.etat.TimeOut = true;
     EXPECT_TRUE(Memoire_Flash(banc.poste, true, 1, 0).empty());
-    EXPECT_TRUE(banc.etabli.dialogues.boites.empty());
+    EXPECT_TRUE(banc.etabli.dialogues.Boites().empty());
     EXPECT_EQ(banc.PoigneesOuvertes(), 0);
 }
 

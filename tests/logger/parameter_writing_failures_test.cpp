@@ -168,7 +168,10 @@ void PanneALaTrame::VerifierFormulaire() {
 
 TEST_P(PanneALaTrame, LeavesFormLinkAndLoggerAsToldAndASecondAttemptSucceeds) {
     banc.enregistreur.pannes.Ordonner({simulateur::toutesCommandes, cas.genre, cas.rang + 1, 1, 1});
-    Ecrire(banc.poste);
+    if (attente.boites.front() == ecrasees)
+        banc.EcrireEnConfirmant();
+    else
+        Ecrire(banc.poste);
     VerifierTrames();
     VerifierFin();
     VerifierPauses();
@@ -176,7 +179,7 @@ TEST_P(PanneALaTrame, LeavesFormLinkAndLoggerAsToldAndASecondAttemptSucceeds) {
     VerifierFormulaire();
 
     banc.bus.Rebrancher(banc.ecran.etat.UsbID);
-    Ecrire(banc.poste);
+    banc.EcrireEnConfirmant();
     EXPECT_EQ(banc.boites.back().texte, terminee);
     EXPECT_EQ(banc.Maintenant(), rendue);
     EXPECT_EQ(banc.Octets(44, 1), (std::vector<int>{138}));
@@ -210,7 +213,7 @@ TEST(EcritureInterrompue, EachOfTheFiveFramesEndsItWithOneBox) {
         SCOPED_TRACE(code);
         BancEcriture banc;
         banc.enregistreur.pannes.Ordonner({code, GenrePanne::silence});
-        Ecrire(banc.poste);
+        banc.EcrireEnConfirmant();
         ASSERT_EQ(banc.boites.size(), 2U);
         const BoiteVue& boite = banc.boites[1];
         EXPECT_EQ(boite.texte, "k-Pod absent");
@@ -226,7 +229,7 @@ TEST(EcritureInterrompue, EachOfTheFiveFramesEndsItWithOneBox) {
 TEST(EcritureInterrompue, NoLoggerAtAllIsToldBehindTheQuestion) {
     BancEcriture banc;
     banc.bus.Debrancher(banc.ecran.etat.UsbID);
-    Ecrire(banc.poste);
+    banc.EcrireEnConfirmant();
     EXPECT_EQ(banc.Boites(), (std::vector<std::string>{ecrasees, "k-Pod absent"}));
     EXPECT_EQ(banc.Codes(), "");
     EXPECT_EQ(banc.Maintenant(), rendue);
@@ -236,7 +239,7 @@ TEST(EcritureInterrompue, NoLoggerChosenIsToldToo) {
     BancEcriture banc;
     banc.ecran.etat.UsbID = 0;
     banc.ecran.etat.Connected = false;
-    Ecrire(banc.poste);
+    banc.EcrireEnConfirmant();
     EXPECT_EQ(banc.Boites(), (std::vector<std::string>{ecrasees, "k-Pod absent"}));
     EXPECT_EQ(banc.Maintenant(), rendue);
 }
@@ -246,8 +249,8 @@ TEST(EcritureInterrompue, ALoggerPulledOutWhileTheQuestionStandsIsNotWritten) {
     banc.etabli.dialogues.pendantBoite = [&](const DialoguesNotes::Boite_& boite) {
         if (boite.boutons == Boutons::OkAnnuler) banc.bus.Debrancher(banc.ecran.etat.UsbID);
     };
-    Ecrire(banc.poste);
-    EXPECT_EQ(banc.etabli.dialogues.boites.size(), 2U);
+    banc.EcrireEnConfirmant();
+    EXPECT_EQ(banc.etabli.dialogues.Boites().size(), 2U);
     EXPECT_EQ(banc.Codes(), "");
     EXPECT_EQ(banc.Maintenant(), rendue);
 }
@@ -257,7 +260,7 @@ TEST(EcritureInterrompue, ALoggerThatOpensOneWayOnlyIsToldOf) {
         SCOPED_TRACE(rang);
         BancEcriture banc;
         banc.enregistreur.pannes.OrdonnerEchecOuverture(rang, simulateur::sansFin);
-        Ecrire(banc.poste);
+        banc.EcrireEnConfirmant();
         EXPECT_EQ(banc.Boites(), (std::vector<std::string>{ecrasees, "k-Pod absent"}));
         EXPECT_EQ(banc.Maintenant(), rendue);
     }
@@ -266,7 +269,7 @@ TEST(EcritureInterrompue, ALoggerThatOpensOneWayOnlyIsToldOf) {
 TEST(EcritureInterrompue, TwoFailedAttemptsToSendAFrameAreNotNoticed) {
     BancEcriture banc;
     banc.enregistreur.pannes.OrdonnerEchecsEcriture(2, 3);
-    Ecrire(banc.poste);
+    banc.EcrireEnConfirmant();
     EXPECT_EQ(banc.Boites(), (std::vector<std::string>{ecrasees, terminee}));
     EXPECT_EQ(banc.Octets(44, 1), (std::vector<int>{138}));
 }
@@ -274,7 +277,7 @@ TEST(EcritureInterrompue, TwoFailedAttemptsToSendAFrameAreNotNoticed) {
 TEST(EcritureInterrompue, AFrameThatCannotBeSentIsASilentLogger) {
     BancEcriture banc;
     banc.enregistreur.pannes.OrdonnerEchecsEcriture(3, 3);  // behind 28, 1 and 3
-    Ecrire(banc.poste);
+    banc.EcrireEnConfirmant();
     EXPECT_EQ(banc.Boites(), (std::vector<std::string>{ecrasees, "k-Pod absent"}));
     EXPECT_EQ(banc.Codes(), "28 1 3 ");
     EXPECT_EQ(banc.Maintenant(), rendue);
@@ -283,7 +286,7 @@ TEST(EcritureInterrompue, AFrameThatCannotBeSentIsASilentLogger) {
 TEST(EcritureInterrompue, ALoggerThatStaysSilentBehindTheSetUpStillEndsWithTheSuccessBox) {
     BancEcriture banc;
     banc.enregistreur.pannes.Ordonner({30, GenrePanne::debranchement, 1});
-    Ecrire(banc.poste);
+    banc.EcrireEnConfirmant();
     // Once in the internal memory, once more in the reading.
     EXPECT_EQ(banc.Boites(),
               (std::vector<std::string>{ecrasees, "k-Pod absent", "k-Pod absent", terminee}));
@@ -294,7 +297,7 @@ TEST(EcritureInterrompue, ALoggerThatStaysSilentBehindTheSetUpStillEndsWithTheSu
 TEST(EcritureInterrompue, ALoggerThatComesBackBeforeTheReadingIsRead) {
     BancEcriture banc;
     banc.enregistreur.pannes.Ordonner({30, GenrePanne::silence, 1});
-    Ecrire(banc.poste);
+    banc.EcrireEnConfirmant();
     EXPECT_EQ(banc.Boites(), (std::vector<std::string>{ecrasees, "k-Pod absent", terminee}));
     EXPECT_FALSE(banc.ecran.etat.TimeOut);
     EXPECT_EQ(Clair(banc.ui.UniteImpulsion->text()), "m³      ");
@@ -303,7 +306,7 @@ TEST(EcritureInterrompue, ALoggerThatComesBackBeforeTheReadingIsRead) {
 TEST(EcritureInterrompue, ASilenceInTheReadingIsToldBeforeTheSuccessBox) {
     BancEcriture banc;
     banc.enregistreur.pannes.Ordonner({17, GenrePanne::silence});
-    Ecrire(banc.poste);
+    banc.EcrireEnConfirmant();
     EXPECT_EQ(banc.Boites(), (std::vector<std::string>{ecrasees, "k-Pod absent", terminee}));
     EXPECT_TRUE(banc.ecran.etat.TimeOut);
     EXPECT_EQ(banc.Maintenant(), rendue);
@@ -312,7 +315,7 @@ TEST(EcritureInterrompue, ASilenceInTheReadingIsToldBeforeTheSuccessBox) {
 TEST(EcritureInterrompue, ACalibrationUnderWayEndsTheReadingWithTheLinkOpen) {
     BancEcriture banc;
     banc.enregistreur.memoire.EcrireOctet(adresse::modeEtalonnage, 1);
-    Ecrire(banc.poste);
+    banc.EcrireEnConfirmant();
     EXPECT_EQ(banc.Boites(),
               (std::vector<std::string>{ecrasees, "Mode étalonnage en cours", terminee}));
     EXPECT_EQ(banc.Maintenant(), rendueOuverte);
@@ -322,7 +325,7 @@ TEST(EcritureInterrompue, NoiseInEveryAnswerEndsWithoutFault) {
     BancEcriture banc;
     banc.enregistreur.pannes.Ordonner(
         {simulateur::toutesCommandes, GenrePanne::bruit, 1, simulateur::sansFin});
-    Ecrire(banc.poste);
+    banc.EcrireEnConfirmant();
     EXPECT_EQ(banc.Boites(), (std::vector<std::string>{ecrasees, terminee}));
     EXPECT_EQ(banc.Octets(44, 1), (std::vector<int>{138}));
     EXPECT_TRUE(banc.etabli.fautes.empty());
@@ -331,14 +334,14 @@ TEST(EcritureInterrompue, NoiseInEveryAnswerEndsWithoutFault) {
 TEST(EcritureInterrompue, APeriodThatFitsNoFrameIsAFaultBeforeAnyIsSent) {
     BancEcriture banc;
     banc.ui.ListePeriodeEchantillonage->FixerDonnee(8, 65536);
-    EXPECT_EQ(NumeroDeFaute([&] { Ecrire(banc.poste); }), numero_faute::depassement);
+    EXPECT_EQ(NumeroDeFaute([&] { banc.EcrireEnConfirmant(); }), numero_faute::depassement);
     EXPECT_EQ(banc.Codes(), "28 ");
 }
 
 TEST(EcritureInterrompue, APeriodAfterTheTriggerThatFitsNoFrameIsAFaultBehindTwoOfThem) {
     BancEcriture banc;
     banc.ui.PeriodeTrigger->FixerDonnee(4, 65536);
-    EXPECT_EQ(NumeroDeFaute([&] { Ecrire(banc.poste); }), numero_faute::depassement);
+    EXPECT_EQ(NumeroDeFaute([&] { banc.EcrireEnConfirmant(); }), numero_faute::depassement);
     EXPECT_EQ(banc.Codes(), "28 1 3 ");
     EXPECT_EQ(banc.Octets(44, 1), (std::vector<int>{138}));
 }

@@ -117,7 +117,7 @@ class FaultAtEachCell : public testing::TestWithParam<GenrePanne> {
         banc.bus.Rebrancher(banc.enregistreur.identite.usb);
         banc.enregistreur.pannes.Annuler();
         banc.PanneCellule(GetParam(), place, 1, 4);
-        banc.etabli.dialogues.boites.clear();
+        banc.etabli.dialogues.OublierBoites();
         banc.Lire();
     }
     std::vector<std::string> Attendues(int place) const {
@@ -141,7 +141,7 @@ TEST_P(FaultAtEachCell, ChangesThatCellOrLosesTheLaterOnesAndTheFormComesBack) {
         EXPECT_EQ(banc.Lignes(), Attendues(place));
         ASSERT_EQ(banc.Boites(), Perdue() ? 2U : 1U);
         if (Perdue()) AttendreAbsent(banc.Boite(0));
-        AttendreAnnonce(banc, banc.etabli.dialogues.boites.back());
+        AttendreAnnonce(banc, banc.etabli.dialogues.Boites().back());
         EXPECT_EQ(banc.ecran.etat.TimeOut, Perdue());
         AttendreRepos(banc);
     }
@@ -216,7 +216,7 @@ TEST_P(OddInTheParameters, IsNoReasonNotToDump) {
         const BancReglages banc(GetParam(), codes, rang, 1);
         EXPECT_FALSE(banc.ecran.etat.TimeOut);
         EXPECT_EQ(banc.Lignes().size(), 1U + cellules);
-        AttendreAnnonce(banc, banc.etabli.dialogues.boites.back());
+        AttendreAnnonce(banc, banc.etabli.dialogues.Boites().back());
         AttendreRepos(banc);
     }
 }
