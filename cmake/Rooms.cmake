@@ -56,6 +56,7 @@ function(bornika_test name)
                                                ${TEST_LINKS})
     bornika_options(test_${name})
     include(GoogleTest)
-    gtest_discover_tests(test_${name} TEST_PREFIX "${name}." DISCOVERY_TIMEOUT 120
+    gtest_discover_tests(test_${name} TEST_PREFIX "${name}." NO_PRETTY_VALUES
+        DISCOVERY_TIMEOUT 120
         PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8" TIMEOUT 300)
 endfunction()

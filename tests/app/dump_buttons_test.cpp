@@ -5,6 +5,7 @@
 #include <QFile>
 
 #include "app/program_fixture.h"
+#include "support/case_names.h"
 
 namespace bornika {
 namespace {
@@ -242,7 +243,11 @@ INSTANTIATE_TEST_SUITE_P(Texts, PageTexts,
                          testing::Values(std::tuple("abc", "1", 13), std::tuple("", "1", 13),
                                          std::tuple("1", "", 13), std::tuple("1", "1 2", 13),
                                          std::tuple("1", "40000", 6), std::tuple("-32769", "1", 6),
-                                         std::tuple("32767.5", "1", 6)));
+                                         std::tuple("32767.5", "1", 6)),
+                         [](const auto& cas) {
+                             const auto& [debut, fin, numero] = cas.param;
+                             return essai::NomDeCas(cas.index, debut + std::string(" to ") + fin);
+                         });
 
 TEST_F(DumpButtons, APageNumberIsRoundedHalfToEven) {
     LirePages("0.5", " 2.5 ");

@@ -6,6 +6,7 @@
 #include <QTimer>
 
 #include "app/program_fixture.h"
+#include "support/case_names.h"
 #include "viewer/trace_form.h"
 
 namespace bornika {
@@ -44,8 +45,8 @@ TEST_P(UnwritableFolder, IsToldInOneBoxAndNothingElseHappens) {
     EXPECT_EQ(FicheOuverte<MainScreen>(), nullptr);
 }
 
-INSTANTIATE_TEST_SUITE_P(Folders, UnwritableFolder,
-                         testing::Values("/proc", "/nowhere/at/all", ""));
+INSTANTIATE_TEST_SUITE_P(Folders, UnwritableFolder, testing::Values("/proc", "/nowhere/at/all", ""),
+                         [](const auto& cas) { return essai::NomDeCas(cas.index, cas.param); });
 
 TEST(WholeProgram, EndsWithTheMainFormAlsoWhenTheViewerStandsOpen) {
     BancProgramme banc;

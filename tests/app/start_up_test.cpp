@@ -6,6 +6,7 @@
 
 #include "app/program_fixture.h"
 #include "app/watchdog.h"
+#include "support/case_names.h"
 
 namespace bornika {
 namespace {
@@ -141,7 +142,12 @@ INSTANTIATE_TEST_SUITE_P(Codes, SizeSetting,
                                          Taille{"<Taille>4</Taille>", 540606},
                                          Taille{"<Taille>3</Taille>", 540606}, Taille{"", 540606},
                                          Taille{"<Taille>abc</Taille>", 540606},
-                                         Taille{"<Taille>99999999999</Taille>", 540606}));
+                                         Taille{"<Taille>99999999999</Taille>", 540606}),
+                         [](const auto& cas) {
+                             QByteArray valeur = cas.param.texte;
+                             valeur.replace("Taille>", "");
+                             return essai::NomDeCas(cas.index, valeur.toStdString());
+                         });
 
 TEST(Load, AMissingLanguageOpensWithNoneSelectedAndChoosingOneRepairsAllLists) {
     BancProgramme banc;

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "calibration/calibration_fixture.h"
+#include "support/case_names.h"
 
 namespace bornika::essai {
 namespace {
@@ -86,11 +87,8 @@ std::vector<Essai> Essais() {
 }
 
 std::string NomMuet(const testing::TestParamInfo<Essai>& info) {
-    const char* const genre = info.param.genre == GenrePanne::silence         ? "Silent"
-                              : info.param.genre == GenrePanne::reponsePerdue ? "Lost"
-                                                                              : "PulledOut";
     return std::string(info.param.casMuets.nom) + "_" + std::to_string(info.param.rang) + "_" +
-           genre;
+           NomDePanne(info.param.genre);
 }
 
 class CalibrationFailures : public testing::TestWithParam<Essai> {

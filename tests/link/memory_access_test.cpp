@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "retrieval/retrieval_fixture.h"
+#include "support/case_names.h"
 #include "support/fault_number.h"
 
 namespace bornika::essai {
@@ -243,7 +244,7 @@ TEST_P(OutOfRange, AddressesAreAnOverflowAndNothingIsSent) {
     EXPECT_EQ(banc.enregistreur.journal.Total(), 0);
 }
 
-INSTANTIATE_TEST_SUITE_P(Addresses, OutOfRange, testing::Values(-1, 65536));
+INSTANTIATE_TEST_SUITE_P(Addresses, OutOfRange, testing::Values(-1, 65536), nomDuCasImprime);
 
 TEST(EcritEEpromInterne, AValueThatIsNoByteIsAnOverflowAndNothingIsSent) {
     BancMemoire banc;

@@ -8,6 +8,7 @@
 #include "logger/logger_fixture.h"
 #include "logger/parameter_reading.h"
 #include "platform/fault.h"
+#include "support/case_names.h"
 #include "support/fault_number.h"
 
 namespace bornika::essai {
@@ -464,9 +465,11 @@ TEST_P(MorceauAutre, IsWrittenAsItCameAndWhatDidNotComeIsZero) {
 
 INSTANTIATE_TEST_SUITE_P(Kinds, MorceauPerdu,
                          testing::Values(GenrePanne::silence, GenrePanne::reponsePerdue,
-                                         GenrePanne::debranchement));
+                                         GenrePanne::debranchement),
+                         nomDuCasPanne);
 INSTANTIATE_TEST_SUITE_P(Kinds, MorceauAutre,
                          testing::Values(GenrePanne::reponseCourte, GenrePanne::mauvaisEcho,
-                                         GenrePanne::bruit));
+                                         GenrePanne::bruit),
+                         nomDuCasPanne);
 
 }  // namespace bornika::essai

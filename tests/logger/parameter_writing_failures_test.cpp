@@ -5,6 +5,7 @@
 #include "logger/writing_fixture.h"
 #include "platform/code_page.h"
 #include "platform/numbers.h"
+#include "support/case_names.h"
 #include "support/fault_number.h"
 
 namespace bornika::essai {
@@ -197,11 +198,9 @@ std::vector<Cas> TousLesCas() {
 }
 
 std::string NomDuCasEcrit(const testing::TestParamInfo<Cas>& cas) {
-    static const char* const noms[] = {"None",      "Silent", "AnswerLost", "Short",
-                                       "WrongEcho", "Noise",  "Unplugged"};
     const auto& trame = TramesCompletes()[static_cast<std::size_t>(cas.param.rang)];
-    return std::string(noms[static_cast<std::size_t>(cas.param.genre)]) + "Rank" +
-           std::to_string(cas.param.rang) + "Code" + std::to_string(trame[0]);
+    return NomDePanne(cas.param.genre) + "Rank" + std::to_string(cas.param.rang) + "Code" +
+           std::to_string(trame[0]);
 }
 
 INSTANTIATE_TEST_SUITE_P(ChaqueTrame, PanneALaTrame, testing::ValuesIn(TousLesCas()),

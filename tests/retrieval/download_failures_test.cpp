@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "retrieval/retrieval_fixture.h"
+#include "support/case_names.h"
 #include "widgets/pointer_shape.h"
 
 namespace bornika::essai {
@@ -57,7 +58,7 @@ TEST_P(FewFailures, InARowAreSilentAndNothingIsLost) {
     EXPECT_EQ(banc.PoigneesOuvertes(), 0);
 }
 
-INSTANTIATE_TEST_SUITE_P(UpToFive, FewFailures, testing::Values(1, 2, 5));
+INSTANTIATE_TEST_SUITE_P(UpToFive, FewFailures, testing::Values(1, 2, 5), nomDuCasImprime);
 
 TEST(Download, TheSixthFailureInARowEndsItAndSaysSo) {
     BancPlein banc;
@@ -156,7 +157,7 @@ TEST_P(Unplugged, AtAnyRequestEndsByTheLossOfTheLogger) {
     AttendreAppareilPerdu(banc);
 }
 
-INSTANTIATE_TEST_SUITE_P(Requests, Unplugged, testing::Values(1, 2, 3, 15, 29));
+INSTANTIATE_TEST_SUITE_P(Requests, Unplugged, testing::Values(1, 2, 3, 15, 29), nomDuCasImprime);
 
 TEST(Download, APluggedBackLoggerIsTakenUpAgain) {
     BancPlein banc;

@@ -260,7 +260,8 @@ TEST_P(AbsolutePressure, IsTakenOffInPeriodicLinesOfTheErrFileOnly) {
     EXPECT_EQ(pression(banc.Rejets(), 2), "8");
 }
 
-INSTANTIATE_TEST_SUITE_P(Both, AbsolutePressure, testing::Bool());
+INSTANTIATE_TEST_SUITE_P(Both, AbsolutePressure, testing::Bool(),
+                         testing::PrintToStringParamName());
 
 TEST(LireValeurs, ALoggerOfVersion211IsReadThroughItsCard) {
     BancLecture banc(simulateur::KPod2110(t0));

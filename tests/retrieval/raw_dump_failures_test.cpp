@@ -9,6 +9,7 @@
 
 #include "logger/parameter_reading.h"
 #include "retrieval/raw_dump_fixture.h"
+#include "support/case_names.h"
 #include "support/limits.h"
 
 namespace bornika::essai {
@@ -75,7 +76,11 @@ INSTANTIATE_TEST_SUITE_P(Kinds, LostAtCell,
                          testing::Combine(testing::Values(GenrePanne::silence,
                                                           GenrePanne::reponsePerdue,
                                                           GenrePanne::debranchement),
-                                          testing::Values(1, 2, 66, 67, 132)));
+                                          testing::Values(1, 2, 66, 67, 132)),
+                         [](const auto& cas) {
+                             return NomDePanne(std::get<0>(cas.param)) + "AtCell" +
+                                    std::to_string(std::get<1>(cas.param));
+                         });
 
 TEST(RawDumpFailing, ShowsTheAbsentLoggerWhileEverythingReadIsOnTheDisk) {
     BancDump banc;
@@ -104,7 +109,7 @@ TEST_P(ShortAnswer, CountsAndWhatDidNotComeIsZero) {
     AttendreRepos(banc);
 }
 
-INSTANTIATE_TEST_SUITE_P(Cells, ShortAnswer, testing::Values(1, 2, 66, 67, 132));
+INSTANTIATE_TEST_SUITE_P(Cells, ShortAnswer, testing::Values(1, 2, 66, 67, 132), nomDuCasImprime);
 
 /// One dump of a page after the other on one form, each with its fault at another cell.
 class FaultAtEachCell : public testing::TestWithParam<GenrePanne> {
@@ -150,7 +155,8 @@ TEST_P(FaultAtEachCell, ChangesThatCellOrLosesTheLaterOnesAndTheFormComesBack) {
 INSTANTIATE_TEST_SUITE_P(Kinds, FaultAtEachCell,
                          testing::Values(GenrePanne::silence, GenrePanne::reponsePerdue,
                                          GenrePanne::debranchement, GenrePanne::reponseCourte,
-                                         GenrePanne::mauvaisEcho));
+                                         GenrePanne::mauvaisEcho),
+                         nomDuCasPanne);
 
 TEST(RawDumpFailing, NoiseIsWrittenAsItCameAndGoesNoFurther) {
     BancDump banc;
@@ -205,7 +211,8 @@ TEST_P(LostInTheParameters, MakesNoFileAndLeavesItsButtonDisabled) {
 
 INSTANTIATE_TEST_SUITE_P(Kinds, LostInTheParameters,
                          testing::Values(GenrePanne::silence, GenrePanne::reponsePerdue,
-                                         GenrePanne::debranchement));
+                                         GenrePanne::debranchement),
+                         nomDuCasPanne);
 
 class OddInTheParameters : public testing::TestWithParam<GenrePanne> {};
 
@@ -223,7 +230,8 @@ TEST_P(OddInTheParameters, IsNoReasonNotToDump) {
 
 INSTANTIATE_TEST_SUITE_P(Kinds, OddInTheParameters,
                          testing::Values(GenrePanne::reponseCourte, GenrePanne::mauvaisEcho,
-                                         GenrePanne::bruit));
+                                         GenrePanne::bruit),
+                         nomDuCasPanne);
 
 TEST(RawDumpFailing, AFileThatCannotBeMadeIsAFault) {
     BancDump banc;

@@ -4,6 +4,7 @@
 
 #include "settings/config_store_support.h"
 #include "shell/main_screen.h"
+#include "support/case_names.h"
 
 namespace bornika::essai {
 namespace {
@@ -191,7 +192,10 @@ INSTANTIATE_TEST_SUITE_P(
         Cas{"<vendeur>1</vendeur><Produit>2</Produit>", "vendeur", "1", "UsbAttenduEntrees"},
         Cas{BON "<Delai>5</Delai><Delai>6</Delai>", "Delai", "6", "UsbAttenduUneFois"},
         Cas{"<Vendeur>7</Vendeur><Produit>0x0008</Produit><Interface>1</Interface>", "Produit",
-            "0x0008", "UsbAttenduAutreProduit"}));
+            "0x0008", "UsbAttenduAutreProduit"}),
+    [](const auto& cas) {
+        return NomDeCas(cas.index, cas.param.entree + std::string(" ") + cas.param.valeur);
+    });
 
 #undef BON
 
