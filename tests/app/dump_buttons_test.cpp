@@ -239,15 +239,17 @@ TEST_P(PageTexts, ThatAreNoPageNumbersEndTheProgramBeforeAnyFrame) {
     EXPECT_TRUE(banc.ui().LireValeursPage->isEnabled());
 }
 
+std::string NomDesPages(const testing::TestParamInfo<PageTexts::ParamType>& info) {
+    const auto& [debut, fin, numero] = info.param;
+    return essai::NomDeCas(info.index, debut + std::string(" to ") + fin);
+}
+
 INSTANTIATE_TEST_SUITE_P(Texts, PageTexts,
                          testing::Values(std::tuple("abc", "1", 13), std::tuple("", "1", 13),
                                          std::tuple("1", "", 13), std::tuple("1", "1 2", 13),
                                          std::tuple("1", "40000", 6), std::tuple("-32769", "1", 6),
                                          std::tuple("32767.5", "1", 6)),
-                         [](const auto& cas) {
-                             const auto& [debut, fin, numero] = cas.param;
-                             return essai::NomDeCas(cas.index, debut + std::string(" to ") + fin);
-                         });
+                         NomDesPages);
 
 TEST_F(DumpButtons, APageNumberIsRoundedHalfToEven) {
     LirePages("0.5", " 2.5 ");

@@ -120,13 +120,15 @@ TEST_P(CalibrationQuit, ClosesTheFormInEveryStateWithoutAWordToTheLogger) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Table, CalibrationQuit,
-    testing::Values(Avance::Repos, Avance::PointUn, Avance::AttenteDeux, Avance::PointDeux),
-    [](const auto& cas) -> std::string {
-        constexpr const char* noms[] = {"Idle", "OneSent", "Waiting", "TwoSent"};
-        return noms[static_cast<std::size_t>(cas.param)];
-    });
+std::string NomAvance(const testing::TestParamInfo<Avance>& info) {
+    constexpr const char* noms[] = {"Idle", "OneSent", "Waiting", "TwoSent"};
+    return noms[static_cast<std::size_t>(info.param)];
+}
+
+INSTANTIATE_TEST_SUITE_P(Table, CalibrationQuit,
+                         testing::Values(Avance::Repos, Avance::PointUn, Avance::AttenteDeux,
+                                         Avance::PointDeux),
+                         NomAvance);
 
 // Nothing disables the way out; every step but the way to a second point enables it all the same.
 TEST(CalibrationWayOut, IsEnabledByEveryStepButTheWayToASecondPoint) {
