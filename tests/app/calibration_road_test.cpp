@@ -75,6 +75,8 @@ struct CalibrationOnTheRoad : testing::Test {
         saisie->setFocus();
         saisie->selectAll();
         QTest::keyClicks(saisie, QString::fromLatin1(pression));
+        banc.etabli.dialogues.AnnoncerInformation(QStringLiteral("Débranchez le cordon USB"));
+        banc.etabli.dialogues.AnnoncerInformation(QStringLiteral("rebranchez le cordon USB"));
         int boites = 0;
         banc.etabli.dialogues.pendantBoite = [&](const auto&) {
             if (++boites == 1) {
@@ -91,6 +93,7 @@ struct CalibrationOnTheRoad : testing::Test {
     }
     /// Points and pressure of each line of the recording.
     Lignes Telecharger() {
+        banc.etabli.dialogues.AnnoncerInformation(QStringLiteral("Valeurs stockées"));
         BancProgramme::Cliquer(banc.ui().LireValeurs);
         Lignes lignes;
         for (const QByteArray& ligne : banc.etabli.Lire("2026-03-05-14-07-09.txt").split('\n')) {

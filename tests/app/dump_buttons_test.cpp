@@ -123,6 +123,7 @@ TEST_F(DumpButtons, ThePagesGoToAFileBesideTheProgram) {
 }
 
 TEST_F(DumpButtons, TheFirstPageIsTheOneThatTheLoggerStoredFirst) {
+    banc.etabli.dialogues.AnnoncerInformation(QStringLiteral("Valeurs stockées"));
     LirePages("1", "1");
     const simulateur::MesureEnFlash premiere = pod.Stockee(0);
     const std::uint32_t secondes = static_cast<std::uint32_t>(premiere[2]) << 24 |
@@ -142,6 +143,7 @@ TEST_F(DumpButtons, ASecondClickWhileItRunsDoesNothing) {
 TEST_F(DumpButtons, TheContextCanBeDumpedWhileThePagesAre) {
     banc.etabli.dialogues.AnnoncerEnregistrement(banc.etabli.Chemin(contexte));
     AuTour(20, [&] { BancProgramme::Cliquer(banc.ui().LireEeprom); });
+    banc.etabli.dialogues.AnnoncerInformation(QStringLiteral("Valeurs stockées"));
     LirePages("1", "1");
     EXPECT_EQ(Lignes(contexte).size(), 168);
     EXPECT_EQ(Lignes(pages).size(), 68);
@@ -163,6 +165,7 @@ TEST_F(DumpButtons, ADownloadLosesNothingOverTheServiceReadingsInsideIt) {
     pod.ViderMesures();
     for (std::uint32_t i = 0; i < 120; ++i)
         pod.Stocker(simulateur::MesurePeriodique(maintenantSimule - 1000 + i, 500));
+    banc.etabli.dialogues.AnnoncerInformation(QStringLiteral("Valeurs stockées"));
     BancProgramme::Cliquer(banc.ui().LireValeurs);
     const QByteArray seul = banc.etabli.Lire(mesures);
     ASSERT_GT(seul.count('\n'), 100);
@@ -174,6 +177,7 @@ TEST_F(DumpButtons, ADownloadLosesNothingOverTheServiceReadingsInsideIt) {
         if (tours == 20) BancProgramme::Cliquer(banc.ui().LireEeprom);
         if (tours == 40) BancProgramme::Cliquer(banc.ui().LireLaFlash);
     });
+    banc.etabli.dialogues.AnnoncerInformation(QStringLiteral("Valeurs stockées"));
     BancProgramme::Cliquer(banc.ui().LireValeurs);
     EXPECT_EQ(Lignes(contexte).size(), 168);
     EXPECT_FALSE(banc.ui().resultat->text().isEmpty());
@@ -252,6 +256,7 @@ INSTANTIATE_TEST_SUITE_P(Texts, PageTexts,
                          NomDesPages);
 
 TEST_F(DumpButtons, APageNumberIsRoundedHalfToEven) {
+    banc.etabli.dialogues.AnnoncerInformation(QStringLiteral("Valeurs stockées"));
     LirePages("0.5", " 2.5 ");
     EXPECT_EQ(pod.journal.Nombre(20), 3 * 66);
     EXPECT_EQ(pod.journal.DeCode(20).front()[2], 0);

@@ -65,6 +65,7 @@ TEST_F(Road, ASecondClickCancelsAndLeavesACompleteFileWithItsCurve) {
     banc.etabli.respiration.ReglerEvenements([&] {
         if (++tours == 500) BancProgramme::Cliquer(banc.ui().LireValeurs);
     });
+    banc.etabli.dialogues.AnnoncerInformation(QStringLiteral("Valeurs stockées"));
     BancProgramme::Cliquer(banc.ui().LireValeurs);
     const int lignes = Lignes(nomSelonHorloge + QStringLiteral(".txt"));
     EXPECT_GT(lignes, 100);
@@ -117,6 +118,7 @@ TEST_F(Road, ALoggerPulledOutKeepsWhatWasReceivedAndSaysSo) {
     banc.etabli.respiration.ReglerEvenements([] {});
     banc.bus.Rebrancher(banc.ecran().etat.UsbID);
     banc.etabli.horloge.instant = banc.etabli.horloge.instant.addSecs(60);
+    banc.etabli.dialogues.AnnoncerInformation(QStringLiteral("Valeurs stockées"));
     BancProgramme::Cliquer(banc.ui().LireValeurs);
     EXPECT_GT(Lignes(QStringLiteral("2026-03-05-14-08-09.txt")), 20'000);
 }

@@ -13,6 +13,7 @@ using essai::Visionneuse;
 
 TEST(CommandOpen, AsksForOneOrSeveralTextFilesOfTheProgramsFolder) {
     Visionneuse v;
+    v.etabli.dialogues.AnnoncerOuverture(std::nullopt);
     v.Ui().CommandOpen->click();
     ASSERT_EQ(v.etabli.dialogues.demandes.size(), 1U);
     const DemandeFichier& demande = v.etabli.dialogues.demandes[0];
