@@ -96,6 +96,7 @@ function(bornika_test name)
     bornika_options(test_${name})
     bornika_precompiled(test_${name} tests)
     include(GoogleTest)
-    gtest_discover_tests(test_${name} TEST_PREFIX "${name}." DISCOVERY_TIMEOUT 120
+    gtest_discover_tests(test_${name} TEST_PREFIX "${name}." NO_PRETTY_VALUES
+        DISCOVERY_TIMEOUT 120
         PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8" TIMEOUT 300)
 endfunction()

@@ -46,7 +46,7 @@ struct CalibrationOnTheRoad : testing::Test {
         pod = &banc.bus.Brancher(std::move(enregistreur));
         ASSERT_TRUE(banc.Demarrer());
         BancProgramme::Cliquer(banc.ui().Lire);
-        banc.etabli.dialogues.boites.clear();
+        banc.etabli.dialogues.OublierBoites();
     }
     /// One measure a second; the last one ends the second before it and is not written itself.
     void Stocker(const std::vector<int>& points) {
@@ -75,6 +75,8 @@ struct CalibrationOnTheRoad : testing::Test {
         saisie->setFocus();
         saisie->selectAll();
         QTest::keyClicks(saisie, QString::fromLatin1(pression));
+        banc.etabli.dialogues.AnnoncerInformation(QStringLiteral("Débranchez le cordon USB"));
+        banc.etabli.dialogues.AnnoncerInformation(QStringLiteral("rebranchez le cordon USB"));
         int boites = 0;
         banc.etabli.dialogues.pendantBoite = [&](const auto&) {
             if (++boites == 1) {
@@ -91,6 +93,7 @@ struct CalibrationOnTheRoad : testing::Test {
     }
     /// Points and pressure of each line of the recording.
     Lignes Telecharger() {
+        banc.etabli.dialogues.AnnoncerInformation(QStringLiteral("Valeurs stockées"));
         BancProgramme::Cliquer(banc.ui().LireValeurs);
         Lignes lignes;
         for (const QByteArray& ligne : banc.etabli.Lire("2026-03-05-14-07-09.txt").split('\n')) {
@@ -106,7 +109,7 @@ TEST_F(CalibrationOnTheRoad, WithTwoPointsIsInThePressuresOfTheNextRecording) {
     Commencer(simulateur::KPod2100(maintenantSimule));
     Etalonner([this](Etalonnage& fiche) {
         PrendrePoint(fiche, 0, "2", 130);
-        banc.etabli.dialogues.reponses = {Reponse::Oui};
+        banc.etabli.dialogues.AnnoncerQuestion(Reponse::Oui);
         BancProgramme::Cliquer(fiche.ui->SortirEtalonnage);
         PrendrePoint(fiche, 1, "12", 750);
         BancProgramme::Cliquer(fiche.ui->SortirEtalonnage);
@@ -132,7 +135,7 @@ TEST_F(CalibrationOnTheRoad, WithOnePointShiftsThePressuresOfTheNextRecording) {
     Commencer(simulateur::KPod2100(maintenantSimule));
     Etalonner([this](Etalonnage& fiche) {
         PrendrePoint(fiche, 0, "5", 316);
-        banc.etabli.dialogues.reponses = {Reponse::Non};
+        banc.etabli.dialogues.AnnoncerQuestion(Reponse::Non);
         BancProgramme::Cliquer(fiche.ui->SortirEtalonnage);
         EXPECT_FALSE(fiche.ui->ValeurPressionReelle_1->isVisible());
     });
@@ -145,10 +148,10 @@ TEST_F(CalibrationOnTheRoad, OfOldFirmwareShiftsThePressuresToo) {
     Etalonner([this](Etalonnage& fiche) {
         // The first click only fills the hidden second box.
         BancProgramme::Cliquer(fiche.ui->EntrerEtalonnage);
-        EXPECT_TRUE(banc.etabli.dialogues.boites.empty());
+        EXPECT_TRUE(banc.etabli.dialogues.Boites().empty());
         PrendrePoint(fiche, 0, "5", 316);
         BancProgramme::Cliquer(fiche.ui->SortirEtalonnage);
-        EXPECT_EQ(banc.etabli.dialogues.boites.size(), 2U) << "no question";
+        EXPECT_EQ(banc.etabli.dialogues.Boites().size(), 2U) << "no question";
     });
     Stocker({316, 416, 0});
     EXPECT_EQ(Telecharger(), (Lignes{{316, "5"}, {416, "6.563"}, {0, "0.063"}}));
@@ -172,8 +175,8 @@ TEST_F(CalibrationOnTheRoad, SaysThatTheLoggerIsAbsentAndComesUpAllTheSame) {
     Commencer(simulateur::KPod2100(maintenantSimule));
     banc.bus.Debrancher(pod->identite.usb);
     Etalonner([this](Etalonnage& fiche) {
-        ASSERT_EQ(banc.etabli.dialogues.boites.size(), 1U);
-        EXPECT_EQ(banc.etabli.dialogues.boites.front().texte, QStringLiteral("k-Pod absent"));
+        ASSERT_EQ(banc.etabli.dialogues.Boites().size(), 1U);
+        EXPECT_EQ(banc.etabli.dialogues.Boites().front().texte, QStringLiteral("k-Pod absent"));
         banc.bus.Rebrancher(pod->identite.usb);
         fiche.ui->ValeurPressionReelle_1->setText(QStringLiteral("0"));
         PrendrePoint(fiche, 0, "5", 316);
@@ -186,13 +189,13 @@ TEST_F(CalibrationOnTheRoad, LeftBetweenTwoPointsSaysSoAtTheNextReading) {
     Commencer(simulateur::KPod2100(maintenantSimule));
     Etalonner([this](Etalonnage& fiche) {
         PrendrePoint(fiche, 0, "2", 130);
-        banc.etabli.dialogues.reponses = {Reponse::Oui};
+        banc.etabli.dialogues.AnnoncerQuestion(Reponse::Oui);
         BancProgramme::Cliquer(fiche.ui->SortirEtalonnage);
     });
-    banc.etabli.dialogues.boites.clear();
+    banc.etabli.dialogues.OublierBoites();
     BancProgramme::Cliquer(banc.ui().Lire);
-    ASSERT_EQ(banc.etabli.dialogues.boites.size(), 1U);
-    EXPECT_EQ(banc.etabli.dialogues.boites.front().texte,
+    ASSERT_EQ(banc.etabli.dialogues.Boites().size(), 1U);
+    EXPECT_EQ(banc.etabli.dialogues.Boites().front().texte,
               QStringLiteral("Mode étalonnage en cours"));
 }
 

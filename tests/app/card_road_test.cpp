@@ -31,7 +31,7 @@ struct CardRoad : testing::Test {
     void Demarrer(int ligne = 2) { ASSERT_TRUE(banc.Demarrer(ligne)); }
     QString Carte() { return banc.etabli.Chemin(QStringLiteral("CARD")); }
     void Importer(const QString& choix) {
-        banc.etabli.dialogues.fichiers = {choix};
+        banc.etabli.dialogues.AnnoncerOuverture(choix);
         BancProgramme::Cliquer(banc.ui().LireSD);
     }
 };
@@ -47,9 +47,9 @@ TEST_F(CardRoad, ChooseImportTwoFilesAndSeeOneCurve) {
     EXPECT_EQ(fichier, banc.etabli.Lire(QStringLiteral("CARD/LOG00001.TXT")) +
                            banc.etabli.Lire(QStringLiteral("CARD/LOG00002.TXT")));
     EXPECT_EQ(banc.ecran().windowTitle(), Carte());
-    ASSERT_EQ(banc.etabli.dialogues.boites.size(), 1U);
-    EXPECT_EQ(banc.etabli.dialogues.boites[0].titre, QStringLiteral("k-Pod 33"));
-    EXPECT_EQ(banc.etabli.dialogues.boites[0].texte,
+    ASSERT_EQ(banc.etabli.dialogues.Boites().size(), 1U);
+    EXPECT_EQ(banc.etabli.dialogues.Boites()[0].titre, QStringLiteral("k-Pod 33"));
+    EXPECT_EQ(banc.etabli.dialogues.Boites()[0].texte,
               QStringLiteral("Valeurs stockées dans le fichier ") + nomSelonHorloge +
                   QStringLiteral(".txt"));
 
@@ -66,9 +66,9 @@ TEST_F(CardRoad, AFileThatCannotBeReadEndsTheProgramInGoodOrder) {
     Demarrer();
     Importer(Carte() + QStringLiteral("/GONE.TXT"));
     EXPECT_EQ(banc.sorties, std::vector<int>({1}));
-    ASSERT_EQ(banc.etabli.dialogues.boites.size(), 1U);
-    EXPECT_EQ(banc.etabli.dialogues.boites[0].icone, Icone::Critique);
-    EXPECT_EQ(banc.etabli.dialogues.boites[0].texte,
+    ASSERT_EQ(banc.etabli.dialogues.Boites().size(), 1U);
+    EXPECT_EQ(banc.etabli.dialogues.Boites()[0].icone, Icone::Critique);
+    EXPECT_EQ(banc.etabli.dialogues.Boites()[0].texte,
               QStringLiteral("Run-time error '53':\n\nGONE.TXT : File not found"));
     EXPECT_TRUE(banc.etabli.Fichiers().filter(nomSelonHorloge).isEmpty());
     EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);
@@ -78,9 +78,10 @@ TEST_F(CardRoad, TheLogOfStartsAndACancelLeaveTheFormAsItWas) {
     Demarrer();
     const QString titre = banc.ecran().windowTitle();
     Importer(Carte() + QStringLiteral("/STARTLOG.TXT"));
+    banc.etabli.dialogues.AnnoncerOuverture(std::nullopt);
     BancProgramme::Cliquer(banc.ui().LireSD);
     EXPECT_EQ(banc.etabli.dialogues.demandes.size(), 2U);
-    EXPECT_TRUE(banc.etabli.dialogues.boites.empty());
+    EXPECT_TRUE(banc.etabli.dialogues.Boites().empty());
     EXPECT_EQ(banc.ecran().windowTitle(), titre);
     EXPECT_EQ(banc.programme->trace.Presente(), nullptr);
 }
@@ -92,13 +93,14 @@ TEST_F(CardRoad, AFolderNamedAsTheLogOfStartsStopsTheImportToo) {
     banc.etabli.Ecrire(QStringLiteral("startlog/LOG00001.TXT"),
                        banc.etabli.Lire(QStringLiteral("CARD/LOG00001.TXT")));
     Importer(programme.filePath(QStringLiteral("startlog/LOG00001.TXT")));
-    EXPECT_TRUE(banc.etabli.dialogues.boites.empty());
+    EXPECT_TRUE(banc.etabli.dialogues.Boites().empty());
     EXPECT_TRUE(banc.etabli.Fichiers().filter(nomSelonHorloge).isEmpty());
     EXPECT_EQ(banc.programme->trace.Presente(), nullptr);
 }
 
 TEST_F(CardRoad, TheRecordingIsWholeAndTheCaptionSetWhileTheBoxStandsAndTheCurveComesAfter) {
     Demarrer();
+    banc.etabli.dialogues.AnnoncerInformation(QStringLiteral("Valeurs stockées"));
     int boites = 0;
     banc.etabli.dialogues.pendantBoite = [&](const auto&) {
         ++boites;
@@ -116,6 +118,7 @@ TEST_F(CardRoad, TheNextImportTakesThePlaceOfTheCurveThatIsShown) {
     Demarrer();
     for (const char* nom : {"LOG00001.TXT", "LOG00002.TXT"}) {
         const QString fichier = QStringLiteral("CARD/") + QString::fromLatin1(nom);
+        banc.etabli.dialogues.AnnoncerInformation(QStringLiteral("Valeurs stockées"));
         Importer(banc.etabli.Chemin(fichier));
         EXPECT_EQ(banc.programme->trace.Presente()->modele.Serie(0).Nombre(),
                   banc.etabli.Lire(fichier).count("\r\n") - 1)
@@ -136,12 +139,13 @@ TEST(CardWithoutItsLogger, IsImportedForTheProductThatWasChosenByHand) {
     };
     ASSERT_TRUE(banc.Demarrer(-1));
     ASSERT_TRUE(banc.ui().LireSD->isVisible());
-    banc.etabli.dialogues.fichiers = {banc.etabli.Chemin(QStringLiteral("CARD/LOG00001.TXT"))};
+    banc.etabli.dialogues.AnnoncerOuverture(
+        banc.etabli.Chemin(QStringLiteral("CARD/LOG00001.TXT")));
     BancProgramme::Cliquer(banc.ui().LireSD);
     EXPECT_EQ(banc.etabli.Lire(nomSelonHorloge + QStringLiteral(".txt")),
               banc.etabli.Lire(QStringLiteral("CARD/LOG00001.TXT")));
-    ASSERT_EQ(banc.etabli.dialogues.boites.size(), 1U);
-    EXPECT_EQ(banc.etabli.dialogues.boites[0].titre, QStringLiteral("k-Pod 33"));
+    ASSERT_EQ(banc.etabli.dialogues.Boites().size(), 1U);
+    EXPECT_EQ(banc.etabli.dialogues.Boites()[0].titre, QStringLiteral("k-Pod 33"));
     EXPECT_NE(banc.programme->trace.Presente(), nullptr);
 }
 
@@ -153,12 +157,12 @@ TEST_F(CardRoad, TheTwoFamiliesSendEachOtherAway) {
     BancProgramme::Cliquer(banc.ui().LireSD);
     banc.main = [](QDialog& dialogue) { BancProgramme::ChoisirLigne(dialogue, 5); };
     banc.ui().mnuconnect->trigger();
-    const std::size_t avant = banc.etabli.dialogues.boites.size();
+    const std::size_t avant = banc.etabli.dialogues.Boites().size();
     BancProgramme::Cliquer(banc.ui().LireValeurs);
-    ASSERT_EQ(banc.etabli.dialogues.boites.size(), avant + 1);
-    EXPECT_EQ(banc.etabli.dialogues.boites.front().texte,
+    ASSERT_EQ(banc.etabli.dialogues.Boites().size(), avant + 1);
+    EXPECT_EQ(banc.etabli.dialogues.Boites().front().texte,
               QStringLiteral("Vous devez lire les données avec le cordon USB"));
-    EXPECT_EQ(banc.etabli.dialogues.boites.back().texte,
+    EXPECT_EQ(banc.etabli.dialogues.Boites().back().texte,
               QStringLiteral("Vous devez lire les données depuis la carte SD"));
     EXPECT_TRUE(banc.etabli.dialogues.demandes.empty());
     EXPECT_TRUE(banc.etabli.Fichiers().filter(nomSelonHorloge).isEmpty());

@@ -23,6 +23,7 @@ struct Fin {
     /// Boxes that say that the logger is absent, and all others.
     int absents = 0;
     int autres = 0;
+    int questions = 0;
     bool ecrireValide = true;
     bool pagesValide = true;
     int poignees = 0;
@@ -32,9 +33,9 @@ struct Fin {
 };
 
 std::ostream& operator<<(std::ostream& flux, const Fin& fin) {
-    return flux << "absent " << fin.absents << ", others " << fin.autres << ", Ecrire "
-                << fin.ecrireValide << ", LireValeursPage " << fin.pagesValide << ", handles "
-                << fin.poignees << ", file " << fin.fichier;
+    return flux << "absent " << fin.absents << ", others " << fin.autres << ", questions "
+                << fin.questions << ", Ecrire " << fin.ecrireValide << ", LireValeursPage "
+                << fin.pagesValide << ", handles " << fin.poignees << ", file " << fin.fichier;
 }
 
 /// Where a failure strikes: `codes` are the frames of a healthy run.
@@ -68,12 +69,12 @@ Fin ApresLecture(const Coup& coup) {
 Fin ApresEcriture(const Coup& coup, int capteur, int force) {
     const int contexte = capteur + 6;
     const int lecture = contexte + rangsEcriture + force;
-    if (!coup.Perdu()) return {.autres = 2};
+    if (!coup.Perdu()) return {.autres = 1, .questions = 1};
     // A lost question about the sensor is passed over; the first set-up frame then tells.
-    if (coup.rang < contexte) return {.absents = 1, .autres = 1};
+    if (coup.rang < contexte) return {.absents = 1, .questions = 1};
     // The set-up stands in the logger: the sequence goes on to its end and tells again.
-    if (coup.rang < lecture) return {.absents = 2, .autres = 2};
-    return {.absents = AbsentsLecture(coup, lecture), .autres = 2};
+    if (coup.rang < lecture) return {.absents = 2, .autres = 1, .questions = 1};
+    return {.absents = AbsentsLecture(coup, lecture), .autres = 1, .questions = 1};
 }
 
 Fin ApresEcritureCarte(const Coup& coup) {
@@ -81,7 +82,7 @@ Fin ApresEcritureCarte(const Coup& coup) {
     if (coup.Perdu()) return {.absents = 1, .ecrireValide = false};
     // A short answer tells of no card; the link stays open, as after a cancel.
     if (coup.genre == GenrePanne::reponseCourte) return {.autres = 1, .poignees = 2};
-    return {.autres = 2};
+    return {.autres = 1, .questions = 1};
 }
 
 Fin ApresContexte(const Coup& coup) {
@@ -107,6 +108,8 @@ struct Operation {
     Fin (*attendre)(const Coup&);
     /// Frames of a healthy run.
     std::size_t trames;
+    /// Whether what it has read goes to a file that the operator names.
+    bool nommeFichier = false;
 };
 
 PtrEnregistreur AvecCarte(std::uint32_t maintenant) {
@@ -120,7 +123,7 @@ const Operation operations[] = {
     {"WriteWithCard", AvecCarte, [](auto& ui) { BancProgramme::Cliquer(ui.Ecrire); },
      ApresEcritureCarte, 43},
     {"ContextDump", KPod2100, [](auto& ui) { BancProgramme::Cliquer(ui.LireEeprom); },
-     ApresContexte, 128},
+     ApresContexte, 128, true},
     {"PageDump", KPod2100, [](auto& ui) { BancProgramme::Cliquer(ui.LireValeursPage); }, ApresPages,
      84},
     {"FlowTestOn", KPod2100, [](auto& ui) { BancProgramme::Cliquer(ui.TestDebitON); },
@@ -157,26 +160,35 @@ class DeviceLoss : public testing::TestWithParam<std::tuple<Operation, Defaillan
 
     void Relire() { BancProgramme::Cliquer(banc.ui().Lire); }
 
-    /// One run of the operation from a form and a logger in order.
-    void Lancer() {
-        banc.etabli.dialogues.boites.clear();
-        banc.etabli.dialogues.fichiers = {banc.etabli.Chemin(QStringLiteral("Contexte.txt"))};
+    /// One run of the operation from a form and a logger in order, with the answers that an end
+    /// like that takes.
+    void Lancer(const Fin& attendue) {
+        essai::DialoguesNotes& dialogues = banc.etabli.dialogues;
+        dialogues.OublierBoites();
+        for (int i = 0; i < attendue.questions; ++i)
+            dialogues.AnnoncerQuestion(Reponse::Ok, QStringLiteral("écrasées"));
+        if (operation.nommeFichier && attendue.fichier)
+            dialogues.AnnoncerEnregistrement(banc.etabli.Chemin(QStringLiteral("Contexte.txt")));
         operation.geste(banc.ui());
     }
 
     std::vector<int> CodesSains() {
+        const std::vector<int> inconnus{0};
+        const Fin saine = operation.attendre({inconnus, 0, GenrePanne::aucune});
         pod.journal.Vider();
-        Lancer();
+        Lancer(saine);
         const std::vector<int> codes = pod.journal.Codes();
-        EXPECT_EQ(Observer(), operation.attendre({codes, 0, GenrePanne::aucune}));
+        EXPECT_EQ(Observer(), saine);
         Ranger();
         return codes;
     }
 
     Fin Observer() {
         Fin fin;
-        for (const auto& boite : banc.etabli.dialogues.boites)
-            ++(boite.texte.endsWith(QStringLiteral(" absent")) ? fin.absents : fin.autres);
+        for (const auto& boite : banc.etabli.dialogues.Boites())
+            ++(boite.boutons != Boutons::Ok                      ? fin.questions
+               : boite.texte.endsWith(QStringLiteral(" absent")) ? fin.absents
+                                                                 : fin.autres);
         fin.ecrireValide = banc.ui().Ecrire->isEnabled();
         fin.pagesValide = banc.ui().LireValeursPage->isEnabled();
         fin.poignees = banc.bus.PoigneesOuvertes();
@@ -199,9 +211,9 @@ class DeviceLoss : public testing::TestWithParam<std::tuple<Operation, Defaillan
     void Reprendre() {
         pod.pannes.Annuler();
         banc.bus.Rebrancher(pod.identite.usb);
-        banc.etabli.dialogues.boites.clear();
+        banc.etabli.dialogues.OublierBoites();
         Relire();
-        EXPECT_TRUE(banc.etabli.dialogues.boites.empty());
+        EXPECT_TRUE(banc.etabli.dialogues.Boites().empty());
         EXPECT_FALSE(banc.ecran().etat.TimeOut);
         EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);
         EXPECT_EQ(Regarder(banc.ui()), repos);
@@ -237,8 +249,9 @@ TEST_P(DeviceLoss, AtEachFrameLeavesTheProgramInOrder) {
                              .occurrence = rang + 1,
                              .combien = defaillance.combien,
                              .parametre = 1});
-        Lancer();
-        EXPECT_EQ(Observer(), operation.attendre(coup));
+        const Fin attendue = operation.attendre(coup);
+        Lancer(attendue);
+        EXPECT_EQ(Observer(), attendue);
         VoirLeReste();
         Reprendre();
     }

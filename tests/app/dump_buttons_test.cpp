@@ -5,6 +5,7 @@
 #include <QFile>
 
 #include "app/program_fixture.h"
+#include "support/case_names.h"
 
 namespace bornika {
 namespace {
@@ -44,7 +45,7 @@ struct DumpButtons : testing::Test {
     QList<QByteArray> Lignes(const QString& nom) { return banc.etabli.Lire(nom).split('\n'); }
     QStringList Boites() {
         QStringList textes;
-        for (const auto& boite : banc.etabli.dialogues.boites)
+        for (const auto& boite : banc.etabli.dialogues.Boites())
             textes << boite.texte;
         return textes;
     }
@@ -59,7 +60,7 @@ struct DumpButtons : testing::Test {
 };
 
 TEST_F(DumpButtons, TheContextGoesToTheFileThatTheOperatorNames) {
-    banc.etabli.dialogues.fichiers = {banc.etabli.Chemin(contexte)};
+    banc.etabli.dialogues.AnnoncerEnregistrement(banc.etabli.Chemin(contexte));
     BancProgramme::Cliquer(banc.ui().LireEeprom);
     const QList<QByteArray> lignes = Lignes(contexte);
     ASSERT_EQ(lignes.size(), 168);
@@ -74,12 +75,13 @@ TEST_F(DumpButtons, TheContextGoesToTheFileThatTheOperatorNames) {
 
 TEST_F(DumpButtons, TheContextShowsWhatTheLoggerWasToldMeanwhile) {
     pod.memoire.EcrireMot(simulateur::adresse::periodeStockage, 960);
-    banc.etabli.dialogues.fichiers = {banc.etabli.Chemin(contexte)};
+    banc.etabli.dialogues.AnnoncerEnregistrement(banc.etabli.Chemin(contexte));
     BancProgramme::Cliquer(banc.ui().LireEeprom);
     EXPECT_TRUE(banc.etabli.Lire(contexte).contains("Ofs - 45 Interval de stockage : 960\r\n"));
 }
 
 TEST_F(DumpButtons, ACancelledDialogAndALostLoggerLeaveNoContextFile) {
+    banc.etabli.dialogues.AnnoncerEnregistrement(std::nullopt);
     BancProgramme::Cliquer(banc.ui().LireEeprom);
     banc.bus.Debrancher(pod.identite.usb);
     BancProgramme::Cliquer(banc.ui().LireEeprom);
@@ -93,13 +95,14 @@ TEST_F(DumpButtons, ACancelledDialogAndALostLoggerLeaveNoContextFile) {
 
     banc.bus.Rebrancher(pod.identite.usb);
     BancProgramme::Cliquer(banc.ui().Lire);
-    banc.etabli.dialogues.fichiers = {banc.etabli.Chemin(contexte)};
+    banc.etabli.dialogues.AnnoncerEnregistrement(banc.etabli.Chemin(contexte));
     BancProgramme::Cliquer(banc.ui().LireEeprom);
     EXPECT_EQ(Lignes(contexte).size(), 168);
 }
 
 TEST_F(DumpButtons, AContextFileThatCannotBeMadeIsTheGeneralFailure) {
-    banc.etabli.dialogues.fichiers = {banc.etabli.Chemin(QStringLiteral("absent/") + contexte)};
+    banc.etabli.dialogues.AnnoncerEnregistrement(
+        banc.etabli.Chemin(QStringLiteral("absent/") + contexte));
     BancProgramme::Cliquer(banc.ui().LireEeprom);
     EXPECT_EQ(Boites(),
               QStringList{QStringLiteral("Run-time error '76':\n\nContexte.txt : Path not found")});
@@ -120,6 +123,7 @@ TEST_F(DumpButtons, ThePagesGoToAFileBesideTheProgram) {
 }
 
 TEST_F(DumpButtons, TheFirstPageIsTheOneThatTheLoggerStoredFirst) {
+    banc.etabli.dialogues.AnnoncerInformation(QStringLiteral("Valeurs stockées"));
     LirePages("1", "1");
     const simulateur::MesureEnFlash premiere = pod.Stockee(0);
     const std::uint32_t secondes = static_cast<std::uint32_t>(premiere[2]) << 24 |
@@ -137,8 +141,9 @@ TEST_F(DumpButtons, ASecondClickWhileItRunsDoesNothing) {
 }
 
 TEST_F(DumpButtons, TheContextCanBeDumpedWhileThePagesAre) {
-    banc.etabli.dialogues.fichiers = {banc.etabli.Chemin(contexte)};
+    banc.etabli.dialogues.AnnoncerEnregistrement(banc.etabli.Chemin(contexte));
     AuTour(20, [&] { BancProgramme::Cliquer(banc.ui().LireEeprom); });
+    banc.etabli.dialogues.AnnoncerInformation(QStringLiteral("Valeurs stockées"));
     LirePages("1", "1");
     EXPECT_EQ(Lignes(contexte).size(), 168);
     EXPECT_EQ(Lignes(pages).size(), 68);
@@ -160,17 +165,19 @@ TEST_F(DumpButtons, ADownloadLosesNothingOverTheServiceReadingsInsideIt) {
     pod.ViderMesures();
     for (std::uint32_t i = 0; i < 120; ++i)
         pod.Stocker(simulateur::MesurePeriodique(maintenantSimule - 1000 + i, 500));
+    banc.etabli.dialogues.AnnoncerInformation(QStringLiteral("Valeurs stockées"));
     BancProgramme::Cliquer(banc.ui().LireValeurs);
     const QByteArray seul = banc.etabli.Lire(mesures);
     ASSERT_GT(seul.count('\n'), 100);
     ASSERT_TRUE(QFile::remove(banc.etabli.Chemin(mesures)));
 
-    banc.etabli.dialogues.fichiers = {banc.etabli.Chemin(contexte)};
+    banc.etabli.dialogues.AnnoncerEnregistrement(banc.etabli.Chemin(contexte));
     banc.etabli.respiration.ReglerEvenements([this] {
         ++tours;
         if (tours == 20) BancProgramme::Cliquer(banc.ui().LireEeprom);
         if (tours == 40) BancProgramme::Cliquer(banc.ui().LireLaFlash);
     });
+    banc.etabli.dialogues.AnnoncerInformation(QStringLiteral("Valeurs stockées"));
     BancProgramme::Cliquer(banc.ui().LireValeurs);
     EXPECT_EQ(Lignes(contexte).size(), 168);
     EXPECT_FALSE(banc.ui().resultat->text().isEmpty());
@@ -215,8 +222,8 @@ TEST_F(DumpButtons, WithoutALoggerThePagesButtonStaysDisabledAndTheOthersWork) {
 TEST_F(DumpButtons, AFullDiskIsToldAndTheProgramGoesOn) {
     ASSERT_TRUE(QFile::link(QStringLiteral("/dev/full"), banc.etabli.Chemin(pages)));
     LirePages("1", "3");
-    ASSERT_EQ(banc.etabli.dialogues.boites.size(), 1U);
-    EXPECT_EQ(banc.etabli.dialogues.boites.front().icone, Icone::Critique);
+    ASSERT_EQ(banc.etabli.dialogues.Boites().size(), 1U);
+    EXPECT_EQ(banc.etabli.dialogues.Boites().front().icone, Icone::Critique);
     EXPECT_TRUE(banc.ui().LireValeursPage->isEnabled());
     EXPECT_TRUE(banc.sorties.empty());
     EXPECT_EQ(pod.journal.Nombre(20), 0);
@@ -236,13 +243,20 @@ TEST_P(PageTexts, ThatAreNoPageNumbersEndTheProgramBeforeAnyFrame) {
     EXPECT_TRUE(banc.ui().LireValeursPage->isEnabled());
 }
 
+std::string NomDesPages(const testing::TestParamInfo<PageTexts::ParamType>& info) {
+    const auto& [debut, fin, numero] = info.param;
+    return essai::NomDeCas(info.index, debut + std::string(" to ") + fin);
+}
+
 INSTANTIATE_TEST_SUITE_P(Texts, PageTexts,
                          testing::Values(std::tuple("abc", "1", 13), std::tuple("", "1", 13),
                                          std::tuple("1", "", 13), std::tuple("1", "1 2", 13),
                                          std::tuple("1", "40000", 6), std::tuple("-32769", "1", 6),
-                                         std::tuple("32767.5", "1", 6)));
+                                         std::tuple("32767.5", "1", 6)),
+                         NomDesPages);
 
 TEST_F(DumpButtons, APageNumberIsRoundedHalfToEven) {
+    banc.etabli.dialogues.AnnoncerInformation(QStringLiteral("Valeurs stockées"));
     LirePages("0.5", " 2.5 ");
     EXPECT_EQ(pod.journal.Nombre(20), 3 * 66);
     EXPECT_EQ(pod.journal.DeCode(20).front()[2], 0);

@@ -28,8 +28,8 @@ TEST(GeneralFailure, ShowsTheStandardBoxThenClosesTheLinkThenLeavesWithStatusOne
         [&](int etat) { ordre << QStringLiteral("leave %1").arg(etat); });
     EXPECT_EQ(ordre, QStringList({QStringLiteral("box"), QStringLiteral("link"),
                                   QStringLiteral("leave 1")}));
-    ASSERT_EQ(etabli.dialogues.boites.size(), 1U);
-    const auto& boite = etabli.dialogues.boites.front();
+    ASSERT_EQ(etabli.dialogues.Boites().size(), 1U);
+    const auto& boite = etabli.dialogues.Boites().front();
     EXPECT_EQ(boite.icone, Icone::Critique);
     EXPECT_EQ(boite.boutons, Boutons::Ok);
     EXPECT_EQ(boite.titre, QStringLiteral("k-Pod"));
@@ -41,6 +41,7 @@ TEST(GeneralFailure, WhatAnOpenTextFileHeldIsOnTheDiskBeforeTheProgramLeaves) {
     FichierTexteEcrit fichier(etabli.Chemin(QStringLiteral("r.txt")), ModeEcriture::Remplacer);
     fichier.EcrireLigne(u"kept");
     QByteArray vu;
+    etabli.dialogues.AnnoncerInformation(QStringLiteral("Run-time error '9'"));
     FinirSurFaute(
         FauteExecution(numero_faute::indice), etabli.dialogues, [] {},
         [&](int) { vu = etabli.Lire(QStringLiteral("r.txt")); });

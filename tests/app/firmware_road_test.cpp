@@ -43,7 +43,6 @@ struct FirmwareRoad : testing::Test {
         pod.ReglerNumeroSerie(numero);
         QDir().mkpath(QFileInfo(hex).path());
         QFile(hex).open(QIODevice::WriteOnly);
-        banc.etabli.dialogues.fichiers = {hex};
         banc.etabli.systeme.lancer =
             [this](const QString& programme,
                    const QString& argument) -> std::unique_ptr<ProgrammeExterne> {
@@ -67,9 +66,11 @@ struct FirmwareRoad : testing::Test {
         pod.identite.versionBasse = static_cast<std::uint8_t>(parts[1].toInt());
         pod.ReglerNumeroSerie(0xFFFFFFFF);
     }
-    /// The entry of the menu, as the operator's hand reaches it.
+    /// The entry of the menu, as the operator's hand reaches it: a Yes, and the file.
     void Cliquer() {
         ASSERT_TRUE(banc.ui().nmuBootLoad->isEnabled());
+        banc.etabli.dialogues.AnnoncerQuestion(Reponse::Oui, QStringLiteral("version actuelle"));
+        banc.etabli.dialogues.AnnoncerOuverture(hex);
         banc.ui().nmuBootLoad->trigger();
     }
 
@@ -113,7 +114,7 @@ TEST_F(FirmwareRoad, FromTheClickToTheNumberWrittenBackWithALivingWindow) {
               (std::vector<std::vector<std::uint8_t>>{{5, 0x12, 0x34, 0x56, 0x78, 32, 32, 32}}));
     EXPECT_EQ(banc.ecran().etat.VersionLogiciel, 2.1);
     EXPECT_EQ(banc.ui().Version->text(), QStringLiteral("k-Pod = 1 2-100"));
-    EXPECT_EQ(banc.etabli.dialogues.boites.size(), 1U);
+    EXPECT_EQ(banc.etabli.dialogues.Boites().size(), 1U);
     EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);
 
     BancProgramme::Cliquer(banc.ui().Lire);
@@ -124,7 +125,7 @@ TEST_F(FirmwareRoad, WithoutTheToolLooksAtTheVersionAgainAndChangesNothing) {
     Cliquer();
     EXPECT_EQ(lances, std::vector{false});
     EXPECT_EQ(pod.journal.Codes(), (std::vector<int>{9, 6, 9}));
-    EXPECT_EQ(banc.etabli.dialogues.boites.size(), 1U);
+    EXPECT_EQ(banc.etabli.dialogues.Boites().size(), 1U);
     EXPECT_TRUE(Ligne().endsWith(CheminOutil())) << Ligne().toStdString();
     EXPECT_TRUE(banc.ui().nmuBootLoad->isEnabled());
     EXPECT_TRUE(banc.sorties.empty());
@@ -137,7 +138,7 @@ TEST_F(FirmwareRoad, AToolThatDiesLeavesTheLoggerAsItIs) {
     Cliquer();
     EXPECT_EQ(lances, std::vector{true});
     EXPECT_EQ(pod.journal.Codes(), (std::vector<int>{9, 6, 9}));
-    EXPECT_EQ(banc.etabli.dialogues.boites.size(), 1U);
+    EXPECT_EQ(banc.etabli.dialogues.Boites().size(), 1U);
     EXPECT_EQ(banc.ui().Version->text(), QStringLiteral("k-Pod = 1 20-95"));
     EXPECT_TRUE(banc.ui().nmuBootLoad->isEnabled());
 }
@@ -147,7 +148,7 @@ TEST_F(FirmwareRoad, ALoggerPulledOutMeanwhileLosesNoNumberWithoutAWord) {
     fin = [this] { banc.bus.Debrancher(pod.identite.usb); };
     Cliquer();
     EXPECT_EQ(pod.journal.Codes(), (std::vector<int>{9, 6}));
-    EXPECT_EQ(banc.etabli.dialogues.boites.size(), 1U);
+    EXPECT_EQ(banc.etabli.dialogues.Boites().size(), 1U);
     EXPECT_EQ(
         Ligne(),
         QString::fromUtf8("N° de série qui n'a pas été rendu à l'enregistreur : %1").arg(numero));
@@ -172,8 +173,8 @@ TEST_F(FirmwareRoad, ReadingWhileTheToolHasTheLoggerLosesNoNumberWithoutAWord) {
     main.start(1);
     Cliquer();
     EXPECT_TRUE(lu);
-    ASSERT_EQ(banc.etabli.dialogues.boites.size(), 2U);
-    EXPECT_EQ(banc.etabli.dialogues.boites[1].texte, QStringLiteral("k-Pod absent"));
+    ASSERT_EQ(banc.etabli.dialogues.Boites().size(), 2U);
+    EXPECT_EQ(banc.etabli.dialogues.Boites()[1].texte, QStringLiteral("k-Pod absent"));
     EXPECT_TRUE(Ligne().endsWith(QString::number(numero))) << Ligne().toStdString();
 }
 

@@ -6,6 +6,7 @@
 #include <QTimer>
 
 #include "app/program_fixture.h"
+#include "support/case_names.h"
 #include "viewer/trace_form.h"
 
 namespace bornika {
@@ -34,8 +35,8 @@ TEST_P(UnwritableFolder, IsToldInOneBoxAndNothingElseHappens) {
     }
     banc.etabli.systeme.dossier = dossier;
     EXPECT_EQ(Executer(banc.etabli.systeme), 1);
-    ASSERT_EQ(banc.etabli.dialogues.boites.size(), 1U);
-    const auto& boite = banc.etabli.dialogues.boites.front();
+    ASSERT_EQ(banc.etabli.dialogues.Boites().size(), 1U);
+    const auto& boite = banc.etabli.dialogues.Boites().front();
     EXPECT_EQ(boite.icone, Icone::Critique);
     EXPECT_EQ(boite.boutons, Boutons::Ok);
     EXPECT_TRUE(boite.texte.contains(dossier)) << boite.texte.toStdString();
@@ -44,8 +45,8 @@ TEST_P(UnwritableFolder, IsToldInOneBoxAndNothingElseHappens) {
     EXPECT_EQ(FicheOuverte<MainScreen>(), nullptr);
 }
 
-INSTANTIATE_TEST_SUITE_P(Folders, UnwritableFolder,
-                         testing::Values("/proc", "/nowhere/at/all", ""));
+INSTANTIATE_TEST_SUITE_P(Folders, UnwritableFolder, testing::Values("/proc", "/nowhere/at/all", ""),
+                         [](const auto& cas) { return essai::NomDeCas(cas.index, cas.param); });
 
 TEST(WholeProgram, EndsWithTheMainFormAlsoWhenTheViewerStandsOpen) {
     BancProgramme banc;
@@ -63,7 +64,7 @@ TEST(WholeProgram, EndsWithTheMainFormAlsoWhenTheViewerStandsOpen) {
     QTimer::singleShot(20'000, &geste, [] { QCoreApplication::exit(99); });
     EXPECT_EQ(Executer(banc.etabli.systeme), 0);
     EXPECT_TRUE(ouverte);
-    EXPECT_TRUE(banc.etabli.dialogues.boites.empty());
+    EXPECT_TRUE(banc.etabli.dialogues.Boites().empty());
 }
 
 TEST(WholeProgram, KeepsTheMainFormWithinTheScreen) {
@@ -96,8 +97,8 @@ TEST(WholeProgram, AFaultBehindAButtonIsToldOnceClosesTheLinkAndLeaves) {
     banc.programme->lien.OuvreUSB(pod.identite.usb);
     QFile::remove(banc.etabli.Chemin(QStringLiteral("config.xml")));
     banc.ui().mnuChargeRapide->trigger();
-    ASSERT_EQ(banc.etabli.dialogues.boites.size(), 1U);
-    EXPECT_EQ(banc.etabli.dialogues.boites.front().texte,
+    ASSERT_EQ(banc.etabli.dialogues.Boites().size(), 1U);
+    EXPECT_EQ(banc.etabli.dialogues.Boites().front().texte,
               QStringLiteral("Run-time error '91':\n\nObject variable not set"));
     EXPECT_EQ(banc.sorties, std::vector<int>({1}));
     EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);
@@ -117,6 +118,7 @@ TEST(WholeProgram, AFaultInADownloadBringsWhatWasReceivedToTheDiskBeforeItLeaves
             banc.ecran().close();
         }
     });
+    banc.etabli.dialogues.AnnoncerInformation(QStringLiteral("Run-time error '91'"));
     BancProgramme::Cliquer(banc.ui().LireValeurs);
     EXPECT_EQ(banc.sorties.front(), 1);
     EXPECT_GT(lignes, 50);

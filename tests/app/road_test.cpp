@@ -29,7 +29,7 @@ struct Road : testing::Test {
     int Lignes(const QString& nom) { return static_cast<int>(banc.etabli.Lire(nom).count("\r\n")); }
     QStringList Boites() {
         QStringList textes;
-        for (const auto& boite : banc.etabli.dialogues.boites)
+        for (const auto& boite : banc.etabli.dialogues.Boites())
             textes << boite.texte;
         return textes;
     }
@@ -65,6 +65,7 @@ TEST_F(Road, ASecondClickCancelsAndLeavesACompleteFileWithItsCurve) {
     banc.etabli.respiration.ReglerEvenements([&] {
         if (++tours == 500) BancProgramme::Cliquer(banc.ui().LireValeurs);
     });
+    banc.etabli.dialogues.AnnoncerInformation(QStringLiteral("Valeurs stockées"));
     BancProgramme::Cliquer(banc.ui().LireValeurs);
     const int lignes = Lignes(nomSelonHorloge + QStringLiteral(".txt"));
     EXPECT_GT(lignes, 100);
@@ -95,7 +96,7 @@ TEST_F(Road, GoingToTheViewerAndBackCancelsTheDownload) {
     EXPECT_LT(lignes, 400);
     EXPECT_TRUE(
         banc.etabli.Lire(nomSelonHorloge + QStringLiteral(".err")).endsWith("End Parity Control"));
-    EXPECT_EQ(banc.etabli.dialogues.boites.size(), 1U);
+    EXPECT_EQ(banc.etabli.dialogues.Boites().size(), 1U);
     EXPECT_EQ(banc.programme->trace.Presente()->modele.Serie(0).Nombre(), lignes - 1);
     EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);
 }
@@ -117,6 +118,7 @@ TEST_F(Road, ALoggerPulledOutKeepsWhatWasReceivedAndSaysSo) {
     banc.etabli.respiration.ReglerEvenements([] {});
     banc.bus.Rebrancher(banc.ecran().etat.UsbID);
     banc.etabli.horloge.instant = banc.etabli.horloge.instant.addSecs(60);
+    banc.etabli.dialogues.AnnoncerInformation(QStringLiteral("Valeurs stockées"));
     BancProgramme::Cliquer(banc.ui().LireValeurs);
     EXPECT_GT(Lignes(QStringLiteral("2026-03-05-14-08-09.txt")), 20'000);
 }
@@ -139,9 +141,9 @@ TEST_F(Road, ADiskThatFillsUpIsToldOnceAndNothingReceivedIsLost) {
     ASSERT_TRUE(QFile::link(QStringLiteral("/dev/full"),
                             banc.etabli.Chemin(nomSelonHorloge + QStringLiteral(".txt"))));
     BancProgramme::Cliquer(banc.ui().LireValeurs);
-    ASSERT_EQ(banc.etabli.dialogues.boites.size(), 1U);
-    EXPECT_EQ(banc.etabli.dialogues.boites.front().icone, Icone::Critique);
-    EXPECT_TRUE(banc.etabli.dialogues.boites.front().texte.contains(nomSelonHorloge));
+    ASSERT_EQ(banc.etabli.dialogues.Boites().size(), 1U);
+    EXPECT_EQ(banc.etabli.dialogues.Boites().front().icone, Icone::Critique);
+    EXPECT_TRUE(banc.etabli.dialogues.Boites().front().texte.contains(nomSelonHorloge));
     EXPECT_TRUE(banc.sorties.empty());
     EXPECT_FALSE(banc.ecran().etat.EnLecture);
     EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);

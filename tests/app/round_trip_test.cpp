@@ -87,11 +87,12 @@ class RoundTrip : public testing::TestWithParam<Preset> {
     }
 
     void Ecrire() {
-        banc.etabli.dialogues.boites.clear();
+        banc.etabli.dialogues.OublierBoites();
+        banc.etabli.dialogues.AnnoncerQuestion(Reponse::Ok, QStringLiteral("écrasées"));
         BancProgramme::Cliquer(banc.ui().Ecrire);
-        ASSERT_EQ(banc.etabli.dialogues.boites.size(), 2U);
-        EXPECT_EQ(banc.etabli.dialogues.boites[0].boutons, Boutons::OkAnnuler);
-        EXPECT_EQ(banc.etabli.dialogues.boites[1].icone, Icone::Information);
+        ASSERT_EQ(banc.etabli.dialogues.Boites().size(), 2U);
+        EXPECT_EQ(banc.etabli.dialogues.Boites()[0].boutons, Boutons::OkAnnuler);
+        EXPECT_EQ(banc.etabli.dialogues.Boites()[1].icone, Icone::Information);
         EXPECT_TRUE(banc.ui().Ecrire->isEnabled());
         EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);
     }

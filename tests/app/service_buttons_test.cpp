@@ -42,14 +42,14 @@ struct ServiceButtons : testing::Test {
     }
     QStringList Boites() {
         QStringList textes;
-        for (const auto& boite : banc.etabli.dialogues.boites)
+        for (const auto& boite : banc.etabli.dialogues.Boites())
             textes << boite.texte;
         return textes;
     }
     void AttendreFinGenerale(const char* texte) {
         EXPECT_EQ(banc.sorties, std::vector<int>{1});
         ASSERT_EQ(Boites(), QStringList{QString::fromLatin1(texte)});
-        EXPECT_EQ(banc.etabli.dialogues.boites[0].icone, Icone::Critique);
+        EXPECT_EQ(banc.etabli.dialogues.Boites()[0].icone, Icone::Critique);
         EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);
     }
 };
@@ -147,7 +147,7 @@ TEST_F(ServiceButtons, WriteFlashEndsTheProgramBeforeAnythingIsSentWhenItsBytesA
                {" 18 256 13 14 15 16 17 99", "Run-time error '6':\n\nOverflow"}};
     for (const auto& c : cas) {
         banc.sorties.clear();
-        banc.etabli.dialogues.boites.clear();
+        banc.etabli.dialogues.OublierBoites();
         Taper(banc.ui().resultat, c.octets);
         BancProgramme::Cliquer(banc.ui().EcrireLaFlash);
         AttendreFinGenerale(c.texte);
@@ -186,7 +186,7 @@ TEST_F(ServiceButtons, SayThatAPulledOutLoggerIsAbsentAndNothingEnds) {
           banc.ui().LireLaFlash, banc.ui().EcrireLaFlash, banc.ui().Test,
           banc.ui().LireValeurDetectionCapteur, banc.ui().ProgNumeroSerie}) {
         banc.ecran().etat.TimeOut = false;
-        banc.etabli.dialogues.boites.clear();
+        banc.etabli.dialogues.OublierBoites();
         if (bouton == banc.ui().EcrireLaFlash)
             Taper(banc.ui().resultat, " 18 12 13 14 15 16 17 99");
         BancProgramme::Cliquer(bouton);
@@ -239,7 +239,7 @@ TEST_F(ServiceButtons, ASerialNumberThatIsNoneOrTooLargeIsTold) {
     BancProgramme::Cliquer(banc.ui().ProgNumeroSerie);
     EXPECT_EQ(Boites(), (QStringList{QStringLiteral("Le n° de série n'est pas valide"),
                                      QStringLiteral("Le n° de série est trop grand (> 32 bits)")}));
-    EXPECT_EQ(banc.etabli.dialogues.boites[0].titre, banc.ecran().etat.NomKpod);
+    EXPECT_EQ(banc.etabli.dialogues.Boites()[0].titre, banc.ecran().etat.NomKpod);
     EXPECT_EQ(pod.journal.Total(), 0);
     EXPECT_TRUE(banc.sorties.empty());
 }
@@ -253,7 +253,8 @@ TEST_F(ServiceButtons, ANegativeSerialNumberEndsTheProgramUnsent) {
 
 TEST_F(ServiceButtons, TheSerialNumberIsClearedAfterOkAlone) {
     pod.ReglerNumeroSerie(123);
-    banc.etabli.dialogues.reponses = {Reponse::Annuler, Reponse::Ok};
+    banc.etabli.dialogues.AnnoncerQuestion(Reponse::Annuler);
+    banc.etabli.dialogues.AnnoncerQuestion(Reponse::Ok);
     BancProgramme::Cliquer(banc.ui().RAZNumeroSerie);
     EXPECT_EQ(pod.journal.Total(), 0);
     BancProgramme::Cliquer(banc.ui().RAZNumeroSerie);

@@ -85,8 +85,8 @@ TEST_F(SmallDialogs, TheReportOfALoggerThatWasNotReadIsNoFault) {
 TEST_F(SmallDialogs, AReportThatCannotBeWrittenEndsTheProgramAndNamesTheFile) {
     ASSERT_TRUE(QFile::link(QStringLiteral("/dev/full"), banc.etabli.Chemin(journal)));
     EcrireRapport();
-    ASSERT_EQ(banc.etabli.dialogues.boites.size(), 1U);
-    const auto& boite = banc.etabli.dialogues.boites[0];
+    ASSERT_EQ(banc.etabli.dialogues.Boites().size(), 1U);
+    const auto& boite = banc.etabli.dialogues.Boites()[0];
     EXPECT_EQ(boite.icone, Icone::Critique);
     EXPECT_TRUE(boite.texte.startsWith(QStringLiteral("Run-time error '61':")));
     EXPECT_TRUE(boite.texte.contains(banc.etabli.Chemin(journal)));
@@ -96,8 +96,8 @@ TEST_F(SmallDialogs, AReportThatCannotBeWrittenEndsTheProgramAndNamesTheFile) {
 TEST_F(SmallDialogs, AnOrderNumberWithASlashIsAClearFaultAndMakesNoFile) {
     const QStringList avant = banc.etabli.Fichiers();
     EcrireRapport("2026/17");
-    ASSERT_EQ(banc.etabli.dialogues.boites.size(), 1U);
-    EXPECT_TRUE(banc.etabli.dialogues.boites[0].texte.startsWith(
+    ASSERT_EQ(banc.etabli.dialogues.Boites().size(), 1U);
+    EXPECT_TRUE(banc.etabli.dialogues.Boites()[0].texte.startsWith(
         QStringLiteral("Run-time error '76':\n\n") +
         banc.etabli.Chemin(QStringLiteral("2026/17.log"))));
     EXPECT_EQ(banc.etabli.Fichiers(), avant);

@@ -6,6 +6,7 @@
 
 #include "app/program_fixture.h"
 #include "app/watchdog.h"
+#include "support/case_names.h"
 
 namespace bornika {
 namespace {
@@ -141,7 +142,12 @@ INSTANTIATE_TEST_SUITE_P(Codes, SizeSetting,
                                          Taille{"<Taille>4</Taille>", 540606},
                                          Taille{"<Taille>3</Taille>", 540606}, Taille{"", 540606},
                                          Taille{"<Taille>abc</Taille>", 540606},
-                                         Taille{"<Taille>99999999999</Taille>", 540606}));
+                                         Taille{"<Taille>99999999999</Taille>", 540606}),
+                         [](const auto& cas) {
+                             QByteArray valeur = cas.param.texte;
+                             valeur.replace("Taille>", "");
+                             return essai::NomDeCas(cas.index, valeur.toStdString());
+                         });
 
 TEST(Load, AMissingLanguageOpensWithNoneSelectedAndChoosingOneRepairsAllLists) {
     BancProgramme banc;
@@ -180,8 +186,8 @@ TEST(Load, AMissingConfigurationIsTheGeneralFailure) {
     BancProgramme banc;
     QFile::remove(banc.etabli.Chemin(QStringLiteral("config.xml")));
     EXPECT_FALSE(banc.Demarrer(-1));
-    ASSERT_FALSE(banc.etabli.dialogues.boites.empty());
-    EXPECT_EQ(banc.etabli.dialogues.boites.front().texte,
+    ASSERT_FALSE(banc.etabli.dialogues.Boites().empty());
+    EXPECT_EQ(banc.etabli.dialogues.Boites().front().texte,
               QStringLiteral("Run-time error '91':\n\nObject variable not set"));
     ASSERT_FALSE(banc.sorties.empty());
     EXPECT_EQ(banc.sorties.front(), 1);
@@ -190,6 +196,7 @@ TEST(Load, AMissingConfigurationIsTheGeneralFailure) {
 TEST(Load, AMalformedConfigurationIsTheGeneralFailureAndStaysAsItIs) {
     BancProgramme banc;
     banc.etabli.Ecrire(QStringLiteral("config.xml"), "<Configuration><Langue>");
+    banc.etabli.dialogues.AnnoncerInformation(QStringLiteral("Run-time error '91'"));
     EXPECT_FALSE(banc.Demarrer(-1));
     ASSERT_FALSE(banc.sorties.empty());
     EXPECT_EQ(banc.etabli.Lire(QStringLiteral("config.xml")),
@@ -248,11 +255,11 @@ TEST(Connect, WithTimeOutSetShowsCaptionAndFamilyButReadsNothing) {
 TEST(Connect, ACancelWithNoDeviceStillReadsAndTellsThatItIsAbsent) {
     BancProgramme banc;
     ASSERT_TRUE(banc.Demarrer(-1));
-    banc.etabli.dialogues.boites.clear();
+    banc.etabli.dialogues.OublierBoites();
     banc.ui().mnuconnect->trigger();
-    ASSERT_EQ(banc.etabli.dialogues.boites.size(), 1U);
-    EXPECT_EQ(banc.etabli.dialogues.boites.front().texte, QStringLiteral("k-Pod absent"));
-    EXPECT_EQ(banc.etabli.dialogues.boites.front().titre, QString());
+    ASSERT_EQ(banc.etabli.dialogues.Boites().size(), 1U);
+    EXPECT_EQ(banc.etabli.dialogues.Boites().front().texte, QStringLiteral("k-Pod absent"));
+    EXPECT_EQ(banc.etabli.dialogues.Boites().front().titre, QString());
 }
 
 TEST(Connected, StaysTrueAfterTheLinkWasLost) {
@@ -260,6 +267,7 @@ TEST(Connected, StaysTrueAfterTheLinkWasLost) {
     EnregistreurSimule& pod = banc.bus.Brancher(simulateur::KPod2100(maintenantSimule));
     ASSERT_TRUE(banc.Demarrer());
     banc.bus.Debrancher(pod.identite.usb);
+    banc.etabli.dialogues.AnnoncerInformation(QStringLiteral("k-Pod absent"));
     BancProgramme::Cliquer(banc.ui().Lire);
     EXPECT_TRUE(banc.ecran().etat.TimeOut);
     EXPECT_TRUE(banc.ecran().etat.Connected);

@@ -18,11 +18,15 @@ struct WritingOnTheRoad : testing::Test {
 
     void SetUp() override {
         ASSERT_TRUE(banc.Demarrer());
-        banc.etabli.dialogues.boites.clear();
+        banc.etabli.dialogues.OublierBoites();
+    }
+    void EcrireEnConfirmant() {
+        banc.etabli.dialogues.AnnoncerQuestion(Reponse::Ok, QStringLiteral("écrasées"));
+        BancProgramme::Cliquer(banc.ui().Ecrire);
     }
     QStringList Boites() {
         QStringList textes;
-        for (const auto& boite : banc.etabli.dialogues.boites)
+        for (const auto& boite : banc.etabli.dialogues.Boites())
             textes << boite.texte;
         return textes;
     }
@@ -37,7 +41,7 @@ TEST_F(WritingOnTheRoad, AChangedCommentAndPeriodReachTheLogger) {
     banc.ui().Commentaire->selectAll();
     QTest::keyClicks(banc.ui().Commentaire, QStringLiteral("Quai 12"));
     banc.ui().ListePeriodeEchantillonage->Choisir(11);
-    BancProgramme::Cliquer(banc.ui().Ecrire);
+    EcrireEnConfirmant();
     EXPECT_EQ(Boites(), QStringList({ecrasees, terminee}));
     EXPECT_EQ(pod.memoire.Texte(adresse::commentaire, 14), "Quai 12       ");
     EXPECT_EQ(pod.memoire.Mot(adresse::periodeStockage), 480);
@@ -50,7 +54,7 @@ TEST_F(WritingOnTheRoad, AChangedCommentAndPeriodReachTheLogger) {
 
 TEST_F(WritingOnTheRoad, ACancelKeepsTheRecordingAndClosingTheProgramClosesTheLink) {
     const int mesures = pod.NombreMesures();
-    banc.etabli.dialogues.reponses = {Reponse::Annuler};
+    banc.etabli.dialogues.AnnoncerQuestion(Reponse::Annuler);
     BancProgramme::Cliquer(banc.ui().Ecrire);
     EXPECT_EQ(Boites(), QStringList({ecrasees}));
     EXPECT_EQ(pod.NombreMesures(), mesures);
@@ -63,7 +67,7 @@ TEST_F(WritingOnTheRoad, APeriodThatFitsNoFrameEndsTheProgramWithTheLoggerUntouc
     const int mesures = pod.NombreMesures();
     auto& liste = *banc.ui().ListePeriodeEchantillonage;
     liste.FixerDonnee(liste.Index(), 65536);
-    BancProgramme::Cliquer(banc.ui().Ecrire);
+    EcrireEnConfirmant();
     ASSERT_EQ(banc.sorties, (std::vector<int>{1}));
     EXPECT_TRUE(Boites().last().contains(QStringLiteral("Overflow")));
     EXPECT_EQ(pod.NombreMesures(), mesures);
@@ -73,7 +77,7 @@ TEST_F(WritingOnTheRoad, APeriodThatFitsNoFrameEndsTheProgramWithTheLoggerUntouc
 
 TEST_F(WritingOnTheRoad, LeavesTheWatchdogTimerRunning) {
     banc.programme->Timeur.start(1'000'000);
-    BancProgramme::Cliquer(banc.ui().Ecrire);
+    EcrireEnConfirmant();
     EXPECT_EQ(Boites(), QStringList({ecrasees, terminee}));
     EXPECT_TRUE(banc.programme->Timeur.isActive());
     EXPECT_EQ(banc.programme->Timeur.interval(), 1'000'000);
@@ -82,7 +86,7 @@ TEST_F(WritingOnTheRoad, LeavesTheWatchdogTimerRunning) {
 TEST_F(WritingOnTheRoad, InTheMiddleOfADownloadEndsItWithItsFileStanding) {
     int tours = 0;
     banc.etabli.respiration.ReglerEvenements([&] {
-        if (++tours == 300) BancProgramme::Cliquer(banc.ui().Ecrire);
+        if (++tours == 300) EcrireEnConfirmant();
     });
     BancProgramme::Cliquer(banc.ui().LireValeurs);
     EXPECT_TRUE(Boites().contains(terminee));

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "calibration/calibration_fixture.h"
+#include "support/case_names.h"
 
 namespace bornika::essai {
 namespace {
@@ -86,11 +87,8 @@ std::vector<Essai> Essais() {
 }
 
 std::string NomMuet(const testing::TestParamInfo<Essai>& info) {
-    const char* const genre = info.param.genre == GenrePanne::silence         ? "Silent"
-                              : info.param.genre == GenrePanne::reponsePerdue ? "Lost"
-                                                                              : "PulledOut";
     return std::string(info.param.casMuets.nom) + "_" + std::to_string(info.param.rang) + "_" +
-           genre;
+           NomDePanne(info.param.genre);
 }
 
 class CalibrationFailures : public testing::TestWithParam<Essai> {
@@ -180,7 +178,7 @@ TEST(CalibrationFailure, OfTheDateOfAPointDoesNotStandInTheWayOfItsEnd) {
         banc.Cliquer(banc.f().EntrerEtalonnage);
         EXPECT_TRUE(banc.ecran.etat.TimeOut);
         banc.Oublier();
-        banc.Repondre(Reponse::Non);
+        if (avance == Avance::Repos) banc.Repondre(Reponse::Non);
         banc.Cliquer(banc.f().SortirEtalonnage);
         EXPECT_TRUE(banc.f().EntrerEtalonnage->isEnabled());
         EXPECT_EQ(banc.fiche->DeuxiemePoint, 0);

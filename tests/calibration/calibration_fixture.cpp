@@ -24,6 +24,8 @@ std::string Si(bool vrai, const char* mot) {
 BancEtalonnage::BancEtalonnage(Firmware firmware, const QString& langue)
     : BancEnregistreur(langue, IdentiteDe(firmware)) {
     enregistreur.ReglerBatterie(406);
+    // They lead the operator through each point.
+    etabli.dialogues.TolererInformations();
 }
 
 void BancEtalonnage::Ouvrir() {
@@ -102,7 +104,7 @@ std::string BancEtalonnage::Poignees() const {
 
 QStringList BancEtalonnage::Boites() const {
     QStringList textes;
-    for (const auto& boite : etabli.dialogues.boites)
+    for (const auto& boite : etabli.dialogues.Boites())
         textes << boite.texte;
     return textes;
 }
@@ -110,7 +112,7 @@ QStringList BancEtalonnage::Boites() const {
 void BancEtalonnage::Oublier() {
     enregistreur.journal.Vider();
     enregistreur.lien.clear();
-    etabli.dialogues.boites.clear();
+    etabli.dialogues.OublierBoites();
 }
 
 }  // namespace bornika::essai

@@ -41,7 +41,11 @@ class BancEtalonnage : public BancEnregistreur {
     /// off, sensor at `points`, cord on.
     void Mesurer(int points);
     /// The answer to the question for a second point.
-    void Repondre(Reponse reponse) { etabli.dialogues.reponses = {reponse}; }
+    void Repondre(Reponse reponse) {
+        etabli.dialogues.AnnoncerQuestion(
+            reponse,
+            ecran.Texte(QStringLiteral("Voulez vous étalonner un 2 ème point  ? ")).trimmed());
+    }
 
     Ui::Etalonnage& f() { return *fiche->ui; }
     /// "start - read quit, 1 row, types 1, point 1": the buttons that can be pressed, the rows

@@ -151,7 +151,7 @@ TEST(CalibrationReading, BehindAWrongEchoOfTheVersionTakesTheFirmwareForNew) {
     banc.Oublier();
     banc.Repondre(Reponse::Oui);
     banc.Cliquer(banc.f().SortirEtalonnage);
-    EXPECT_EQ(banc.etabli.dialogues.boites.size(), 1U);
+    EXPECT_EQ(banc.etabli.dialogues.Boites().size(), 1U);
     banc.Mesurer(770);
     banc.Cliquer(banc.f().EntrerEtalonnage);
     EXPECT_EQ(banc.enregistreur.journal.DeCode(24).at(0).at(3), 2);

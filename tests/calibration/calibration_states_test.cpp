@@ -14,8 +14,8 @@ struct Cas {
     Firmware firmware;
     Avance avance;
     Bouton bouton;
-    /// To the question for a second point.
-    Reponse reponse;
+    /// To the question for a second point, where it comes.
+    std::optional<Reponse> reponse;
     const char* situation;
     std::vector<int> codes;
     int boites;
@@ -59,38 +59,44 @@ const std::vector<int> prise{9, 24, 27};
 const std::vector<int> rien{};
 
 const Cas cas[] = {
-    {"IdleRead", nouveau, Avance::Repos, Bouton::Lire, oui, repos, lecture, 0},
-    {"IdleStart", nouveau, Avance::Repos, Bouton::Entrer, oui, pointUn, prise, 2},
-    {"IdleEnd", nouveau, Avance::Repos, Bouton::Fin, oui, repos, rien, 0},
-    {"OneSentRead", nouveau, Avance::PointUn, Bouton::Lire, oui, pointUn, lecture, 0},
-    {"OneSentStart", nouveau, Avance::PointUn, Bouton::Entrer, oui, pointUn, rien, 0},
+    {"IdleRead", nouveau, Avance::Repos, Bouton::Lire, {}, repos, lecture, 0},
+    {"IdleStart", nouveau, Avance::Repos, Bouton::Entrer, {}, pointUn, prise, 2},
+    {"IdleEnd", nouveau, Avance::Repos, Bouton::Fin, {}, repos, rien, 0},
+    {"OneSentRead", nouveau, Avance::PointUn, Bouton::Lire, {}, pointUn, lecture, 0},
+    {"OneSentStart", nouveau, Avance::PointUn, Bouton::Entrer, {}, pointUn, rien, 0},
     {"OneSentEndYes", nouveau, Avance::PointUn, Bouton::Fin, oui, attenteDeux, {9}, 1},
     {"OneSentEndNo", nouveau, Avance::PointUn, Bouton::Fin, non, repos, {9, 25, 9, 28, 26, 26}, 1},
     // The logger has one point still: its data hide the row that is being typed.
-    {"WaitingRead", nouveau, Avance::AttenteDeux, Bouton::Lire, oui,
-     "start - read quit, 1 row, types 2, point 2", lecture, 0},
-    {"WaitingStart", nouveau, Avance::AttenteDeux, Bouton::Entrer, oui, pointDeux, prise, 2},
-    {"WaitingEnd", nouveau, Avance::AttenteDeux, Bouton::Fin, oui, attenteDeux, rien, 0},
-    {"TwoSentRead", nouveau, Avance::PointDeux, Bouton::Lire, oui, pointDeux, lecture, 0},
-    {"TwoSentStart", nouveau, Avance::PointDeux, Bouton::Entrer, oui, pointDeux, rien, 0},
-    {"TwoSentEnd", nouveau, Avance::PointDeux, Bouton::Fin, oui, reposDeux, {25, 9, 28, 26, 26}, 0},
-    {"OldIdleRead", ancien, Avance::Repos, Bouton::Lire, oui, repos, lectureAncien, 0},
+    {"WaitingRead",
+     nouveau,
+     Avance::AttenteDeux,
+     Bouton::Lire,
+     {},
+     "start - read quit, 1 row, types 2, point 2",
+     lecture,
+     0},
+    {"WaitingStart", nouveau, Avance::AttenteDeux, Bouton::Entrer, {}, pointDeux, prise, 2},
+    {"WaitingEnd", nouveau, Avance::AttenteDeux, Bouton::Fin, {}, attenteDeux, rien, 0},
+    {"TwoSentRead", nouveau, Avance::PointDeux, Bouton::Lire, {}, pointDeux, lecture, 0},
+    {"TwoSentStart", nouveau, Avance::PointDeux, Bouton::Entrer, {}, pointDeux, rien, 0},
+    {"TwoSentEnd", nouveau, Avance::PointDeux, Bouton::Fin, {}, reposDeux, {25, 9, 28, 26, 26}, 0},
+    {"OldIdleRead", ancien, Avance::Repos, Bouton::Lire, {}, repos, lectureAncien, 0},
     // The hidden second box was never filled.
-    {"OldIdleStart", ancien, Avance::Repos, Bouton::Entrer, oui, repos, rien, 0},
-    {"OldIdleEnd", ancien, Avance::Repos, Bouton::Fin, oui, repos, rien, 0},
-    {"OldOneSentRead", ancien, Avance::PointUn, Bouton::Lire, oui, pointUn, lectureAncien, 0},
-    {"OldOneSentStart", ancien, Avance::PointUn, Bouton::Entrer, oui, pointUn, rien, 0},
-    {"OldOneSentEnd", ancien, Avance::PointUn, Bouton::Fin, oui, repos, {9, 25, 9, 28, 26}, 0},
+    {"OldIdleStart", ancien, Avance::Repos, Bouton::Entrer, {}, repos, rien, 0},
+    {"OldIdleEnd", ancien, Avance::Repos, Bouton::Fin, {}, repos, rien, 0},
+    {"OldOneSentRead", ancien, Avance::PointUn, Bouton::Lire, {}, pointUn, lectureAncien, 0},
+    {"OldOneSentStart", ancien, Avance::PointUn, Bouton::Entrer, {}, pointUn, rien, 0},
+    {"OldOneSentEnd", ancien, Avance::PointUn, Bouton::Fin, {}, repos, {9, 25, 9, 28, 26}, 0},
 };
 
 TEST_P(CalibrationStates, EachButtonLeadsToItsState) {
     const Cas& c = GetParam();
     banc.Amener(c.avance);
-    banc.Repondre(c.reponse);
+    if (c.reponse) banc.Repondre(*c.reponse);
     banc.Cliquer(Controle(c.bouton));
     EXPECT_EQ(banc.Situation(), c.situation);
     EXPECT_EQ(banc.Codes(), c.codes);
-    EXPECT_EQ(static_cast<int>(banc.etabli.dialogues.boites.size()), c.boites);
+    EXPECT_EQ(static_cast<int>(banc.etabli.dialogues.Boites().size()), c.boites);
     EXPECT_TRUE(banc.fiche->isVisible());
     EXPECT_FALSE(banc.ecran.etat.TimeOut);
     EXPECT_TRUE(banc.etabli.fautes.empty());
@@ -114,9 +120,15 @@ TEST_P(CalibrationQuit, ClosesTheFormInEveryStateWithoutAWordToTheLogger) {
     }
 }
 
+std::string NomAvance(const testing::TestParamInfo<Avance>& info) {
+    constexpr const char* noms[] = {"Idle", "OneSent", "Waiting", "TwoSent"};
+    return noms[static_cast<std::size_t>(info.param)];
+}
+
 INSTANTIATE_TEST_SUITE_P(Table, CalibrationQuit,
                          testing::Values(Avance::Repos, Avance::PointUn, Avance::AttenteDeux,
-                                         Avance::PointDeux));
+                                         Avance::PointDeux),
+                         NomAvance);
 
 // Nothing disables the way out; every step but the way to a second point enables it all the same.
 TEST(CalibrationWayOut, IsEnabledByEveryStepButTheWayToASecondPoint) {
@@ -124,22 +136,22 @@ TEST(CalibrationWayOut, IsEnabledByEveryStepButTheWayToASecondPoint) {
         Firmware firmware;
         Avance avance;
         Bouton bouton;
-        Reponse reponse;
+        std::optional<Reponse> reponse;
         bool ouvert;
     } etapes[] = {
-        {nouveau, Avance::Repos, Bouton::Entrer, oui, true},
+        {nouveau, Avance::Repos, Bouton::Entrer, {}, true},
         {nouveau, Avance::PointUn, Bouton::Fin, oui, false},
         {nouveau, Avance::PointUn, Bouton::Fin, non, true},
-        {nouveau, Avance::AttenteDeux, Bouton::Entrer, oui, true},
-        {nouveau, Avance::PointDeux, Bouton::Fin, oui, true},
-        {ancien, Avance::PointUn, Bouton::Fin, oui, true},
+        {nouveau, Avance::AttenteDeux, Bouton::Entrer, {}, true},
+        {nouveau, Avance::PointDeux, Bouton::Fin, {}, true},
+        {ancien, Avance::PointUn, Bouton::Fin, {}, true},
     };
     for (const auto& etape : etapes) {
         BancEtalonnage banc(etape.firmware);
         banc.Amener(etape.avance);
         banc.f().ValeurPressionReelle_1->setText(QStringLiteral("0"));
         banc.f().Sortir->setEnabled(false);
-        banc.Repondre(etape.reponse);
+        if (etape.reponse) banc.Repondre(*etape.reponse);
         banc.Cliquer(etape.bouton == Bouton::Entrer ? banc.f().EntrerEtalonnage
                                                     : banc.f().SortirEtalonnage);
         EXPECT_EQ(banc.f().Sortir->isEnabled(), etape.ouvert) << banc.Situation();

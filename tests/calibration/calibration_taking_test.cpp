@@ -172,7 +172,7 @@ TEST(CalibrationBoxes, GuideTheOperatorWithTheLinkClosedAndTheButtonsSet) {
                                           "attendez une seconde"),
                            QStringLiteral("Déconnectez le k-Pod de son capteur, rebranchez le "
                                           "cordon USB")}));
-    for (const auto& boite : banc.etabli.dialogues.boites) {
+    for (const auto& boite : banc.etabli.dialogues.Boites()) {
         EXPECT_EQ(boite.icone, Icone::Information);
         EXPECT_EQ(boite.boutons, Boutons::Ok);
         EXPECT_EQ(boite.titre, QStringLiteral("k-Pod TX"));
@@ -205,8 +205,8 @@ TEST(CalibrationBoxes, AskForTheSecondPointWithTheLinkStillOpen) {
     };
     banc.Repondre(Reponse::Non);
     banc.Cliquer(banc.f().SortirEtalonnage);
-    ASSERT_EQ(banc.etabli.dialogues.boites.size(), 1U);
-    const auto& boite = banc.etabli.dialogues.boites.front();
+    ASSERT_EQ(banc.etabli.dialogues.Boites().size(), 1U);
+    const auto& boite = banc.etabli.dialogues.Boites().front();
     EXPECT_EQ(boite.icone, Icone::Question);
     EXPECT_EQ(boite.boutons, Boutons::OuiNon);
     EXPECT_EQ(boite.titre, QStringLiteral("k-Pod TX"));

@@ -50,9 +50,9 @@ TEST(EnvoiEntete, SilenceGivesFalseAndKeepsThePreviousReply) {
     EXPECT_EQ(buffer, Plein());
     EXPECT_TRUE(b.ecran.etat.TimeOut);
     EXPECT_EQ(b.lien.ReadHandle, 0);
-    ASSERT_EQ(b.dialogues.boites.size(), 1u);
-    EXPECT_EQ(b.dialogues.boites[0].texte, q("k-Pod absent"));
-    EXPECT_EQ(b.dialogues.boites[0].titre, QString());
+    ASSERT_EQ(b.dialogues.Boites().size(), 1u);
+    EXPECT_EQ(b.dialogues.Boites()[0].texte, q("k-Pod absent"));
+    EXPECT_EQ(b.dialogues.Boites()[0].titre, QString());
 }
 
 TEST(EnvoiEntete, SilenceWithoutErreurIsSilent) {
@@ -61,7 +61,7 @@ TEST(EnvoiEntete, SilenceWithoutErreurIsSilent) {
     b.lien.OuvreUSB(1);
     Tampon buffer{};
     EXPECT_FALSE(Envoi_Entete(b.poste, CMD_LIT_MODE, buffer, 8, false));
-    EXPECT_TRUE(b.dialogues.boites.empty());
+    EXPECT_TRUE(b.dialogues.Boites().empty());
 }
 
 TEST(EnvoiEntete, TextNamesTheProductInThePresentLanguage) {
@@ -72,16 +72,16 @@ TEST(EnvoiEntete, TextNamesTheProductInThePresentLanguage) {
             b.ecran.etat.TypekPod = type;
             b.ecran.ui->ListeLangues->Choisir(type == 19 ? 1 : 0);
             b.ecran.etat.TimeOut = false;
-            b.dialogues.boites.clear();
+            b.dialogues.OublierBoites();
             Tampon buffer{};
             Envoi_Entete(b.poste, CMD_LIT_MODE, buffer, 8, true);
-            ASSERT_EQ(b.dialogues.boites.size(), 1u);
+            ASSERT_EQ(b.dialogues.Boites().size(), 1u);
             const QString carte = edition ? q("Z907FPT") : q("k-Pod 33");
             const QString attendu = type == 19             ? q("no ") + carte
                                     : type == 20           ? carte + q(" absent")
                                     : type == 1 && edition ? q("Z907PT absent")
                                                            : q("k-Pod absent");
-            EXPECT_EQ(b.dialogues.boites[0].texte, attendu) << type;
+            EXPECT_EQ(b.dialogues.Boites()[0].texte, attendu) << type;
         }
     }
 }
@@ -127,7 +127,7 @@ TEST(EnvoiEntete, WrongEchoIsDeliveredAndLeftToTheCaller) {
     EXPECT_TRUE(Envoi_Entete(b.poste, CMD_LIT_MODE, buffer, 3, true));
     EXPECT_EQ(buffer[1], 200);
     EXPECT_EQ(buffer[3], 2);
-    EXPECT_TRUE(b.dialogues.boites.empty());
+    EXPECT_TRUE(b.dialogues.Boites().empty());
 }
 
 TEST(EnvoiEntete, ShortReplyOverwritesTheRestWithZeros) {
@@ -150,7 +150,7 @@ TEST(EnvoiEntete, WhileTimeOutStandsItFailsWithoutReadingAndWithoutABox) {
     EXPECT_FALSE(Envoi_Entete(b.poste, CMD_LIT_MODE, buffer, 8, true));
     EXPECT_EQ(buffer, Plein());
     EXPECT_TRUE(usb.appels.filter(q("read")).isEmpty());
-    EXPECT_TRUE(b.dialogues.boites.empty());
+    EXPECT_TRUE(b.dialogues.Boites().empty());
 }
 
 TEST(EnvoiEntete, LoggerPulledOutBetweenTwoCommandsIsLostAtTheSecond) {
@@ -167,8 +167,8 @@ TEST(EnvoiEntete, LoggerPulledOutBetweenTwoCommandsIsLostAtTheSecond) {
     EXPECT_EQ(b.lien.ReadHandle, 0);
     EXPECT_EQ(b.lien.WriteHandle, 0);
     EXPECT_EQ(bus.PoigneesOuvertes(), 0);
-    ASSERT_EQ(b.dialogues.boites.size(), 1u);
-    EXPECT_EQ(b.dialogues.boites[0].texte, q("k-Pod absent"));
+    ASSERT_EQ(b.dialogues.Boites().size(), 1u);
+    EXPECT_EQ(b.dialogues.Boites()[0].texte, q("k-Pod absent"));
 }
 
 TEST(EnvoiEntete, DoesNotOpenOrCloseTheLink) {
@@ -199,13 +199,13 @@ TEST(EchangeDirect, SilenceGivesZerosAndTheCataloguesText) {
     Banc b(usb);
     b.lien.OuvreUSB(1);
     EXPECT_EQ(EchangeDirect(b.poste, TrameForceContexte(), longueurTrame, 1), Octets(1, 0));
-    ASSERT_EQ(b.dialogues.boites.size(), 1u);
-    EXPECT_EQ(b.dialogues.boites[0].texte, q("k-Pod absent"));
-    EXPECT_EQ(b.dialogues.boites[0].titre, QString());
+    ASSERT_EQ(b.dialogues.Boites().size(), 1u);
+    EXPECT_EQ(b.dialogues.Boites()[0].texte, q("k-Pod absent"));
+    EXPECT_EQ(b.dialogues.Boites()[0].titre, QString());
     EXPECT_TRUE(b.ecran.etat.TimeOut);
     b.ecran.etat.TimeOut = false;
     EchangeDirect(b.poste, TrameForceContexte(), longueurTrame, 1, false);
-    EXPECT_EQ(b.dialogues.boites.size(), 1u);
+    EXPECT_EQ(b.dialogues.Boites().size(), 1u);
 }
 
 TEST(LireReponse, ReadsWithoutSendingAndSpeaksOfALostLogger) {
@@ -217,11 +217,11 @@ TEST(LireReponse, ReadsWithoutSendingAndSpeaksOfALostLogger) {
     EXPECT_EQ(LireReponse(b.poste, 3), (Octets{1, 2, 0}));
     EXPECT_EQ(usb.appels, QStringList{q("read 2: 3")});
     EXPECT_EQ(LireReponse(b.poste, 3, false), Octets(3, 0));
-    EXPECT_TRUE(b.dialogues.boites.empty());
+    EXPECT_TRUE(b.dialogues.Boites().empty());
     b.ecran.etat.TimeOut = false;
     EXPECT_EQ(LireReponse(b.poste, 3), Octets(3, 0));
-    ASSERT_EQ(b.dialogues.boites.size(), 1u);
-    EXPECT_EQ(b.dialogues.boites[0].texte, q("k-Pod absent"));
+    ASSERT_EQ(b.dialogues.Boites().size(), 1u);
+    EXPECT_EQ(b.dialogues.Boites()[0].texte, q("k-Pod absent"));
     EXPECT_TRUE(b.ecran.etat.TimeOut);
 }
 

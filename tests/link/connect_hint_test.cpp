@@ -53,7 +53,7 @@ TEST(ConnectHint, SaysWhereTheUsbNumbersAreEntered) {
         EXPECT_EQ(Texte(fiche), q("numéros USB :\n") + b.banc.ecran.configuration.Chemin());
         EXPECT_TRUE(fiche.ui->LabelIndication->isVisible());
     });
-    EXPECT_TRUE(b.banc.dialogues.boites.empty());
+    EXPECT_TRUE(b.banc.dialogues.Boites().empty());
 }
 
 TEST(ConnectHint, SaysThatOneClickChoosesAndThatNoneDoesWhileAllIsViewed) {
@@ -116,7 +116,7 @@ TEST(ConnectHint, TellsOfMissingRightsOnceInItsPlaceAndNeverInABox) {
         Regarder(fiche);
         EXPECT_EQ(Texte(fiche), q("aucun"));
     });
-    EXPECT_TRUE(b.banc.dialogues.boites.empty());
+    EXPECT_TRUE(b.banc.dialogues.Boites().empty());
 }
 
 TEST(ConnectHint, SpeaksTheLanguageOfTheList) {

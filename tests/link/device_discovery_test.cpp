@@ -133,7 +133,7 @@ TEST(FrmConnect, SilentLoggerIsSkippedWithoutABoxAndTheNextOneIsListed) {
         fiche.ui->ViewAll->click();
         EXPECT_EQ(fiche.ui->Listekrow->count(), 1);
     });
-    EXPECT_TRUE(b.banc.dialogues.boites.empty());
+    EXPECT_TRUE(b.banc.dialogues.Boites().empty());
     EXPECT_EQ(b.bus.PoigneesOuvertes(), 0);
 }
 
@@ -327,7 +327,7 @@ TEST(LitVersion, SilentLoggerShowsNoMessage) {
     LitVersion(b.poste, 9, estKpod, texte);
     EXPECT_EQ(texte, q("Generic k-Row ( 0) 0.00"));
     EXPECT_FALSE(estKpod);
-    EXPECT_TRUE(b.dialogues.boites.empty());
+    EXPECT_TRUE(b.dialogues.Boites().empty());
 }
 
 TEST(FormSelection, ShowsThePairOfTheEditionAndTheLoadChoosesTheFirst) {

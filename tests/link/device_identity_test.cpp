@@ -2,6 +2,7 @@
 
 #include "link/command_table.h"
 #include "link/link_fixture.h"
+#include "support/case_names.h"
 
 namespace bornika::essai {
 namespace {
@@ -67,7 +68,8 @@ INSTANTIATE_TEST_SUITE_P(Versions, NumerosDeVersion,
                                          CasVersion{2, 12, 0.212}, CasVersion{2, 120, 2.12},
                                          CasVersion{20, 89, 2.089}, CasVersion{20, 96, 2.096},
                                          CasVersion{20, 98, 2.098}, CasVersion{2, 112, 2.112},
-                                         CasVersion{0, 0, 0.0}, CasVersion{255, 255, 255.255}));
+                                         CasVersion{0, 0, 0.0}, CasVersion{255, 255, 255.255}),
+                         nomDuCasImprime);
 
 TEST(LitVersionKpod, LimitsCompareExactly) {
     UsbDicte usb;
@@ -90,7 +92,7 @@ TEST(LitVersionKpod, SilentDeviceLeavesTheVersionNumber) {
     EXPECT_FALSE(ok);
     EXPECT_EQ(b.ecran.etat.VersionLogiciel, 2.5);
     EXPECT_TRUE(b.ecran.etat.TimeOut);
-    EXPECT_TRUE(b.dialogues.boites.empty());
+    EXPECT_TRUE(b.dialogues.Boites().empty());
     EXPECT_EQ(b.lien.ReadHandle, 0);
 }
 
@@ -142,7 +144,7 @@ TEST(LitTypeKpod, FailureGivesEmptyText) {
     EXPECT_FALSE(b.ecran.etat.TimeOut);
     EXPECT_EQ(LitTypeKpod(b.poste), QString());
     EXPECT_TRUE(b.ecran.etat.TimeOut);
-    EXPECT_TRUE(b.dialogues.boites.empty());
+    EXPECT_TRUE(b.dialogues.Boites().empty());
     EXPECT_EQ(b.lien.ReadHandle, 0);
 }
 
@@ -209,7 +211,7 @@ TEST(LitNumeroSerieKpod, WrongEchoAndSilenceGiveEmptyTextWithoutABox) {
     EXPECT_FALSE(b.ecran.etat.TimeOut);
     EXPECT_EQ(LitNumeroSerieKpod(b.poste), QString());
     EXPECT_TRUE(b.ecran.etat.TimeOut);
-    EXPECT_TRUE(b.dialogues.boites.empty());
+    EXPECT_TRUE(b.dialogues.Boites().empty());
 }
 
 }  // namespace

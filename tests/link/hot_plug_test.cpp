@@ -51,7 +51,7 @@ TEST_F(HotPlug, ALoggerPluggedInAppearsAndOnePulledOutGoes) {
     });
     EXPECT_FALSE(b.etat().Connected);
     EXPECT_EQ(b.bus.PoigneesOuvertes(), 0);
-    EXPECT_TRUE(b.banc.dialogues.boites.empty());
+    EXPECT_TRUE(b.banc.dialogues.Boites().empty());
 }
 
 TEST_F(HotPlug, ALoggerThatAppearedIsChosenByAClickLikeAnyOther) {

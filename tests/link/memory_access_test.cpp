@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "retrieval/retrieval_fixture.h"
+#include "support/case_names.h"
 #include "support/fault_number.h"
 
 namespace bornika::essai {
@@ -18,10 +19,10 @@ struct BancMemoire : BancLecture {
         enregistreur.pannes.Ordonner({.code = code, .genre = simulateur::GenrePanne::silence});
     }
     bool AbsentDit() const {
-        return etabli.dialogues.boites.size() == 1 &&
-               etabli.dialogues.boites[0].texte ==
+        return etabli.dialogues.Boites().size() == 1 &&
+               etabli.dialogues.Boites()[0].texte ==
                    const_cast<MainScreen&>(ecran).Texte(QStringLiteral("k-Pod Absent")) &&
-               etabli.dialogues.boites[0].titre.isEmpty();
+               etabli.dialogues.Boites()[0].titre.isEmpty();
     }
 };
 
@@ -57,7 +58,7 @@ TEST(MemoireFlash, DoesNotClearTimeOutAndThenReachesNoAnswer) {
     BancMemoire banc;
     banc.ecran.etat.TimeOut = true;
     EXPECT_TRUE(Memoire_Flash(banc.poste, true, 1, 0).empty());
-    EXPECT_TRUE(banc.etabli.dialogues.boites.empty());
+    EXPECT_TRUE(banc.etabli.dialogues.Boites().empty());
     EXPECT_EQ(banc.PoigneesOuvertes(), 0);
 }
 
@@ -159,6 +160,7 @@ TEST(LitEEpromInterne, WithoutOuvrirClosesTheLinkOnAnError) {
 
 TEST(LitEEpromInterne, WithoutOuvrirOnAClosedLinkGivesNothing) {
     BancMemoire banc;
+    banc.etabli.dialogues.AnnoncerInformation(QStringLiteral("k-Pod not found"));
     EXPECT_TRUE(LitEEpromInterne(banc.poste, 0, false).empty());
     EXPECT_TRUE(banc.enregistreur.lien.empty());
 }
@@ -243,7 +245,7 @@ TEST_P(OutOfRange, AddressesAreAnOverflowAndNothingIsSent) {
     EXPECT_EQ(banc.enregistreur.journal.Total(), 0);
 }
 
-INSTANTIATE_TEST_SUITE_P(Addresses, OutOfRange, testing::Values(-1, 65536));
+INSTANTIATE_TEST_SUITE_P(Addresses, OutOfRange, testing::Values(-1, 65536), nomDuCasImprime);
 
 TEST(EcritEEpromInterne, AValueThatIsNoByteIsAnOverflowAndNothingIsSent) {
     BancMemoire banc;

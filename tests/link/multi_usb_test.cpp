@@ -96,7 +96,7 @@ TEST(UsbWrite, GivesUpAfterThreeAttemptsAndTellsNobody) {
     b.lien.UsbWrite(trame, 8);
     EXPECT_EQ(usb.appels.filter(q("write")).size(), 3);
     EXPECT_FALSE(b.ecran.etat.TimeOut);
-    EXPECT_TRUE(b.dialogues.boites.empty());
+    EXPECT_TRUE(b.dialogues.Boites().empty());
     EXPECT_TRUE(b.horloge.pauses.empty());
 }
 
@@ -138,7 +138,7 @@ TEST(UsbRead, GivesTheBytesAndShowsNothing) {
     EXPECT_EQ(b.lien.UsbRead(4, q("m"), true, false, q("t")), (Octets{9, 255, 0, 7}));
     EXPECT_EQ(usb.appels, QStringList{q("read 2: 4")});
     EXPECT_FALSE(b.ecran.etat.TimeOut);
-    EXPECT_TRUE(b.dialogues.boites.empty());
+    EXPECT_TRUE(b.dialogues.Boites().empty());
 }
 
 TEST(UsbRead, AnswerLowersAFlagThatRoseWhileItWasWaitedFor) {
@@ -159,7 +159,7 @@ TEST(UsbRead, FourthArgumentHasNoEffect) {
         usb.reponses = {{1, 2}};
         EXPECT_EQ(b.lien.UsbRead(2, q("m"), true, quatrieme, {}), (Octets{1, 2}));
         EXPECT_EQ(b.lien.UsbRead(2, q("m"), true, quatrieme, {}), (Octets{0, 0}));
-        EXPECT_EQ(b.dialogues.boites.size(), 1u);
+        EXPECT_EQ(b.dialogues.Boites().size(), 1u);
         EXPECT_EQ(b.lien.ReadHandle, 0);
     }
 }
@@ -192,7 +192,7 @@ TEST(UsbRead, WhileTimeOutStandsGivesZerosWithoutReachingTheDevice) {
     b.ecran.etat.TimeOut = true;
     EXPECT_EQ(b.lien.UsbRead(5, q("m"), true, false, {}), Octets(5, 0));
     EXPECT_TRUE(usb.appels.isEmpty());
-    EXPECT_TRUE(b.dialogues.boites.empty());
+    EXPECT_TRUE(b.dialogues.Boites().empty());
     EXPECT_EQ(b.lien.ReadHandle, 2);
 }
 
@@ -212,11 +212,11 @@ TEST(UsbRead, SilenceClosesBothHandlesThenShowsTheBoxThenRaisesTheFlag) {
     EXPECT_EQ(usb.appels, (QStringList{q("read 2: 3"), q("close 2"), q("close 1"), q("box")}));
     EXPECT_FALSE(pendant);
     EXPECT_TRUE(b.ecran.etat.TimeOut);
-    ASSERT_EQ(b.dialogues.boites.size(), 1u);
-    EXPECT_EQ(b.dialogues.boites[0].icone, Icone::Aucune);
-    EXPECT_EQ(b.dialogues.boites[0].boutons, Boutons::Ok);
-    EXPECT_EQ(b.dialogues.boites[0].titre, q("Titre"));
-    EXPECT_EQ(b.dialogues.boites[0].texte, q("parti"));
+    ASSERT_EQ(b.dialogues.Boites().size(), 1u);
+    EXPECT_EQ(b.dialogues.Boites()[0].icone, Icone::Aucune);
+    EXPECT_EQ(b.dialogues.Boites()[0].boutons, Boutons::Ok);
+    EXPECT_EQ(b.dialogues.Boites()[0].titre, q("Titre"));
+    EXPECT_EQ(b.dialogues.Boites()[0].texte, q("parti"));
 }
 
 TEST(UsbRead, SilenceWithoutErreurShowsNoBoxAndAsksForNoMessage) {
@@ -229,9 +229,10 @@ TEST(UsbRead, SilenceWithoutErreurShowsNoBoxAndAsksForNoMessage) {
         return q("x");
     };
     b.lien.UsbRead(3, message, false, false, {});
-    EXPECT_TRUE(b.dialogues.boites.empty());
+    EXPECT_TRUE(b.dialogues.Boites().empty());
     EXPECT_TRUE(b.ecran.etat.TimeOut);
     b.ecran.etat.TimeOut = false;
+    b.dialogues.AnnoncerInformation(q("x"));
     b.lien.UsbRead(3, message, true, false, {});
     EXPECT_EQ(demandes, 1);
 }
@@ -297,7 +298,7 @@ TEST(TraceErreurUSB, AsksForATextOnlyForRealErrorsAndShowsNothing) {
     usb.erreur = 19;
     b.lien.TraceErreurUSB(q("UsbWrite"));
     EXPECT_EQ(usb.textesDemandes, 1);
-    EXPECT_TRUE(b.dialogues.boites.empty());
+    EXPECT_TRUE(b.dialogues.Boites().empty());
 }
 
 TEST(TraceErreurUSB, IsAskedOnceAfterAWriteWhateverItsAttemptsAndOnceAfterARead) {
@@ -315,7 +316,7 @@ TEST(TraceErreurUSB, IsAskedOnceAfterAWriteWhateverItsAttemptsAndOnceAfterARead)
     EXPECT_EQ(usb.textesDemandes, 3);
     b.lien.UsbRead(1, QString(), false, false, {});
     EXPECT_EQ(usb.textesDemandes, 3) << "no read was made";
-    EXPECT_TRUE(b.dialogues.boites.empty());
+    EXPECT_TRUE(b.dialogues.Boites().empty());
 }
 
 }  // namespace

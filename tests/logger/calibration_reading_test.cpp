@@ -104,7 +104,7 @@ TEST_F(LectureEtalonnage, OldFirmwareSilentGivesZerosAndTheirLine) {
     EXPECT_TRUE(LireCapteur(true));
     EXPECT_EQ(etalonnage, nul);
     EXPECT_EQ(Rapport(), "Etalonnage : 0.0000\r\n");
-    EXPECT_TRUE(banc.etabli.dialogues.boites.empty());
+    EXPECT_TRUE(banc.etabli.dialogues.Boites().empty());
     EXPECT_TRUE(banc.ecran.etat.TimeOut);
 }
 

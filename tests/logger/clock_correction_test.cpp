@@ -117,14 +117,14 @@ TEST_F(CorrectionTemps, AFailedReadLeavesBothBoxes) {
     LireStockee(-2);
     EXPECT_EQ(Boites(), "a|b");
     EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);
-    EXPECT_EQ(banc.etabli.dialogues.boites.size(), 1U);
+    EXPECT_EQ(banc.etabli.dialogues.Boites().size(), 1U);
 }
 
 TEST_F(CorrectionTemps, AStandingTimeOutLeavesBothBoxesWithoutAWord) {
     banc.ecran.etat.TimeOut = true;
     LireStockee(-2);
     EXPECT_EQ(Boites(), "a|b");
-    EXPECT_TRUE(banc.etabli.dialogues.boites.empty());
+    EXPECT_TRUE(banc.etabli.dialogues.Boites().empty());
 }
 
 TEST_F(CorrectionTemps, ReadsItsAddressAndClosesTheLink) {
@@ -153,9 +153,9 @@ class AppliquerCorrection : public CorrectionTemps {
     }
     /// The box "k-Pod absent" was shown once, the flag stands, the link is closed.
     void AttendreAbsent() {
-        ASSERT_EQ(banc.etabli.dialogues.boites.size(), 1U);
-        EXPECT_EQ(Clair(banc.etabli.dialogues.boites[0].texte), "k-Pod absent");
-        EXPECT_EQ(Clair(banc.etabli.dialogues.boites[0].titre), "");
+        ASSERT_EQ(banc.etabli.dialogues.Boites().size(), 1U);
+        EXPECT_EQ(Clair(banc.etabli.dialogues.Boites()[0].texte), "k-Pod absent");
+        EXPECT_EQ(Clair(banc.etabli.dialogues.Boites()[0].titre), "");
         EXPECT_TRUE(banc.ecran.etat.TimeOut);
         EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);
     }
@@ -168,7 +168,7 @@ TEST_F(AppliquerCorrection, SendsTheFourBytesLowByteFirstAndStoresThem) {
     EXPECT_EQ(Stockee(), -2);
     EXPECT_EQ(Boites(), "-2.0000|16");
     EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);
-    EXPECT_TRUE(banc.etabli.dialogues.boites.empty());
+    EXPECT_TRUE(banc.etabli.dialogues.Boites().empty());
 }
 
 TEST_F(AppliquerCorrection, EightIsNoCorrectionAndFourIsOneTick) {
@@ -220,7 +220,7 @@ TEST_F(AppliquerCorrection, WhatIsNoNumberOrNoughtIsPassedOverWithoutAWord) {
     }
     EXPECT_EQ(enregistreur.journal.Total(), 0);
     EXPECT_TRUE(enregistreur.lien.empty());
-    EXPECT_TRUE(banc.etabli.dialogues.boites.empty());
+    EXPECT_TRUE(banc.etabli.dialogues.Boites().empty());
 }
 
 TEST_F(AppliquerCorrection, UsesTheLocalesSeparatorBothWays) {
@@ -267,7 +267,7 @@ TEST_F(AppliquerCorrection, ALoggerPulledOutBeforeOrDuringTheExchangeIsToldTheSa
     EXPECT_EQ(enregistreur.journal.Total(), 0);
 
     banc.bus.Rebrancher(enregistreur.identite.usb);
-    banc.etabli.dialogues.boites.clear();
+    banc.etabli.dialogues.OublierBoites();
     banc.ecran.etat.TimeOut = false;
     Panne(simulateur::GenrePanne::debranchement);
     Appliquer("4");
@@ -280,7 +280,7 @@ TEST_F(AppliquerCorrection, WhatTheAnswerHoldsDoesNotCount) {
     for (const auto genre : {simulateur::GenrePanne::mauvaisEcho, simulateur::GenrePanne::bruit}) {
         Panne(genre);
         Appliquer("16");
-        EXPECT_TRUE(banc.etabli.dialogues.boites.empty());
+        EXPECT_TRUE(banc.etabli.dialogues.Boites().empty());
         EXPECT_FALSE(banc.ecran.etat.TimeOut);
     }
     EXPECT_EQ(Stockee(), -2);
@@ -301,7 +301,7 @@ TEST_F(AppliquerCorrection, UnderAStandingTimeOutTheFrameLeavesAndNoAnswerIsRead
     for (const auto& appel : banc.bus.Appels()) {
         EXPECT_NE(appel.genre, simulateur::GenreAppel::lire);
     }
-    EXPECT_TRUE(banc.etabli.dialogues.boites.empty());
+    EXPECT_TRUE(banc.etabli.dialogues.Boites().empty());
     EXPECT_TRUE(banc.ecran.etat.TimeOut);
     EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);
 }

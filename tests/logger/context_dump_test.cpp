@@ -8,6 +8,7 @@
 #include "logger/logger_fixture.h"
 #include "logger/parameter_reading.h"
 #include "platform/fault.h"
+#include "support/case_names.h"
 #include "support/fault_number.h"
 
 namespace bornika::essai {
@@ -249,7 +250,9 @@ class DumpDuContexte : public SurFormulaire {
     }
 
     /// What the operator types in the dialog.
-    void Choisir(const QString& nom) { banc.etabli.dialogues.fichiers = {banc.etabli.Chemin(nom)}; }
+    void Choisir(const QString& nom) {
+        banc.etabli.dialogues.AnnoncerEnregistrement(banc.etabli.Chemin(nom));
+    }
     std::string Fichier(const QString& nom = QStringLiteral("dump.txt")) const {
         return banc.etabli.Lire(nom).toStdString();
     }
@@ -261,7 +264,7 @@ class DumpDuContexte : public SurFormulaire {
         return static_cast<int>(std::ranges::count_if(
             banc.bus.Appels(), [](const auto& appel) { return appel.genre == GenreAppel::lire; }));
     }
-    std::size_t Boites() const { return banc.etabli.dialogues.boites.size(); }
+    std::size_t Boites() const { return banc.etabli.dialogues.Boites().size(); }
     std::size_t Demandes() const { return banc.etabli.dialogues.demandes.size(); }
 };
 
@@ -292,6 +295,7 @@ TEST_F(DumpDuContexte, ReadsPieceByPieceOverALinkOpenedForEach) {
 }
 
 TEST_F(DumpDuContexte, AsksForTheFileAfterTheReading) {
+    banc.etabli.dialogues.AnnoncerEnregistrement(std::nullopt);
     DumpContexte(banc.poste);
     ASSERT_EQ(Demandes(), 1U);
     const DemandeFichier& demande = banc.etabli.dialogues.demandes.front();
@@ -303,9 +307,10 @@ TEST_F(DumpDuContexte, AsksForTheFileAfterTheReading) {
 }
 
 TEST_F(DumpDuContexte, WritesNothingWhenItIsCancelledOrHasNoName) {
+    banc.etabli.dialogues.AnnoncerEnregistrement(std::nullopt);
     const QStringList avant = banc.etabli.Fichiers();
     DumpContexte(banc.poste);
-    banc.etabli.dialogues.fichiers = {QString()};
+    banc.etabli.dialogues.AnnoncerEnregistrement(QString());
     DumpContexte(banc.poste);
     EXPECT_EQ(Demandes(), 2U);
     EXPECT_EQ(banc.etabli.Fichiers(), avant);
@@ -336,7 +341,7 @@ TEST_F(DumpDuContexte, ThatAFullDiskKeepsFromBeingWrittenIsToldAndTheProgramGoes
     Choisir(QStringLiteral("dump.txt"));
     DumpContexte(banc.poste);
     ASSERT_EQ(Boites(), 1U);
-    const auto& boite = banc.etabli.dialogues.boites.front();
+    const auto& boite = banc.etabli.dialogues.Boites().front();
     EXPECT_EQ(boite.icone, Icone::Critique);
     EXPECT_EQ(boite.boutons, Boutons::Ok);
     EXPECT_EQ(Clair(boite.titre), "k-Pod");
@@ -369,10 +374,12 @@ TEST_F(DumpDuContexte, WithAFailureStandingEndsSilentlyAfterOneFrame) {
 TEST_F(DumpDuContexte, ReachesTheLoggerAgainAfterTheNextReading) {
     enregistreur.pannes.Ordonner({.code = 29, .genre = GenrePanne::silence, .occurrence = 5});
     DumpContexte(banc.poste);
-    Choisir(QStringLiteral("dump.txt"));
     DumpContexte(banc.poste);
     EXPECT_EQ(Demandes(), 0U);
+    EXPECT_EQ(Boites(), 1U);
+    banc.etabli.dialogues.AnnoncerInformation(QStringLiteral("Mode étalonnage en cours"));
     Lire_Parametres(banc.poste);
+    Choisir(QStringLiteral("dump.txt"));
     DumpContexte(banc.poste);
     EXPECT_EQ(Fichier(), Attendu());
 }
@@ -381,7 +388,7 @@ TEST_F(DumpDuContexte, WithoutAChosenLoggerSaysSoAndAsksForNoFile) {
     ecran.etat.UsbID = 0;
     DumpContexte(banc.poste);
     ASSERT_EQ(Boites(), 1U);
-    EXPECT_EQ(Clair(banc.etabli.dialogues.boites.front().texte), "k-Pod absent");
+    EXPECT_EQ(Clair(banc.etabli.dialogues.Boites().front().texte), "k-Pod absent");
     EXPECT_EQ(Demandes(), 0U);
     EXPECT_EQ(enregistreur.journal.Total(), 0);
     EXPECT_TRUE(ecran.etat.TimeOut);
@@ -401,8 +408,7 @@ struct PanneAChaqueMorceau : DumpDuContexte, testing::WithParamInterface<GenrePa
         enregistreur.pannes.Ordonner(
             {.code = 29, .genre = GetParam(), .occurrence = morceau, .parametre = recus});
         enregistreur.journal.Vider();
-        banc.etabli.dialogues.boites.clear();
-        Choisir(QStringLiteral("dump.txt"));
+        banc.etabli.dialogues.OublierBoites();
         DumpContexte(banc.poste);
         EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);
         EXPECT_TRUE(banc.etabli.fautes.empty());
@@ -435,7 +441,7 @@ TEST_P(MorceauPerdu, EndsItWithTheTextAndWithoutAFile) {
         SCOPED_TRACE(morceau);
         Vider(morceau);
         ASSERT_EQ(Boites(), 1U);
-        const auto& boite = banc.etabli.dialogues.boites.front();
+        const auto& boite = banc.etabli.dialogues.Boites().front();
         EXPECT_EQ(Clair(boite.texte), "k-Pod absent");
         EXPECT_EQ(Clair(boite.titre), "");
         EXPECT_EQ(boite.icone, Icone::Aucune);
@@ -449,6 +455,7 @@ TEST_P(MorceauPerdu, EndsItWithTheTextAndWithoutAFile) {
 TEST_P(MorceauAutre, IsWrittenAsItCameAndWhatDidNotComeIsZero) {
     for (int morceau = 1; morceau <= morceaux; ++morceau) {
         SCOPED_TRACE(morceau);
+        Choisir(QStringLiteral("dump.txt"));
         Vider(morceau);
         EXPECT_EQ(Fichier(), AvecMorceau(morceau));
         EXPECT_EQ(Boites(), 0U);
@@ -459,9 +466,11 @@ TEST_P(MorceauAutre, IsWrittenAsItCameAndWhatDidNotComeIsZero) {
 
 INSTANTIATE_TEST_SUITE_P(Kinds, MorceauPerdu,
                          testing::Values(GenrePanne::silence, GenrePanne::reponsePerdue,
-                                         GenrePanne::debranchement));
+                                         GenrePanne::debranchement),
+                         nomDuCasPanne);
 INSTANTIATE_TEST_SUITE_P(Kinds, MorceauAutre,
                          testing::Values(GenrePanne::reponseCourte, GenrePanne::mauvaisEcho,
-                                         GenrePanne::bruit));
+                                         GenrePanne::bruit),
+                         nomDuCasPanne);
 
 }  // namespace bornika::essai

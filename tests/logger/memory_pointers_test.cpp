@@ -206,9 +206,9 @@ TEST(LecturePointeurs, SilenceIsToldAndTheDisplaysKeepTheirValues) {
         EXPECT_TRUE(banc.ecran.etat.TimeOut);
         EXPECT_EQ(Clair(banc.ui.PageEcriture->text()), code == 21 ? "" : "300");
         EXPECT_EQ(Clair(banc.ui.PageLecture->text()), "");
-        ASSERT_EQ(banc.etabli.dialogues.boites.size(), 1U);
-        EXPECT_EQ(Clair(banc.etabli.dialogues.boites[0].texte), "k-Pod absent");
-        EXPECT_EQ(Clair(banc.etabli.dialogues.boites[0].titre), "");
+        ASSERT_EQ(banc.etabli.dialogues.Boites().size(), 1U);
+        EXPECT_EQ(Clair(banc.etabli.dialogues.Boites()[0].texte), "k-Pod absent");
+        EXPECT_EQ(Clair(banc.etabli.dialogues.Boites()[0].titre), "");
     }
 }
 
@@ -221,7 +221,7 @@ TEST(LecturePointeurs, AWrongEchoEndsItWithoutAWord) {
         banc.LirePointeurs();
         AttendreInchange(banc);
         EXPECT_FALSE(banc.ecran.etat.TimeOut);
-        EXPECT_TRUE(banc.etabli.dialogues.boites.empty());
+        EXPECT_TRUE(banc.etabli.dialogues.Boites().empty());
         EXPECT_EQ(banc.ui.PageEcriture->text().isEmpty(), code == 21);
         EXPECT_EQ(banc.ui.PageLecture->text().isEmpty(), true);
     }
@@ -234,7 +234,7 @@ TEST(LecturePointeurs, ASilentVersionLeavesTheFirmwareAsItWasKnown) {
     banc.enregistreur.pannes.Ordonner({9, GenrePanne::silence});
     banc.LirePointeurs();
     EXPECT_EQ(Clair(banc.ui.ValeurCapacite->text()), "74 / 540606");
-    EXPECT_TRUE(banc.etabli.dialogues.boites.empty());
+    EXPECT_TRUE(banc.etabli.dialogues.Boites().empty());
     EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);
 }
 

@@ -105,9 +105,9 @@ TEST_P(SilenceALaCommande, KeepsWhatWasReadAndLeavesTheRest) {
 
     const bool sansBoite = rang == rangDateEtalonnage || rang == rangPointBas ||
                            rang == rangPointHaut || rang == rangVersionFinale;
-    ASSERT_EQ(banc.etabli.dialogues.boites.size(), sansBoite ? 0U : 1U);
+    ASSERT_EQ(banc.etabli.dialogues.Boites().size(), sansBoite ? 0U : 1U);
     if (!sansBoite) {
-        const auto& boite = banc.etabli.dialogues.boites.front();
+        const auto& boite = banc.etabli.dialogues.Boites().front();
         EXPECT_EQ(Clair(boite.texte), "k-Pod absent");
         EXPECT_EQ(Clair(boite.titre), "");
         EXPECT_EQ(boite.icone, Icone::Aucune);
@@ -140,7 +140,7 @@ TEST(SilencePendantLaLecture, OfTheCalibrationDateGivesZerosWithoutAnyBox) {
     BancTemoin banc;
     banc.enregistreur.pannes.Ordonner({28, GenrePanne::silence});
     Lire_Parametres(banc.poste);
-    EXPECT_TRUE(banc.etabli.dialogues.boites.empty());
+    EXPECT_TRUE(banc.etabli.dialogues.Boites().empty());
     EXPECT_EQ(banc.ecran.etat.etalonnage.valeur_etalonnage_bas, 0);
     EXPECT_EQ(banc.ecran.etat.etalonnage.pente_etalonnage, 0);
     EXPECT_EQ(banc.ecran.etat.etalonnage.offset_etalonnage, 0);
@@ -152,6 +152,7 @@ TEST(SilencePendantLaLecture, OfTheCalibrationDateGivesZerosWithoutAnyBox) {
 TEST(SilencePendantLaLecture, HalfAComment) {
     BancTemoin banc;
     banc.enregistreur.pannes.Ordonner({14, GenrePanne::silence});
+    banc.etabli.dialogues.AnnoncerInformation(QStringLiteral("k-Pod absent"));
     Lire_Parametres(banc.poste);
     EXPECT_EQ(Clair(banc.ui.Commentaire->text()), " Réseau");
 }
@@ -159,6 +160,7 @@ TEST(SilencePendantLaLecture, HalfAComment) {
 TEST(SilencePendantLaLecture, OfThePulseUnitLeavesItEmpty) {
     BancTemoin banc;
     banc.enregistreur.pannes.Ordonner({29, GenrePanne::silence, 3});
+    banc.etabli.dialogues.AnnoncerInformation(QStringLiteral("k-Pod absent"));
     Lire_Parametres(banc.poste);
     EXPECT_EQ(Clair(banc.ui.UniteImpulsion->text()), "");
     EXPECT_EQ(Clair(banc.ui.CoefImpulsion->text()), "0.1");
@@ -171,7 +173,7 @@ TEST(SilencePendantLaLecture, ALoggerPulledOutInTheMiddleIsToldOnce) {
         banc.enregistreur.pannes.Ordonner({code, GenrePanne::debranchement});
         Lire(banc.poste);
         EXPECT_TRUE(banc.ecran.etat.TimeOut);
-        EXPECT_EQ(banc.etabli.dialogues.boites.size(), 1U);
+        EXPECT_EQ(banc.etabli.dialogues.Boites().size(), 1U);
         EXPECT_TRUE(banc.ui.Lire->isEnabled());
         EXPECT_TRUE(banc.etabli.fautes.empty());
     }
@@ -183,7 +185,7 @@ TEST(SilencePendantLaLecture, OfTheWholeLoggerEmptiesVersionAndType) {
     Lire(banc.poste);
     EXPECT_EQ(Clair(banc.ui.Version->text()), "");
     EXPECT_EQ(banc.ecran.etat.TypekPod, 0);
-    EXPECT_EQ(banc.etabli.dialogues.boites.size(), 1U);
+    EXPECT_EQ(banc.etabli.dialogues.Boites().size(), 1U);
     EXPECT_TRUE(banc.ui.Lire->isEnabled());
     EXPECT_EQ(banc.ecran.focusWidget(), banc.ui.Lire);
     EXPECT_TRUE(banc.ecran.etat.Connected);
@@ -194,7 +196,7 @@ TEST(SilencePendantLaLecture, NoLoggerAtAll) {
     banc.bus.Debrancher(banc.ecran.etat.UsbID);
     Lire_Parametres(banc.poste);
     EXPECT_TRUE(banc.ecran.etat.TimeOut);
-    EXPECT_EQ(banc.etabli.dialogues.boites.size(), 1U);
+    EXPECT_EQ(banc.etabli.dialogues.Boites().size(), 1U);
     EXPECT_EQ(Clair(banc.ecran.etat.Rapport), "");
     EXPECT_TRUE(banc.EstAncien(QStringLiteral("Version")));
 }
@@ -206,7 +208,7 @@ TEST(MauvaisEcho, SkipsTheFieldsOfItsStepOnly) {
         banc.enregistreur.pannes.Ordonner({etapes[rang].code, GenrePanne::mauvaisEcho});
         Lire_Parametres(banc.poste);
         EXPECT_FALSE(banc.ecran.etat.TimeOut);
-        EXPECT_TRUE(banc.etabli.dialogues.boites.empty());
+        EXPECT_TRUE(banc.etabli.dialogues.Boites().empty());
         for (std::size_t i = 0; i < etapes.size(); ++i) {
             const QString temoin = QString::fromLatin1(etapes[i].temoin);
             if (temoin.isEmpty()) continue;
@@ -255,7 +257,7 @@ TEST(ReponseInsensee, OfEveryCommandEndsTheReadingWithoutFault) {
         {simulateur::toutesCommandes, GenrePanne::bruit, 1, simulateur::sansFin});
     Lire(banc.poste);
     EXPECT_TRUE(banc.etabli.fautes.empty());
-    EXPECT_TRUE(banc.etabli.dialogues.boites.empty());
+    EXPECT_TRUE(banc.etabli.dialogues.Boites().empty());
     EXPECT_TRUE(banc.EstAncien(QStringLiteral("NumeroSerie")));
     EXPECT_EQ(banc.ui.Commentaire->text().size(), 14);
 }
@@ -266,7 +268,7 @@ TEST(ReponseInsensee, ShortRepliesAreFilledWithZeros) {
         {simulateur::toutesCommandes, GenrePanne::reponseCourte, 1, simulateur::sansFin, 1});
     Lire(banc.poste);
     EXPECT_TRUE(banc.etabli.fautes.empty());
-    EXPECT_TRUE(banc.etabli.dialogues.boites.empty());
+    EXPECT_TRUE(banc.etabli.dialogues.Boites().empty());
     EXPECT_FALSE(banc.ecran.etat.TimeOut);
     EXPECT_EQ(Clair(banc.ui.Version->text()), "(0) 0.0");
     EXPECT_EQ(Clair(banc.ui.TensionPile->text()), ".00 V.");
@@ -301,8 +303,8 @@ TEST(EtalonnageEnCours, SaysSoAndLeavesTheLinkOpen) {
         BancTemoin banc;
         banc.enregistreur.memoire.EcrireOctet(simulateur::adresse::modeEtalonnage, point);
         Lire_Parametres(banc.poste);
-        ASSERT_EQ(banc.etabli.dialogues.boites.size(), 1U);
-        const auto& boite = banc.etabli.dialogues.boites.front();
+        ASSERT_EQ(banc.etabli.dialogues.Boites().size(), 1U);
+        const auto& boite = banc.etabli.dialogues.Boites().front();
         EXPECT_EQ(boite.icone, Icone::Information);
         EXPECT_EQ(boite.boutons, Boutons::Ok);
         EXPECT_EQ(Clair(boite.titre), "k-Pod");
@@ -319,6 +321,7 @@ TEST(EtalonnageEnCours, TheClockCorrectionIsStillRead) {
     BancTemoin banc;
     banc.enregistreur.memoire.EcrireOctet(simulateur::adresse::modeEtalonnage, 1);
     banc.enregistreur.memoire.EcrireDoubleMot(simulateur::adresse::correction, 2);
+    banc.etabli.dialogues.AnnoncerInformation(QStringLiteral("Mode étalonnage en cours"));
     Lire(banc.poste);
     EXPECT_EQ(Clair(banc.ui.ValeurCorrection_1->text()), "4.0000");
     EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);

@@ -31,7 +31,7 @@ std::string RapportDe(const QString& langue,
     prepare(banc);
     Lire_Parametres(banc.poste);
     EXPECT_TRUE(banc.etabli.fautes.empty());
-    EXPECT_TRUE(banc.etabli.dialogues.boites.empty());
+    EXPECT_TRUE(banc.etabli.dialogues.Boites().empty());
     return Clair(banc.ecran.etat.Rapport);
 }
 

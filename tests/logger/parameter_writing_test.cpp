@@ -53,7 +53,7 @@ std::vector<int> PausesCompletes(bool contexte) {
 
 TEST(EcritureComplete, SendsEveryFrameInItsOrderWithItsWaits) {
     BancEcriture banc(avecCarte, derniereVersion);
-    Ecrire(banc.poste);
+    banc.EcrireEnConfirmant();
     // Checks and set-up at once; the internal memory two seconds later, a byte every 50 ms; the
     // context behind the last of them; the reading after its second and two more.
     std::string attendu;
@@ -70,7 +70,7 @@ TEST(EcritureComplete, SendsEveryFrameInItsOrderWithItsWaits) {
 
 TEST(EcritureComplete, AsksForTheLengthOfEachAnswer) {
     BancEcriture banc(avecCarte, derniereVersion);
-    Ecrire(banc.poste);
+    banc.EcrireEnConfirmant();
     std::vector<int> attendues(7, 8);
     attendues.insert(attendues.end(), 17, 4);
     attendues.push_back(1);
@@ -89,7 +89,7 @@ TEST(EcritureComplete, IsTheSameSequenceWhateverIsRecorded) {
          {&Ui::MainScreen::PasDeSeuil, &Ui::MainScreen::UnSeuil, &Ui::MainScreen::DeuxSeuils}) {
         BancEcriture banc(avecCarte, derniereVersion);
         (banc.ui.*option)->setChecked(true);
-        Ecrire(banc.poste);
+        banc.EcrireEnConfirmant();
         if (premiers.empty()) premiers = banc.Codes();
         EXPECT_EQ(banc.Codes(), premiers) << Clair((banc.ui.*option)->objectName());
         EXPECT_EQ(banc.etabli.horloge.pauses, PausesCompletes(true));
@@ -103,14 +103,14 @@ TEST(EcritureComplete, SendsTheTimeThatItIsWhenTheOperatorHasAnswered) {
         QDateTime& instant = banc.etabli.horloge.instant;
         if (boite.boutons == Boutons::OkAnnuler) instant = instant.addSecs(90);
     };
-    Ecrire(banc.poste);
+    banc.EcrireEnConfirmant();
     EXPECT_EQ(banc.Trames(7),
               (std::vector<std::vector<std::uint8_t>>{{7, 105, 169, 142, 13 + 90, 0, 16, 32}}));
 }
 
 TEST(EcritureComplete, HasNeitherCardCheckNorForcedContextForAnOlderLoggerWithoutCard) {
     BancEcriture banc;
-    Ecrire(banc.poste);
+    banc.EcrireEnConfirmant();
     std::string attendu;
     for (std::size_t i = 1; i < 7; ++i)
         attendu += Ligne(0, TramesCompletes()[i]);
@@ -123,7 +123,7 @@ TEST(EcritureComplete, HasNeitherCardCheckNorForcedContextForAnOlderLoggerWithou
 
 TEST(EcritureComplete, LeavesWhatTheFormSaidInTheInternalMemoryLowByteFirst) {
     BancEcriture banc(avecCarte, derniereVersion);
-    Ecrire(banc.poste);
+    banc.EcrireEnConfirmant();
     using Valeurs = std::vector<int>;
     EXPECT_EQ(banc.Octets(19, 4), (Valeurs{34, 212, 204, 105}));  // start
     EXPECT_EQ(banc.Octets(23, 4), (Valeurs{13, 142, 169, 105}));  // clock
@@ -143,7 +143,7 @@ TEST(EcritureComplete, LeavesWhatTheFormSaidInTheInternalMemoryLowByteFirst) {
 
 TEST(EcritureComplete, ChangesNoOtherByteOfTheInternalMemory) {
     BancEcriture banc(avecCarte, derniereVersion);
-    Ecrire(banc.poste);
+    banc.EcrireEnConfirmant();
     const auto permis = [](int ou) {
         // Start, clock and next measure; pointers of the recording given up; mode, periods;
         // thresholds; scale; comment; fast charge; pulse and time format.
@@ -160,7 +160,7 @@ TEST(EcritureComplete, ChangesNoOtherByteOfTheInternalMemory) {
 
 TEST(EcritureComplete, AsksFirstAndTellsOfTheEndWithEverythingRestoredButTheButton) {
     BancEcriture banc(avecCarte, derniereVersion);
-    Ecrire(banc.poste);
+    banc.EcrireEnConfirmant();
     ASSERT_EQ(banc.boites.size(), 2U);
     const BoiteVue& question = banc.boites[0];
     EXPECT_EQ(question.icone, Icone::Aucune);
@@ -180,7 +180,7 @@ TEST(EcritureComplete, AsksFirstAndTellsOfTheEndWithEverythingRestoredButTheButt
 
 TEST(EcritureComplete, KeepsTheButtonDisabledAndTheHourglassUpWhileFramesLeave) {
     BancEcriture banc;
-    Ecrire(banc.poste);
+    banc.EcrireEnConfirmant();
     std::size_t sabliers = 0;
     for (const Vue& vue : banc.pendantLien) {
         EXPECT_FALSE(vue.boutonValide);
@@ -194,13 +194,13 @@ TEST(EcritureComplete, KeepsTheButtonDisabledAndTheHourglassUpWhileFramesLeave) 
 TEST(EcritureComplete, RestoresThePointerThatWasThereBefore) {
     BancEcriture banc;
     FixerPointeurSouris(banc.ecran, pointeur::fleche);
-    Ecrire(banc.poste);
+    banc.EcrireEnConfirmant();
     EXPECT_EQ(PointeurSouris(banc.ecran), pointeur::fleche);
 }
 
 TEST(EcritureComplete, ClosesTheLinkBeforeTheSecondWait) {
     BancEcriture banc(avecCarte, derniereVersion);
-    Ecrire(banc.poste);
+    banc.EcrireEnConfirmant();
     std::string evenements;
     for (const auto& evenement : banc.enregistreur.lien) {
         if (evenement.instant < 5850)
@@ -215,7 +215,7 @@ TEST(EcritureComplete, ShowsTheThresholdsAsTheLoggerRoundedThem) {
     banc.ui.PressionAbsolue->setChecked(false);
     banc.ui.Seuil2->setText(QStringLiteral("3.333"));
     banc.ui.Seuil1->setText(QStringLiteral("1.256"));
-    Ecrire(banc.poste);
+    banc.EcrireEnConfirmant();
     EXPECT_EQ(Clair(banc.ui.Seuil1->text()), "1.3");
     EXPECT_EQ(Clair(banc.ui.Seuil2->text()), "3.3");
     EXPECT_EQ(Clair(banc.ui.DateCourante->text()), "05/03/2026 14:07:09");
@@ -226,7 +226,7 @@ TEST(EcritureComplete, ShowsTheThresholdsAsTheLoggerRoundedThem) {
 TEST(EcritureComplete, ClearsATimeOutThatStood) {
     BancEcriture banc;
     banc.ecran.etat.TimeOut = true;
-    Ecrire(banc.poste);
+    banc.EcrireEnConfirmant();
     EXPECT_EQ(banc.Boites().back(), "Ecriture des paramètres terminée");
     EXPECT_EQ(banc.Octets(44, 1), (std::vector<int>{138}));
 }
@@ -234,7 +234,7 @@ TEST(EcritureComplete, ClearsATimeOutThatStood) {
 TEST(EcritureComplete, LeavesALinkThatStoodOpenToItsOwnOpening) {
     BancEcriture banc;
     banc.lien.OuvreUSB(banc.ecran.etat.UsbID);
-    Ecrire(banc.poste);
+    banc.EcrireEnConfirmant();
     EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);
 }
 
@@ -243,7 +243,7 @@ TEST(EcritureComplete, SpeaksTheLanguageOfTheForm) {
     const int anglais = banc.ui.ListeLangues->findText(QStringLiteral("English"));
     banc.ui.ListeLangues->Choisir(anglais);
     banc.ecran.textes.TexteEcritureTerminee = QStringLiteral("Parameters written");
-    Ecrire(banc.poste);
+    banc.EcrireEnConfirmant();
     EXPECT_EQ(banc.Boites(),
               (std::vector<std::string>{" Old values will be overwritten", "Parameters written"}));
 }
@@ -253,7 +253,7 @@ TEST(ForceLeContexte, FromFirmware212On) {
          std::vector<std::pair<int, int>>{{119, 0}, {112, 0}, {120, 1}, {121, 1}}) {
         SCOPED_TRACE(basse);
         BancEcriture banc(19, static_cast<std::uint8_t>(basse));
-        Ecrire(banc.poste);
+        banc.EcrireEnConfirmant();
         EXPECT_EQ(banc.enregistreur.journal.Nombre(99), fois);
         EXPECT_EQ(banc.enregistreur.contextesForces, fois);
     }
@@ -261,7 +261,7 @@ TEST(ForceLeContexte, FromFirmware212On) {
 
 TEST(ForceLeContexte, OfALoggerWithoutCardToo) {
     BancEcriture banc(1, derniereVersion);
-    Ecrire(banc.poste);
+    banc.EcrireEnConfirmant();
     EXPECT_EQ(banc.enregistreur.journal.Nombre(99), 1);
     EXPECT_EQ(banc.enregistreur.journal.Trames().front().Code(), 28);
 }
@@ -282,11 +282,11 @@ class MemoireEcrite : public testing::Test {
 
 TEST_F(MemoireEcrite, TheTimeFormatIsZeroFor12HoursAndOneFor24) {
     ui.AMPM_1->setChecked(true);
-    Ecrire(banc.poste);
+    banc.EcrireEnConfirmant();
     EXPECT_EQ(Octets(116, 1), (std::vector<int>{1}));
     EXPECT_EQ(banc.Trames(30).front(), (std::vector<std::uint8_t>{30, 0, 116, 1, 32, 32, 32, 32}));
     ui.AMPM_0->setChecked(true);
-    Ecrire(banc.poste);
+    banc.EcrireEnConfirmant();
     EXPECT_EQ(Octets(116, 1), (std::vector<int>{0}));
 }
 
@@ -296,7 +296,7 @@ TEST_F(MemoireEcrite, AWeightThatIsNoNumberIsNotWritten) {
         ui.CoefImpulsion->setText(QString::fromLatin1(texte));
         banc.enregistreur.journal.Vider();
         banc.enregistreur.memoire.EcrireFlottant(adresse::poidsImpulsion, 7.5F);
-        Ecrire(banc.poste);
+        banc.EcrireEnConfirmant();
         EXPECT_EQ(Adresses(), "116 117 118 119 120 121 122 123 124 125 126 127 128 ");
         EXPECT_EQ(banc.enregistreur.memoire.Flottant(adresse::poidsImpulsion), 7.5F);
     }
@@ -305,27 +305,27 @@ TEST_F(MemoireEcrite, AWeightThatIsNoNumberIsNotWritten) {
 TEST_F(MemoireEcrite, AWeightIsReadWithTheSeparatorOfTheUser) {
     banc.ReglerSeparateur(QStringLiteral(","));
     ui.CoefImpulsion->setText(QStringLiteral(" 0,1 "));
-    Ecrire(banc.poste);
+    banc.EcrireEnConfirmant();
     EXPECT_EQ(Octets(112, 4), (std::vector<int>{0xCD, 0xCC, 0xCC, 0x3D}));
     EXPECT_EQ(Clair(ui.CoefImpulsion->text()), "0,1");
 }
 
 TEST_F(MemoireEcrite, AUnitIsPaddedWithBlanksToEightPositions) {
     ui.UniteImpulsion->setText(QStringLiteral("m³"));
-    Ecrire(banc.poste);
+    banc.EcrireEnConfirmant();
     EXPECT_EQ(Octets(117, 8), (std::vector<int>{'m', 0xB3, 32, 32, 32, 32, 32, 32}));
     ui.UniteImpulsion->setText({});
-    Ecrire(banc.poste);
+    banc.EcrireEnConfirmant();
     EXPECT_EQ(Octets(117, 8), std::vector<int>(8, 32));
     ui.UniteImpulsion->setText(QStringLiteral("12345678"));
-    Ecrire(banc.poste);
+    banc.EcrireEnConfirmant();
     EXPECT_EQ(Octets(117, 8), (std::vector<int>{'1', '2', '3', '4', '5', '6', '7', '8'}));
 }
 
 TEST_F(MemoireEcrite, ALongerUnitIsWrittenInFullAndTheTimeBaseOverIt) {
     ui.UniteImpulsion->setText(QStringLiteral("0123456789"));
     ui.ListeTemps->Choisir(1);
-    Ecrire(banc.poste);
+    banc.EcrireEnConfirmant();
     EXPECT_EQ(Adresses(),
               "116 112 113 114 115 117 118 119 120 121 122 123 124 125 126 125 126 127 128 ");
     EXPECT_EQ(Octets(117, 8), (std::vector<int>{'0', '1', '2', '3', '4', '5', '6', '7'}));
@@ -335,7 +335,7 @@ TEST_F(MemoireEcrite, ALongerUnitIsWrittenInFullAndTheTimeBaseOverIt) {
 TEST_F(MemoireEcrite, ALongerUnitStaysWhereNoTimeBaseFollows) {
     ui.UniteImpulsion->setText(QStringLiteral("0123456789"));
     ui.ListeTemps->Choisir(-1);
-    Ecrire(banc.poste);
+    banc.EcrireEnConfirmant();
     EXPECT_EQ(Octets(125, 2), (std::vector<int>{'8', '9'}));
     EXPECT_EQ(Octets(127, 2), (std::vector<int>{0x61, 0x45}));  // the logger's own 3600
 }
@@ -344,7 +344,7 @@ TEST_F(MemoireEcrite, EachPositionOfTheListHasItsTimeBase) {
     const float bases[] = {1, 60, 3600, 86400};
     for (int position = 0; position < 4; ++position) {
         ui.ListeTemps->Choisir(position);
-        Ecrire(banc.poste);
+        banc.EcrireEnConfirmant();
         EXPECT_EQ(banc.enregistreur.memoire.Flottant(adresse::tempsDebit), bases[position]);
         EXPECT_EQ(ui.ListeTemps->Index(), position);
     }
@@ -356,7 +356,7 @@ TEST_F(MemoireEcrite, AnyOtherPositionWritesNoTimeBase) {
         SCOPED_TRACE(position);
         banc.enregistreur.journal.Vider();
         ui.ListeTemps->Choisir(position);
-        Ecrire(banc.poste);
+        banc.EcrireEnConfirmant();
         EXPECT_EQ(Adresses(), "116 112 113 114 115 117 118 119 120 121 122 123 124 ");
         EXPECT_EQ(banc.enregistreur.memoire.Flottant(adresse::tempsDebit), 3600.0F);
     }
@@ -364,7 +364,7 @@ TEST_F(MemoireEcrite, AnyOtherPositionWritesNoTimeBase) {
 
 TEST_F(MemoireEcrite, AWeightBeyondSinglePrecisionIsAFaultBehindTheSetUp) {
     ui.CoefImpulsion->setText(QStringLiteral("1E39"));
-    EXPECT_EQ(NumeroDeFaute([&] { Ecrire(banc.poste); }), numero_faute::depassement);
+    EXPECT_EQ(NumeroDeFaute([&] { banc.EcrireEnConfirmant(); }), numero_faute::depassement);
     EXPECT_EQ(banc.Codes(), "28 1 3 7 11 12 30 ");
 }
 

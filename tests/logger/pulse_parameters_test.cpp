@@ -75,7 +75,7 @@ TEST_F(ParametresImpulsion, ASilentLoggerIsToldAndGivesZero) {
     enregistreur.pannes.Ordonner({29, simulateur::GenrePanne::silence});
     EXPECT_EQ(Poids(), 0.0F);
     EXPECT_TRUE(ecran.etat.TimeOut);
-    EXPECT_EQ(etabli.dialogues.boites.size(), 1U);
+    EXPECT_EQ(etabli.dialogues.Boites().size(), 1U);
     EXPECT_EQ(bus.PoigneesOuvertes(), 0);
 }
 
@@ -84,14 +84,14 @@ TEST_F(ParametresImpulsion, ASilentLoggerHasNoTimeBaseEither) {
     enregistreur.pannes.Ordonner({29, simulateur::GenrePanne::silence});
     EXPECT_EQ(TempsDebit(), 0.0F);
     EXPECT_TRUE(ecran.etat.TimeOut);
-    EXPECT_EQ(etabli.dialogues.boites.size(), 1U);
+    EXPECT_EQ(etabli.dialogues.Boites().size(), 1U);
 }
 
 TEST_F(ParametresImpulsion, AStandingTimeOutGivesZeroWithoutAWord) {
     ecran.etat.TimeOut = true;
     EXPECT_EQ(Poids(), 0.0F);
     EXPECT_EQ(TempsDebit(), 0.0F);
-    EXPECT_TRUE(etabli.dialogues.boites.empty());
+    EXPECT_TRUE(etabli.dialogues.Boites().empty());
 }
 
 TEST_F(ParametresImpulsion, AHundredIsWrittenByteAfterByte) {
@@ -132,7 +132,7 @@ TEST_F(ParametresImpulsion, WritingLeavesTheLinkAsItsCallerHoldsIt) {
     EcritPoidsImpulsion(poste, 2.0F);
     EXPECT_EQ(bus.PoigneesOuvertes(), 2);
     EXPECT_FALSE(ecran.etat.TimeOut);
-    EXPECT_TRUE(etabli.dialogues.boites.empty());
+    EXPECT_TRUE(etabli.dialogues.Boites().empty());
 }
 
 TEST_F(ParametresImpulsion, ALoggerSilentInAWriteIsToldOfOnceAndKeepsWhatItTook) {
@@ -140,7 +140,7 @@ TEST_F(ParametresImpulsion, ALoggerSilentInAWriteIsToldOfOnceAndKeepsWhatItTook)
     lien.OuvreUSB(ecran.etat.UsbID);
     enregistreur.pannes.Ordonner({30, simulateur::GenrePanne::silence, 3});
     EcritPoidsImpulsion(poste, 0.1F);
-    EXPECT_EQ(etabli.dialogues.boites.size(), 1U);
+    EXPECT_EQ(etabli.dialogues.Boites().size(), 1U);
     EXPECT_TRUE(ecran.etat.TimeOut);
     EXPECT_EQ(bus.PoigneesOuvertes(), 0);
     EXPECT_EQ(enregistreur.journal.Nombre(30), 3);
@@ -164,7 +164,7 @@ TEST_F(ParametresImpulsion, AnEchoThatIsWrongOrShortDoesNotStopAWrite) {
 
 TEST_F(ParametresImpulsion, WritingOnAClosedLinkIsASilentLogger) {
     EcritPoidsImpulsion(poste, 100.0F);
-    EXPECT_EQ(etabli.dialogues.boites.size(), 1U);
+    EXPECT_EQ(etabli.dialogues.Boites().size(), 1U);
     EXPECT_TRUE(ecran.etat.TimeOut);
     EXPECT_EQ(enregistreur.journal.Total(), 0);
     EXPECT_EQ(enregistreur.memoire.Flottant(adresse::poidsImpulsion), 1.0F);

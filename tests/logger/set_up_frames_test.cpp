@@ -80,7 +80,7 @@ TEST_F(TramesDuFormulaire, AThresholdThatIsNoNumberGoesAsZeroWithoutAWord) {
     PoserSeuils("-", "-");
     ASSERT_EQ(Clair(ui.Seuil1->text()), "-");
     EXPECT_EQ(Seuils(), (Octets{0, 102, 0, 102}));
-    EXPECT_TRUE(banc.etabli.dialogues.boites.empty());
+    EXPECT_TRUE(banc.etabli.dialogues.Boites().empty());
     EXPECT_EQ(PointsDuSeuil(ecran, QStringLiteral("abc")), 102.4);
     EXPECT_EQ(PointsDuSeuil(ecran, QString()), 102.4);
 }

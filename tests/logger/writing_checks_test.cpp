@@ -51,7 +51,7 @@ class EnregistreurACarte : public testing::Test {
 
 TEST_F(EnregistreurACarte, SaysInBlackThatTheCardIsThereAndIsWritten) {
     banc.ui.SDCardState->setText({});
-    Ecrire(banc.poste);
+    banc.EcrireEnConfirmant();
     EXPECT_EQ(Clair(banc.ui.SDCardState->text()), "Carte SD présente");
     EXPECT_EQ(CouleurDe(*banc.ui.SDCardState), 0U);
     EXPECT_EQ(banc.Boites(), (std::vector<std::string>{ecrasees, terminee}));
@@ -94,7 +94,7 @@ TEST_F(EnregistreurACarte, ThatDoesNotAnswerForItsCardLeavesTheButtonDisabled) {
 
 TEST_F(EnregistreurACarte, IsAskedForItsCardWithoutATestOfTheEcho) {
     banc.enregistreur.pannes.Ordonner({8, GenrePanne::mauvaisEcho});
-    Ecrire(banc.poste);
+    banc.EcrireEnConfirmant();
     EXPECT_EQ(banc.Boites().back(), terminee);
 }
 
@@ -124,7 +124,7 @@ TEST(EnregistreurACarteDesDeuxTypes, IsAskedForItBeforeAnythingElse) {
         EXPECT_EQ(banc.Codes(), "8 ");
         EXPECT_EQ(banc.Boites(), (std::vector<std::string>{"Carte SD absente"}));
         banc.enregistreur.cartePresente = true;
-        Ecrire(banc.poste);
+        banc.EcrireEnConfirmant();
         EXPECT_EQ(banc.Codes().substr(0, 11), "8 8 28 1 3 ");
         EXPECT_EQ(banc.Boites().back(), terminee);
     }
@@ -134,7 +134,7 @@ TEST_F(EnregistreurACarte, IsWrittenOnceTheCardIsIn) {
     banc.enregistreur.cartePresente = false;
     Ecrire(banc.poste);
     banc.enregistreur.cartePresente = true;
-    Ecrire(banc.poste);
+    banc.EcrireEnConfirmant();
     EXPECT_EQ(banc.Boites().back(), terminee);
     EXPECT_EQ(banc.Maintenant(), rendue);
 }
@@ -143,7 +143,7 @@ TEST(EnregistreurSansCarte, IsNotAskedForOneWhateverItWouldSay) {
     for (const std::uint8_t type : {1, 5, 18, 21}) {
         BancEcriture banc(type);
         banc.enregistreur.cartePresente = false;
-        Ecrire(banc.poste);
+        banc.EcrireEnConfirmant();
         EXPECT_EQ(banc.enregistreur.journal.Trames().front().Code(), 28);
         EXPECT_EQ(banc.Boites().back(), terminee);
     }
@@ -152,7 +152,7 @@ TEST(EnregistreurSansCarte, IsNotAskedForOneWhateverItWouldSay) {
 TEST(Confirmation, CancelledSendsNothingAndLeavesTheLinkOpen) {
     BancEcriture banc;
     FixerPointeurSouris(banc.ecran, pointeur::fleche);
-    banc.etabli.dialogues.reponses = {Reponse::Annuler};
+    banc.etabli.dialogues.AnnoncerQuestion(Reponse::Annuler);
     Ecrire(banc.poste);
     EXPECT_EQ(banc.Boites(), (std::vector<std::string>{ecrasees}));
     EXPECT_EQ(banc.Codes(), "");
@@ -162,7 +162,7 @@ TEST(Confirmation, CancelledSendsNothingAndLeavesTheLinkOpen) {
 
 TEST(Confirmation, CancelledBehindTheCardCheckHasAskedForTheCardOnly) {
     BancEcriture banc(avecCarte, derniereVersion);
-    banc.etabli.dialogues.reponses = {Reponse::Annuler};
+    banc.etabli.dialogues.AnnoncerQuestion(Reponse::Annuler);
     Ecrire(banc.poste);
     EXPECT_EQ(banc.Codes(), "8 ");
     EXPECT_EQ(banc.Maintenant(), rendueOuverte);
@@ -171,11 +171,11 @@ TEST(Confirmation, CancelledBehindTheCardCheckHasAskedForTheCardOnly) {
 
 TEST(Confirmation, TheNextOperationClosesTheLinkThatACancelLeftOpen) {
     BancEcriture banc;
-    banc.etabli.dialogues.reponses = {Reponse::Annuler};
+    banc.etabli.dialogues.AnnoncerQuestion(Reponse::Annuler);
     Ecrire(banc.poste);
     Lire(banc.poste);
     EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);
-    Ecrire(banc.poste);
+    banc.EcrireEnConfirmant();
     EXPECT_EQ(banc.Boites().back(), terminee);
     EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);
 }
@@ -215,7 +215,7 @@ TEST(ControleDuCapteur, AnotherSensorIsToldOfAndNothingIsWritten) {
     FixerPointeurSouris(banc.ecran, pointeur::fleche);
     banc.enregistreur.memoire.EcrireOctet(adresse::echelleEtalonnage, 0x51);
     banc.avant = banc.enregistreur.memoire;
-    Ecrire(banc.poste);
+    banc.EcrireEnConfirmant();
     ASSERT_EQ(banc.boites.size(), 2U);
     const BoiteVue& boite = banc.boites[1];
     EXPECT_EQ(boite.icone, Icone::Critique);
@@ -233,14 +233,14 @@ TEST(ControleDuCapteur, AnotherSensorIsToldOfAndNothingIsWritten) {
 TEST(ControleDuCapteur, ASensorThatTheListDoesNotKnowPassesWithoutAWord) {
     BancEcriture banc;
     banc.enregistreur.memoire.EcrireOctet(adresse::echelleEtalonnage, 0x80);
-    Ecrire(banc.poste);
+    banc.EcrireEnConfirmant();
     EXPECT_EQ(banc.Boites(), (std::vector<std::string>{ecrasees, terminee}));
 }
 
 TEST(ControleDuCapteur, ALoggerThatWasNeverCalibratedPasses) {
     BancEcriture banc;
     banc.enregistreur.ReglerEtalonnage(0, 0x51, 0, 0);
-    Ecrire(banc.poste);
+    banc.EcrireEnConfirmant();
     EXPECT_EQ(banc.Boites(), (std::vector<std::string>{ecrasees, terminee}));
 }
 
@@ -248,14 +248,14 @@ TEST(ControleDuCapteur, AnAnswerOfAnotherCommandPasses) {
     BancEcriture banc;
     banc.enregistreur.memoire.EcrireOctet(adresse::echelleEtalonnage, 0x51);
     banc.enregistreur.pannes.Ordonner({28, GenrePanne::mauvaisEcho});
-    Ecrire(banc.poste);
+    banc.EcrireEnConfirmant();
     EXPECT_EQ(banc.Boites(), (std::vector<std::string>{ecrasees, terminee}));
 }
 
 TEST(ControleDuCapteur, ALoggerThatDoesNotKnowTheQuestionIsWrittenOverAnewLink) {
     BancEcriture banc;
     banc.enregistreur.pannes.Ordonner({28, GenrePanne::silence});
-    Ecrire(banc.poste);
+    banc.EcrireEnConfirmant();
     EXPECT_EQ(banc.Boites(), (std::vector<std::string>{ecrasees, terminee}));
     EXPECT_EQ(banc.Codes(),
               "28 1 3 7 11 12 30 30 30 30 30 30 30 30 30 30 30 30 30 30 30 30 30 " + codesLecture);

@@ -1,6 +1,7 @@
 #include "logger/writing_fixture.h"
 
 #include "logger/parameter_reading.h"
+#include "logger/parameter_writing.h"
 #include "widgets/pointer_shape.h"
 
 namespace bornika::essai {
@@ -33,6 +34,8 @@ BancEcriture::BancEcriture(std::uint8_t type, std::uint8_t versionBasse)
     bus.ViderAppels();
     etabli.horloge.pauses.clear();
     avant = enregistreur.memoire;
+    // `boites` holds them, with what stood behind them.
+    etabli.dialogues.TolererInformations();
     etabli.dialogues.pendantBoite = [this](const DialoguesNotes::Boite_& boite) {
         boites.push_back(
             {boite.icone, boite.boutons, Clair(boite.titre), Clair(boite.texte), Maintenant()});
@@ -63,6 +66,12 @@ void BancEcriture::RemplirFormulaire() {
     ui.CoefImpulsion->setText(QStringLiteral("2.5"));
     ui.UniteImpulsion->setText(QStringLiteral("Gallon"));
     ui.ListeTemps->Choisir(3);
+}
+
+void BancEcriture::EcrireEnConfirmant() {
+    etabli.dialogues.AnnoncerQuestion(
+        Reponse::Ok, ecran.Texte(QStringLiteral("Les anciennes valeurs seront écrasées")));
+    Ecrire(poste);
 }
 
 Vue BancEcriture::Maintenant() const {

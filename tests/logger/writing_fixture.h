@@ -30,6 +30,8 @@ class BancEcriture : public BancEnregistreur {
   public:
     explicit BancEcriture(std::uint8_t type = 1, std::uint8_t versionBasse = 110);
 
+    /// Writes, and answers OK to the question whether the old values may be overwritten.
+    void EcrireEnConfirmant();
     Vue Maintenant() const;
     /// The texts of the boxes, in their order.
     std::vector<std::string> Boites() const;

@@ -8,6 +8,7 @@
 #include <limits>
 
 #include "platform/fault.h"
+#include "support/case_names.h"
 #include "support/fault_number.h"
 
 namespace bornika {
@@ -74,7 +75,8 @@ INSTANTIATE_TEST_SUITE_P(
                     CasDate{"1972-12-31T01:02:03", "1973-01-01T01:02:03", "01/01/1973 01:02:03"},
                     CasDate{"2000-02-28T01:02:03", "2000-02-28T01:02:03", "28/02/2000 01:02:03"},
                     CasDate{"2000-02-29T01:02:03", "2000-03-01T01:02:03", "29/02/2000 01:02:03"},
-                    CasDate{"2000-06-15T01:02:03", "2000-06-16T01:02:03", "15/06/2000 01:02:03"}));
+                    CasDate{"2000-06-15T01:02:03", "2000-06-16T01:02:03", "15/06/2000 01:02:03"}),
+    essai::nomDuCasImprime);
 
 TEST(EpochVersTexte, StoredTwentyNinthOfFebruaryIsShownAsTheTwentyEighth) {
     EXPECT_EQ(Retour(Brut("2024-02-29T10:00:00")), "28/02/2024 10:00:00");
@@ -141,7 +143,8 @@ INSTANTIATE_TEST_SUITE_P(Motifs, MotifsDeDate,
                                          CasMotif{"d.M.yy", "5.3.27 04:05:06"},
                                          CasMotif{"d 'de' M 'de' yyyy", "5 de 3 de 2027 04:05:06"},
                                          CasMotif{"yyyy. MM. dd.", "2027. 03. 05. 04:05:06"},
-                                         CasMotif{"dd''MM", "05'03 04:05:06"}));
+                                         CasMotif{"dd''MM", "05'03 04:05:06"}),
+                         essai::nomDuCasImprime);
 
 TEST(DateVersEpoch, TimeGivenApartReplacesHourMinuteAndSecond) {
     const double jour = VersDateOrdinateur(Instant("2023-05-06T07:08:09"));

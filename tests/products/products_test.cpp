@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "support/case_names.h"
+
 namespace bornika {
 namespace {
 
@@ -34,7 +36,8 @@ INSTANTIATE_TEST_SUITE_P(
                     Rangee{15, "k-Sieve5-12", "k-Sieve5-12"},
                     Rangee{16, "k-Sieve12-24", "k-Sieve12-24"}, Rangee{18, "k-QRS", "k-QRS"},
                     Rangee{19, "k-Pod 33", "Z907FPT"}, Rangee{20, "k-Pod 33", "Z907FPT"},
-                    Rangee{23, "k-gear QX71", "k-gear QX71"}));
+                    Rangee{23, "k-gear QX71", "k-gear QX71"}),
+    essai::nomDuCasImprime);
 
 TEST(NomProduit, TypesWithoutARowAreGeneric) {
     for (const int type : {17, 21, 22, 0, -1, -2147483647, 24, 99, 255})

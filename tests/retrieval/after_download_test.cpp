@@ -66,10 +66,10 @@ TEST(AfterDownload, ACommentFileThatCannotBeMadeIsToldAndTheCurveIsStillShown) {
     BancTrace banc;
     ASSERT_TRUE(QDir(banc.etabli.dossier.path()).mkdir(banc.nom + QStringLiteral(".cmt")));
     banc.Telecharger();
-    ASSERT_EQ(banc.etabli.dialogues.boites.size(), 2U);
-    EXPECT_EQ(banc.etabli.dialogues.boites[0].icone, Icone::Critique);
+    ASSERT_EQ(banc.etabli.dialogues.Boites().size(), 2U);
+    EXPECT_EQ(banc.etabli.dialogues.Boites()[0].icone, Icone::Critique);
     EXPECT_TRUE(
-        banc.etabli.dialogues.boites[0].texte.startsWith(banc.nom + QStringLiteral(".cmt : ")));
+        banc.etabli.dialogues.Boites()[0].texte.startsWith(banc.nom + QStringLiteral(".cmt : ")));
     ASSERT_NE(banc.acces.Presente(), nullptr);
     EXPECT_TRUE(banc.acces.Presente()->isVisible());
     EXPECT_TRUE(banc.etabli.fautes.empty());

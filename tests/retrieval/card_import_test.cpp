@@ -58,11 +58,12 @@ struct BancCarte : BancLecture {
     }
     /// A real click; the dialog answers with `choix`, or is cancelled.
     void Importer(const std::optional<QString>& choix = {}) {
-        etabli.dialogues.fichiers = {choix};
-        QTest::mouseClick(ui.LireSD, Qt::LeftButton);
+        etabli.dialogues.AnnoncerOuverture(choix);
+        CliquerLireSD();
     }
+    void CliquerLireSD() { QTest::mouseClick(ui.LireSD, Qt::LeftButton); }
     QStringList Enregistrements() const { return etabli.Fichiers().filter(Texte("2026-")); }
-    std::vector<DialoguesNotes::Boite_>& Boites() { return etabli.dialogues.boites; }
+    const std::vector<DialoguesNotes::Boite_>& Boites() const { return etabli.dialogues.Boites(); }
 
     Carte carte;
     AccesTrace acces{ecran};
@@ -368,6 +369,11 @@ struct CasVersion {
 
 class CardImportVersion : public testing::TestWithParam<CasVersion> {
   protected:
+    /// A logger that is refused brings no file dialog.
+    static void Importer(BancCarte& banc) {
+        if (!GetParam().refuse) return banc.Importer();
+        banc.CliquerLireSD();
+    }
     static void VoirRefus(BancCarte& banc, bool refuse) {
         EXPECT_EQ(banc.etabli.dialogues.demandes.size(), refuse ? 0U : 1U);
         ASSERT_EQ(banc.Boites().size(), refuse ? 1U : 0U);
@@ -390,18 +396,18 @@ std::string NomDuCas(const testing::TestParamInfo<CasVersion>& cas) {
 
 TEST_P(CardImportVersion, ALoggerReadByCableIsRefusedWithABox) {
     BancCarte banc(Pod());
-    banc.Importer();
+    Importer(banc);
     VoirRefus(banc, GetParam().refuse);
     EXPECT_EQ(banc.PoigneesOuvertes(), 0);
 }
 
 TEST_P(CardImportVersion, ALoggerThatFellSilentCountsWithTheVersionKnownBefore) {
     BancCarte banc(Pod());
-    banc.Importer();
-    banc.Boites().clear();
+    Importer(banc);
+    banc.etabli.dialogues.OublierBoites();
     banc.etabli.dialogues.demandes.clear();
     banc.enregistreur.pannes.Ordonner({.genre = GenrePanne::silence, .combien = -1});
-    banc.Importer();
+    Importer(banc);
     VoirRefus(banc, GetParam().refuse);
     EXPECT_EQ(banc.PoigneesOuvertes(), 0);
 }

@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "retrieval/retrieval_fixture.h"
+#include "support/case_names.h"
 #include "widgets/pointer_shape.h"
 
 namespace bornika::essai {
@@ -24,7 +25,7 @@ struct BancPlein : BancLecture {
             Stocker({MesurePeriodique(t0 + i, static_cast<int>(i))});
     }
     bool AToutEcrit() const { return NombreLignes() == nombreStocke - 1; }
-    std::size_t Boites() const { return etabli.dialogues.boites.size(); }
+    std::size_t Boites() const { return etabli.dialogues.Boites().size(); }
 };
 
 /// What each end by the loss of the logger leaves behind.
@@ -52,19 +53,19 @@ TEST_P(FewFailures, InARowAreSilentAndNothingIsLost) {
     banc.Cliquer();
     EXPECT_TRUE(banc.AToutEcrit());
     ASSERT_EQ(banc.Boites(), 1U);
-    EXPECT_EQ(banc.etabli.dialogues.boites[0].icone, Icone::Information);
+    EXPECT_EQ(banc.etabli.dialogues.Boites()[0].icone, Icone::Information);
     EXPECT_EQ(banc.montres.size(), 1U);
     EXPECT_EQ(banc.PoigneesOuvertes(), 0);
 }
 
-INSTANTIATE_TEST_SUITE_P(UpToFive, FewFailures, testing::Values(1, 2, 5));
+INSTANTIATE_TEST_SUITE_P(UpToFive, FewFailures, testing::Values(1, 2, 5), nomDuCasImprime);
 
 TEST(Download, TheSixthFailureInARowEndsItAndSaysSo) {
     BancPlein banc;
     banc.Panne(GenrePanne::silence, 7, simulateur::sansFin);
     banc.Cliquer();
     ASSERT_EQ(banc.Boites(), 1U);
-    const auto& boite = banc.etabli.dialogues.boites[0];
+    const auto& boite = banc.etabli.dialogues.Boites()[0];
     EXPECT_EQ(boite.icone, Icone::Aucune);
     EXPECT_EQ(Clair(boite.titre), "");
     EXPECT_EQ(Clair(boite.texte), Clair(banc.ecran.Texte(QStringLiteral("k-Pod Absent"))));
@@ -156,7 +157,7 @@ TEST_P(Unplugged, AtAnyRequestEndsByTheLossOfTheLogger) {
     AttendreAppareilPerdu(banc);
 }
 
-INSTANTIATE_TEST_SUITE_P(Requests, Unplugged, testing::Values(1, 2, 3, 15, 29));
+INSTANTIATE_TEST_SUITE_P(Requests, Unplugged, testing::Values(1, 2, 3, 15, 29), nomDuCasImprime);
 
 TEST(Download, APluggedBackLoggerIsTakenUpAgain) {
     BancPlein banc;
@@ -198,7 +199,7 @@ TEST(Download, AFullDiskIsToldOnceWithFileAndReasonAndEndsIt) {
                             banc.etabli.Chemin(banc.nom + QStringLiteral(".txt"))));
     banc.Cliquer();
     ASSERT_EQ(banc.Boites(), 1U);
-    const auto& boite = banc.etabli.dialogues.boites[0];
+    const auto& boite = banc.etabli.dialogues.Boites()[0];
     EXPECT_EQ(boite.icone, Icone::Critique);
     EXPECT_EQ(boite.boutons, Boutons::Ok);
     EXPECT_EQ(Clair(boite.titre), "k-Pod");
@@ -220,8 +221,8 @@ TEST(Download, AFullDiskDuringALongTransferEndsItBeforeTheEndOfTheData) {
                             banc.etabli.Chemin(banc.nom + QStringLiteral(".txt"))));
     banc.etabli.respiration.ReglerPas(std::chrono::milliseconds(5));
     banc.Cliquer();
-    ASSERT_EQ(banc.etabli.dialogues.boites.size(), 1U);
-    EXPECT_EQ(banc.etabli.dialogues.boites[0].icone, Icone::Critique);
+    ASSERT_EQ(banc.etabli.dialogues.Boites().size(), 1U);
+    EXPECT_EQ(banc.etabli.dialogues.Boites()[0].icone, Icone::Critique);
     EXPECT_LT(banc.enregistreur.journal.Nombre(10), 20000);
     AttendreAppareilPerdu(banc);
 }
@@ -233,7 +234,7 @@ TEST(Download, AnErrFileThatCannotBeWrittenIsToldToo) {
     banc.Cliquer();
     ASSERT_EQ(banc.Boites(), 1U);
     EXPECT_TRUE(
-        banc.etabli.dialogues.boites[0].texte.startsWith(banc.nom + QStringLiteral(".err : ")));
+        banc.etabli.dialogues.Boites()[0].texte.startsWith(banc.nom + QStringLiteral(".err : ")));
     // The measures themselves are all there.
     EXPECT_TRUE(banc.AToutEcrit());
 }
@@ -254,10 +255,10 @@ TEST(Download, ACommentFileThatCannotBeMadeIsToldAndTheCurveIsStillShown) {
     banc.fauteCommentaires = 70;
     banc.Cliquer();
     ASSERT_EQ(banc.Boites(), 2U);
-    EXPECT_EQ(banc.etabli.dialogues.boites[0].icone, Icone::Critique);
-    EXPECT_EQ(Clair(banc.etabli.dialogues.boites[0].texte),
+    EXPECT_EQ(banc.etabli.dialogues.Boites()[0].icone, Icone::Critique);
+    EXPECT_EQ(Clair(banc.etabli.dialogues.Boites()[0].texte),
               Clair(banc.nom) + ".cmt : No space left");
-    EXPECT_EQ(banc.etabli.dialogues.boites[1].icone, Icone::Information);
+    EXPECT_EQ(banc.etabli.dialogues.Boites()[1].icone, Icone::Information);
     EXPECT_EQ(banc.montres.size(), 1U);
     EXPECT_TRUE(banc.etabli.fautes.empty());
 }
@@ -269,11 +270,11 @@ TEST(Download, ALossOfTheLoggerWithAFullDiskTellsOfTheLinesThatAreGoneToo) {
     banc.Panne(GenrePanne::silence, 7, simulateur::sansFin);
     banc.Cliquer();
     ASSERT_EQ(banc.Boites(), 2U);
-    EXPECT_EQ(Clair(banc.etabli.dialogues.boites[0].texte),
+    EXPECT_EQ(Clair(banc.etabli.dialogues.Boites()[0].texte),
               Clair(banc.ecran.Texte(QStringLiteral("k-Pod Absent"))));
-    EXPECT_EQ(banc.etabli.dialogues.boites[1].icone, Icone::Critique);
+    EXPECT_EQ(banc.etabli.dialogues.Boites()[1].icone, Icone::Critique);
     EXPECT_TRUE(
-        banc.etabli.dialogues.boites[1].texte.startsWith(banc.nom + QStringLiteral(".txt : ")));
+        banc.etabli.dialogues.Boites()[1].texte.startsWith(banc.nom + QStringLiteral(".txt : ")));
     AttendreAppareilPerdu(banc);
 }
 
@@ -283,7 +284,7 @@ TEST(Download, ALoggerSilentAtTheClickIsJudgedByTheVersionReadLast) {
     banc.enregistreur.pannes.Ordonner({.code = 9, .genre = GenrePanne::silence});
     banc.Cliquer();
     ASSERT_EQ(banc.Boites(), 1U);
-    EXPECT_EQ(banc.etabli.dialogues.boites[0].icone, Icone::Information);
+    EXPECT_EQ(banc.etabli.dialogues.Boites()[0].icone, Icone::Information);
     EXPECT_EQ(banc.enregistreur.journal.Total(), banc.enregistreur.journal.Nombre(9));
     EXPECT_TRUE(banc.montres.empty());
     banc.ecran.etat.VersionLogiciel = 2.1;

@@ -33,8 +33,8 @@ TEST(DownloadCancelled, ByASecondClickEndsAsACompleteRecording) {
     EXPECT_EQ(banc.NombreLignes(), 10);
     EXPECT_TRUE(banc.Mesures().endsWith("\r\n"));
     EXPECT_TRUE(banc.Rejets().endsWith("End Parity Control"));
-    ASSERT_EQ(banc.etabli.dialogues.boites.size(), 1U);
-    EXPECT_EQ(banc.etabli.dialogues.boites[0].icone, Icone::Information);
+    ASSERT_EQ(banc.etabli.dialogues.Boites().size(), 1U);
+    EXPECT_EQ(banc.etabli.dialogues.Boites()[0].icone, Icone::Information);
     EXPECT_EQ(banc.montres.size(), 1U);
     EXPECT_EQ(banc.Bouton(), Clair(banc.ecran.Texte(QStringLiteral("Lire les valeurs"))));
     EXPECT_EQ(banc.PoigneesOuvertes(), 0);
@@ -85,7 +85,7 @@ TEST(LectureValeurs, WhileADownloadRunsOnlyClearsTheFlag) {
     LectureValeurs(banc.poste, banc.suite);
     EXPECT_FALSE(banc.ecran.etat.EnLecture);
     EXPECT_EQ(banc.enregistreur.journal.Total(), 0);
-    EXPECT_TRUE(banc.etabli.dialogues.boites.empty());
+    EXPECT_TRUE(banc.etabli.dialogues.Boites().empty());
 }
 
 TEST(DownloadCancelled, CanBeRunAgainAtOnce) {
@@ -103,7 +103,7 @@ TEST(DownloadClosed, ClosingTheFormLeavesWithoutBoxesAndViewer) {
     banc.Cliquer();
     EXPECT_EQ(banc.tours, 10);
     EXPECT_TRUE(banc.ecran.etat.EnFermeture);
-    EXPECT_TRUE(banc.etabli.dialogues.boites.empty());
+    EXPECT_TRUE(banc.etabli.dialogues.Boites().empty());
     EXPECT_TRUE(banc.montres.empty());
     EXPECT_TRUE(banc.commentaires.empty());
     EXPECT_EQ(banc.PoigneesOuvertes(), 0);
@@ -165,7 +165,7 @@ TEST(DownloadDisturbed, ReadingTheParametersMeanwhileTakesTheLinkAwayAndNothingI
     banc.AuTour(10, [&] { Lire_Parametres(banc.poste); });
     banc.Cliquer();
     EXPECT_EQ(banc.NombreLignes(), 99);
-    EXPECT_EQ(banc.etabli.dialogues.boites.size(), 1U);
+    EXPECT_EQ(banc.etabli.dialogues.Boites().size(), 1U);
     EXPECT_EQ(banc.montres.size(), 1U);
 }
 
@@ -173,7 +173,7 @@ TEST(DownloadDisturbed, ALoggerInCalibrationSaysSoAndIsDownloaded) {
     BancLong banc;
     banc.enregistreur.memoire.EcrireOctet(simulateur::adresse::modeEtalonnage, 1);
     banc.Cliquer();
-    EXPECT_EQ(banc.etabli.dialogues.boites.size(), 2U);
+    EXPECT_EQ(banc.etabli.dialogues.Boites().size(), 2U);
     EXPECT_EQ(banc.NombreLignes(), 99);
     EXPECT_EQ(banc.PoigneesOuvertes(), 0);
 }

@@ -207,8 +207,8 @@ TEST(Download, TellsWhereTheValuesAreAndThenShowsThem) {
     BancLecture banc;
     banc.etabli.dialogues.pendantBoite = [&](const auto&) { EXPECT_TRUE(banc.montres.empty()); };
     banc.Cliquer();
-    ASSERT_EQ(banc.etabli.dialogues.boites.size(), 1U);
-    const auto& boite = banc.etabli.dialogues.boites[0];
+    ASSERT_EQ(banc.etabli.dialogues.Boites().size(), 1U);
+    const auto& boite = banc.etabli.dialogues.Boites()[0];
     EXPECT_EQ(boite.icone, Icone::Information);
     EXPECT_EQ(boite.boutons, Boutons::Ok);
     EXPECT_EQ(Clair(boite.titre), "k-Pod");
@@ -260,13 +260,14 @@ TEST_P(AbsolutePressure, IsTakenOffInPeriodicLinesOfTheErrFileOnly) {
     EXPECT_EQ(pression(banc.Rejets(), 2), "8");
 }
 
-INSTANTIATE_TEST_SUITE_P(Both, AbsolutePressure, testing::Bool());
+INSTANTIATE_TEST_SUITE_P(Both, AbsolutePressure, testing::Bool(),
+                         testing::PrintToStringParamName());
 
 TEST(LireValeurs, ALoggerOfVersion211IsReadThroughItsCard) {
     BancLecture banc(simulateur::KPod2110(t0));
     banc.Cliquer();
-    ASSERT_EQ(banc.etabli.dialogues.boites.size(), 1U);
-    const auto& boite = banc.etabli.dialogues.boites[0];
+    ASSERT_EQ(banc.etabli.dialogues.Boites().size(), 1U);
+    const auto& boite = banc.etabli.dialogues.Boites()[0];
     EXPECT_EQ(boite.icone, Icone::Information);
     EXPECT_EQ(Clair(boite.titre), "k-Pod");
     EXPECT_EQ(

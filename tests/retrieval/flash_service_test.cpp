@@ -41,8 +41,8 @@ struct FlashParLesControles : testing::Test {
         return lectures;
     }
     void AttendreAbsent() {
-        ASSERT_EQ(banc.etabli.dialogues.boites.size(), 1U);
-        EXPECT_EQ(banc.etabli.dialogues.boites[0].texte,
+        ASSERT_EQ(banc.etabli.dialogues.Boites().size(), 1U);
+        EXPECT_EQ(banc.etabli.dialogues.Boites()[0].texte,
                   banc.ecran.Texte(QStringLiteral("k-Pod Absent")));
         EXPECT_TRUE(banc.ecran.etat.TimeOut);
         EXPECT_EQ(banc.PoigneesOuvertes(), 0);
@@ -114,7 +114,7 @@ TEST_F(LectureFlash, ShowsTheBytesAndTheMeasureThatTheyAre) {
     EXPECT_EQ(Mesure(), "14/11/2023 22:13:20-640-10  bar-0");
     EXPECT_EQ(enregistreur.journal.DeCode(20), (Trames{{20, 0, 3, 0, 8, 32, 32, 32}}));
     EXPECT_EQ(banc.PoigneesOuvertes(), 0);
-    EXPECT_TRUE(banc.etabli.dialogues.boites.empty());
+    EXPECT_TRUE(banc.etabli.dialogues.Boites().empty());
 }
 
 TEST_F(LectureFlash, ShowsTheFractionOfAPulseAsItStands) {
@@ -216,7 +216,7 @@ TEST_F(LectureFlash, ALoggerThatGoesOrIsGoneIsToldTheSameWay) {
     AttendreAbsent();
 
     banc.ecran.etat.TimeOut = false;
-    banc.etabli.dialogues.boites.clear();
+    banc.etabli.dialogues.OublierBoites();
     Lire();
     EXPECT_EQ(Resultat(), "");
     EXPECT_EQ(Mesure(), "01/01/1970 00:00:00-0-0  bar-0");
@@ -247,7 +247,7 @@ TEST_F(LectureFlash, ThereIsNoEchoToTest) {
     Lire();
     EXPECT_NE(Resultat(), "");
     EXPECT_EQ(Resultat().substr(Resultat().find(" 101")), " 101 83 241 0 254 128");
-    EXPECT_TRUE(banc.etabli.dialogues.boites.empty());
+    EXPECT_TRUE(banc.etabli.dialogues.Boites().empty());
 }
 
 TEST_F(LectureFlash, UnderAStandingTimeOutNoAnswerIsReadAndNothingIsSaid) {
@@ -257,7 +257,7 @@ TEST_F(LectureFlash, UnderAStandingTimeOutNoAnswerIsReadAndNothingIsSaid) {
     EXPECT_EQ(Lectures(), 0);
     EXPECT_EQ(Resultat(), "");
     EXPECT_EQ(Mesure(), "01/01/1970 00:00:00-0-0  bar-0");
-    EXPECT_TRUE(banc.etabli.dialogues.boites.empty());
+    EXPECT_TRUE(banc.etabli.dialogues.Boites().empty());
     EXPECT_TRUE(banc.ecran.etat.TimeOut);
     EXPECT_EQ(banc.PoigneesOuvertes(), 0);
 }
@@ -267,7 +267,7 @@ TEST_F(EcritureFlash, SendsSevenValuesAndEndsOnItsFaultBeforeTheMemoryIsWritten)
     EXPECT_EQ(enregistreur.journal.Total(), 1);
     EXPECT_EQ(enregistreur.journal.DeCode(18), (Trames{{18, 12, 13, 14, 15, 16, 17, 0}}));
     EXPECT_EQ(enregistreur.journal.Nombre(19), 0);
-    EXPECT_TRUE(banc.etabli.dialogues.boites.empty());
+    EXPECT_TRUE(banc.etabli.dialogues.Boites().empty());
 }
 
 TEST_F(EcritureFlash, TheFirstValueTakesThePlaceOfTheCode) {
@@ -340,7 +340,7 @@ TEST_F(EcritureFlash, ALoggerThatGoesOrIsGoneIsToldTheSameWay) {
     AttendreAbsent();
 
     banc.ecran.etat.TimeOut = false;
-    banc.etabli.dialogues.boites.clear();
+    banc.etabli.dialogues.OublierBoites();
     EXPECT_EQ(Ecrire(" 18 12 13 14 15 16 17 99"), 0);
     AttendreAbsent();
     EXPECT_EQ(enregistreur.journal.Total(), 1);
@@ -357,7 +357,7 @@ TEST_F(EcritureFlash, UnderAStandingTimeOutItEndsWithoutAWordAndWithoutAFault) {
     EXPECT_EQ(Ecrire(" 18 12 13 14 15 16 17 99"), 0);
     EXPECT_EQ(enregistreur.journal.Nombre(18), 1);
     EXPECT_EQ(Lectures(), 0);
-    EXPECT_TRUE(banc.etabli.dialogues.boites.empty());
+    EXPECT_TRUE(banc.etabli.dialogues.Boites().empty());
     EXPECT_EQ(banc.PoigneesOuvertes(), 0);
 }
 

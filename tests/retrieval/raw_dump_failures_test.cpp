@@ -9,6 +9,7 @@
 
 #include "logger/parameter_reading.h"
 #include "retrieval/raw_dump_fixture.h"
+#include "support/case_names.h"
 #include "support/limits.h"
 
 namespace bornika::essai {
@@ -75,7 +76,11 @@ INSTANTIATE_TEST_SUITE_P(Kinds, LostAtCell,
                          testing::Combine(testing::Values(GenrePanne::silence,
                                                           GenrePanne::reponsePerdue,
                                                           GenrePanne::debranchement),
-                                          testing::Values(1, 2, 66, 67, 132)));
+                                          testing::Values(1, 2, 66, 67, 132)),
+                         [](const auto& cas) {
+                             return NomDePanne(std::get<0>(cas.param)) + "AtCell" +
+                                    std::to_string(std::get<1>(cas.param));
+                         });
 
 TEST(RawDumpFailing, ShowsTheAbsentLoggerWhileEverythingReadIsOnTheDisk) {
     BancDump banc;
@@ -104,7 +109,7 @@ TEST_P(ShortAnswer, CountsAndWhatDidNotComeIsZero) {
     AttendreRepos(banc);
 }
 
-INSTANTIATE_TEST_SUITE_P(Cells, ShortAnswer, testing::Values(1, 2, 66, 67, 132));
+INSTANTIATE_TEST_SUITE_P(Cells, ShortAnswer, testing::Values(1, 2, 66, 67, 132), nomDuCasImprime);
 
 /// One dump of a page after the other on one form, each with its fault at another cell.
 class FaultAtEachCell : public testing::TestWithParam<GenrePanne> {
@@ -117,7 +122,7 @@ class FaultAtEachCell : public testing::TestWithParam<GenrePanne> {
         banc.bus.Rebrancher(banc.enregistreur.identite.usb);
         banc.enregistreur.pannes.Annuler();
         banc.PanneCellule(GetParam(), place, 1, 4);
-        banc.etabli.dialogues.boites.clear();
+        banc.etabli.dialogues.OublierBoites();
         banc.Lire();
     }
     std::vector<std::string> Attendues(int place) const {
@@ -141,7 +146,7 @@ TEST_P(FaultAtEachCell, ChangesThatCellOrLosesTheLaterOnesAndTheFormComesBack) {
         EXPECT_EQ(banc.Lignes(), Attendues(place));
         ASSERT_EQ(banc.Boites(), Perdue() ? 2U : 1U);
         if (Perdue()) AttendreAbsent(banc.Boite(0));
-        AttendreAnnonce(banc, banc.etabli.dialogues.boites.back());
+        AttendreAnnonce(banc, banc.etabli.dialogues.Boites().back());
         EXPECT_EQ(banc.ecran.etat.TimeOut, Perdue());
         AttendreRepos(banc);
     }
@@ -150,7 +155,8 @@ TEST_P(FaultAtEachCell, ChangesThatCellOrLosesTheLaterOnesAndTheFormComesBack) {
 INSTANTIATE_TEST_SUITE_P(Kinds, FaultAtEachCell,
                          testing::Values(GenrePanne::silence, GenrePanne::reponsePerdue,
                                          GenrePanne::debranchement, GenrePanne::reponseCourte,
-                                         GenrePanne::mauvaisEcho));
+                                         GenrePanne::mauvaisEcho),
+                         nomDuCasPanne);
 
 TEST(RawDumpFailing, NoiseIsWrittenAsItCameAndGoesNoFurther) {
     BancDump banc;
@@ -205,7 +211,8 @@ TEST_P(LostInTheParameters, MakesNoFileAndLeavesItsButtonDisabled) {
 
 INSTANTIATE_TEST_SUITE_P(Kinds, LostInTheParameters,
                          testing::Values(GenrePanne::silence, GenrePanne::reponsePerdue,
-                                         GenrePanne::debranchement));
+                                         GenrePanne::debranchement),
+                         nomDuCasPanne);
 
 class OddInTheParameters : public testing::TestWithParam<GenrePanne> {};
 
@@ -216,14 +223,15 @@ TEST_P(OddInTheParameters, IsNoReasonNotToDump) {
         const BancReglages banc(GetParam(), codes, rang, 1);
         EXPECT_FALSE(banc.ecran.etat.TimeOut);
         EXPECT_EQ(banc.Lignes().size(), 1U + cellules);
-        AttendreAnnonce(banc, banc.etabli.dialogues.boites.back());
+        AttendreAnnonce(banc, banc.etabli.dialogues.Boites().back());
         AttendreRepos(banc);
     }
 }
 
 INSTANTIATE_TEST_SUITE_P(Kinds, OddInTheParameters,
                          testing::Values(GenrePanne::reponseCourte, GenrePanne::mauvaisEcho,
-                                         GenrePanne::bruit));
+                                         GenrePanne::bruit),
+                         nomDuCasPanne);
 
 TEST(RawDumpFailing, AFileThatCannotBeMadeIsAFault) {
     BancDump banc;

@@ -65,9 +65,9 @@ struct BancDump : BancLecture {
         return Ligne(t0 + static_cast<std::uint32_t>(place) - 1, place - 1,
                      QByteArray::number(millibars / 1000, 'g', 15).toStdString());
     }
-    std::size_t Boites() const { return etabli.dialogues.boites.size(); }
+    std::size_t Boites() const { return etabli.dialogues.Boites().size(); }
     const DialoguesNotes::Boite_& Boite(std::size_t rang) const {
-        return etabli.dialogues.boites.at(rang);
+        return etabli.dialogues.Boites().at(rang);
     }
     /// Cells that were asked for.
     int Demandees() const { return enregistreur.journal.Nombre(20); }

@@ -42,6 +42,8 @@ BancLecture::BancLecture(simulateur::PtrEnregistreur prepare, const QString& lan
             if (tour == tours) geste();
         QApplication::processEvents();
     });
+    // Each download tells where its values are.
+    etabli.dialogues.TolererInformations();
     // A shape that the download does not use itself: it has to come back at each end.
     FixerPointeurSouris(ecran, pointeur::sablier);
     ecran.show();

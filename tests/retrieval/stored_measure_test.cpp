@@ -7,6 +7,7 @@
 
 #include "platform/fault.h"
 #include "simulator/measure.h"
+#include "support/case_names.h"
 #include "support/fault_number.h"
 
 namespace bornika::essai {
@@ -65,7 +66,7 @@ TEST_P(BitDeParite, OneWrongBitAloneFails) {
         simulateur::PariteCassee(simulateur::MesurePeriodique(instant, 777), GetParam()))));
 }
 
-INSTANTIATE_TEST_SUITE_P(EachBit, BitDeParite, testing::Values(6, 5, 4, 3, 2));
+INSTANTIATE_TEST_SUITE_P(EachBit, BitDeParite, testing::Values(6, 5, 4, 3, 2), nomDuCasImprime);
 
 TEST(ControleParite, EachByteOfTheTimeStampIsCovered) {
     for (std::size_t i = 4; i <= 7; ++i) {

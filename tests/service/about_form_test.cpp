@@ -53,7 +53,7 @@ TEST_F(FicheApropos, LeavesByItsButtonByEnterAndByEscape) {
             QTest::keyClick(&fiche, touche);
             EXPECT_FALSE(fiche.isVisible());
         });
-    EXPECT_TRUE(banc.etabli.dialogues.boites.empty());
+    EXPECT_TRUE(banc.etabli.dialogues.Boites().empty());
 }
 
 TEST_F(FicheApropos, TellsThatThisMachineHasNoSystemInformation) {
@@ -61,8 +61,8 @@ TEST_F(FicheApropos, TellsThatThisMachineHasNoSystemInformation) {
         BancDialogue::Cliquer(fiche.ui->cmdSysInfo);
         EXPECT_TRUE(fiche.isVisible());
     });
-    ASSERT_EQ(banc.etabli.dialogues.boites.size(), 1U);
-    const auto& boite = banc.etabli.dialogues.boites[0];
+    ASSERT_EQ(banc.etabli.dialogues.Boites().size(), 1U);
+    const auto& boite = banc.etabli.dialogues.Boites()[0];
     EXPECT_EQ(boite.icone, Icone::Aucune);
     EXPECT_EQ(boite.boutons, Boutons::Ok);
     EXPECT_EQ(Clair(boite.titre), "");

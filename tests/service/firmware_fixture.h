@@ -92,9 +92,8 @@ struct Banc {
         ecran.etat.TypekPod = pod.identite.type;
         ecran.etat.NomKpod = q("k-Pod of Zoé");
         ecran.ui->Infos->hide();
-        Prendre("/f/K-POD_V2.100.HEX");
     }
-    void Prendre(const char* fichier) { etabli.dialogues.fichiers = {q(fichier)}; }
+    void Prendre(const char* nom) { fichier = q(nom); }
     void Maintenance() {
         ecran.configuration.EcritConfig(QStringLiteral("True"), QStringLiteral("Maintenance"));
     }
@@ -104,7 +103,12 @@ struct Banc {
         pod.identite.versionBasse = basse;
         pod.ReglerNumeroSerie(0xFFFFFFFF);
     }
-    void Cliquer() { nmuBootLoad_Click(poste); }
+    /// Clicks the entry, says Yes to its question and takes the file.
+    void Cliquer() {
+        etabli.dialogues.AnnoncerQuestion(Reponse::Oui, q("version actuelle"));
+        etabli.dialogues.AnnoncerOuverture(fichier);
+        nmuBootLoad_Click(poste);
+    }
 
     /// The line of the form, "" while it is hidden.
     QString Ligne() const {
@@ -114,11 +118,13 @@ struct Banc {
     /// Texts of the boxes after the question.
     QStringList Boites() const {
         QStringList textes;
-        for (std::size_t i = 1; i < etabli.dialogues.boites.size(); ++i)
-            textes << etabli.dialogues.boites[i].texte;
+        for (std::size_t i = 1; i < etabli.dialogues.Boites().size(); ++i)
+            textes << etabli.dialogues.Boites()[i].texte;
         return textes;
     }
 
+    /// What the operator picks in the file dialog; nothing: it is cancelled.
+    std::optional<QString> fichier = q("/f/K-POD_V2.100.HEX");
     BusSimule bus;
     EnregistreurSimule& pod;
     Edition etabli;

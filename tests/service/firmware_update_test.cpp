@@ -4,10 +4,10 @@ namespace bornika::essai::firmware {
 namespace {
 
 TEST_F(MiseAJourFirmware, AsksFirstAndWithoutAYesSendsNothing) {
-    etabli.dialogues.reponses = {Reponse::Non};
-    Cliquer();
-    ASSERT_EQ(etabli.dialogues.boites.size(), 1U);
-    const auto& boite = etabli.dialogues.boites[0];
+    etabli.dialogues.AnnoncerQuestion(Reponse::Non);
+    nmuBootLoad_Click(poste);
+    ASSERT_EQ(etabli.dialogues.Boites().size(), 1U);
+    const auto& boite = etabli.dialogues.Boites()[0];
     EXPECT_EQ(boite.icone, Icone::Question);
     EXPECT_EQ(boite.boutons, Boutons::OuiNon);
     EXPECT_EQ(boite.titre, q("k-Pod of Zoé"));
@@ -34,8 +34,8 @@ TEST_F(MiseAJourFirmware, CancelledInTheFileDialogSendsNothingMore) {
     for (const std::optional<QString>& rien :
          {std::optional<QString>(), std::optional(QString())}) {
         pod.journal.Vider();
-        etabli.dialogues.boites.clear();
-        etabli.dialogues.fichiers = {rien};
+        etabli.dialogues.OublierBoites();
+        fichier = rien;
         Cliquer();
         EXPECT_EQ(Trames(), identite);
         EXPECT_TRUE(outil.appels.empty());
@@ -176,7 +176,7 @@ TEST_F(MiseAJourFirmware, TakesAnAbsentLoggerForAnOldOneOnceItAnswersAgain) {
     Cliquer();
     EXPECT_EQ(Trames(), (Codes{9, 9}));
     EXPECT_EQ(Boites(), QStringList{q("Le n° de série n'est pas valide")});
-    EXPECT_EQ(etabli.dialogues.boites[1].titre, q("k-Pod of Zoé"));
+    EXPECT_EQ(etabli.dialogues.Boites()[1].titre, q("k-Pod of Zoé"));
 }
 
 TEST_F(MiseAJourFirmware, AsksNothingOfALoggerWhileATimeOutStands) {
@@ -211,8 +211,8 @@ TEST_F(MiseAJourFirmware, RefusesAFileOfAnotherNameAndSaysWhichItWants) {
     Prendre("/f/K-POD-33_V2.112.HEX");
     lien.OuvreUSB(pod.identite.usb);
     Cliquer();
-    ASSERT_EQ(etabli.dialogues.boites.size(), 2U);
-    const auto& boite = etabli.dialogues.boites[1];
+    ASSERT_EQ(etabli.dialogues.Boites().size(), 2U);
+    const auto& boite = etabli.dialogues.Boites()[1];
     EXPECT_EQ(boite.icone, Icone::Exclamation);
     EXPECT_EQ(boite.boutons, Boutons::Ok);
     EXPECT_EQ(boite.titre, q("k-Pod of Zoé"));
@@ -286,14 +286,14 @@ TEST_F(MiseAJourFirmware, ClosesItsEntryWhileItLasts) {
     int secondes = 0;
     etabli.respiration.ReglerEvenements([&] {
         EXPECT_FALSE(entree.isEnabled());
-        Cliquer();
+        nmuBootLoad_Click(poste);
         ++secondes;
     });
     outil.duree = 3;
     Cliquer();
     EXPECT_EQ(secondes, 3);
     EXPECT_EQ(outil.appels.size(), 1U);
-    EXPECT_EQ(etabli.dialogues.boites.size(), 1U);
+    EXPECT_EQ(etabli.dialogues.Boites().size(), 1U);
     EXPECT_TRUE(entree.isEnabled());
 }
 

@@ -57,7 +57,7 @@ TEST_F(FicheGsm, ApplyStoresValueAndUnitAndCloses) {
     });
     EXPECT_EQ(Reglage("valeur_impulsion"), "0.125");
     EXPECT_EQ(Reglage("unite_impulsion"), "1");
-    EXPECT_TRUE(banc.etabli.dialogues.boites.empty());
+    EXPECT_TRUE(banc.etabli.dialogues.Boites().empty());
 }
 
 TEST_F(FicheGsm, StoresAPointAndShowsTheSeparatorOfTheUser) {
@@ -73,7 +73,7 @@ TEST_F(FicheGsm, StoresAPointAndShowsTheSeparatorOfTheUser) {
 TEST_F(FicheGsm, AValueThatIsNoNumberIsToldAndTheFormStays) {
     const QByteArray avant = banc.etabli.Lire(QStringLiteral("config.xml"));
     for (const char* valeur : {"", "abc", "1,5", "1 000", "1E999"}) {
-        banc.etabli.dialogues.boites.clear();
+        banc.etabli.dialogues.OublierBoites();
         Montrer([&](GSM& fiche) {
             fiche.ui->ValeurImpulsion->setText(QString::fromLatin1(valeur));
             fiche.ui->ListeUniteImpulsion->Choisir(2);
@@ -81,8 +81,8 @@ TEST_F(FicheGsm, AValueThatIsNoNumberIsToldAndTheFormStays) {
             EXPECT_TRUE(fiche.isVisible()) << valeur;
             EXPECT_EQ(Clair(fiche.ui->ValeurImpulsion->text()), valeur);
         });
-        ASSERT_EQ(banc.etabli.dialogues.boites.size(), 1U) << valeur;
-        const auto& boite = banc.etabli.dialogues.boites[0];
+        ASSERT_EQ(banc.etabli.dialogues.Boites().size(), 1U) << valeur;
+        const auto& boite = banc.etabli.dialogues.Boites()[0];
         EXPECT_EQ(boite.icone, Icone::Exclamation);
         EXPECT_EQ(boite.boutons, Boutons::Ok);
         EXPECT_EQ(Clair(boite.titre), "k-Pod");
@@ -119,7 +119,7 @@ TEST_F(FicheGsm, SettingsThatTheConfigurationDoesNotHaveAreEmptyAndAreNotAdded) 
         EXPECT_FALSE(fiche.isVisible());
     });
     EXPECT_EQ(banc.etabli.Lire(QStringLiteral("config.xml")), sans);
-    EXPECT_TRUE(banc.etabli.dialogues.boites.empty());
+    EXPECT_TRUE(banc.etabli.dialogues.Boites().empty());
 }
 
 TEST_F(FicheGsm, ThePresenceMessageShowsAndEnablesItsPeriod) {

@@ -165,7 +165,7 @@ TEST_F(Rapport, HidesTheFormAndKeepsItsTexts) {
     EXPECT_FALSE(fiche.isVisible());
     EXPECT_EQ(fiche.ui->Commande->text(), QStringLiteral("CDE-17"));
     EXPECT_EQ(fiche.ui->Commentaires->toPlainText(), QStringLiteral("joint changé"));
-    EXPECT_TRUE(banc.etabli.dialogues.boites.empty());
+    EXPECT_TRUE(banc.etabli.dialogues.Boites().empty());
     EXPECT_TRUE(banc.etabli.dialogues.demandes.empty());
 }
 
@@ -180,7 +180,7 @@ TEST_F(Rapport, SendsTheLoggerNothing) {
 TEST_F(Rapport, WithoutAnOrderNumberAsksForTheFile) {
     fiche.ui->Commande->clear();
     const QString choisi = banc.etabli.Chemin(QStringLiteral("a part.txt"));
-    banc.etabli.dialogues.fichiers = {choisi};
+    banc.etabli.dialogues.AnnoncerEnregistrement(choisi);
     Imprimer();
     ASSERT_EQ(banc.etabli.dialogues.demandes.size(), 1U);
     const DemandeFichier& demande = banc.etabli.dialogues.demandes[0];
@@ -200,19 +200,20 @@ TEST_F(Rapport, WithoutAnOrderNumberAsksForTheFile) {
 TEST_F(Rapport, WithoutAnOrderNumberAndWithoutAFileWritesNothing) {
     fiche.ui->Commande->clear();
     const QStringList avant = banc.etabli.Fichiers();
-    banc.etabli.dialogues.fichiers = {std::nullopt, QString()};
+    banc.etabli.dialogues.AnnoncerEnregistrement(std::nullopt);
+    banc.etabli.dialogues.AnnoncerEnregistrement(QString());
     Imprimer();
     Imprimer();
     EXPECT_EQ(banc.etabli.Fichiers(), avant);
     EXPECT_EQ(banc.etabli.dialogues.demandes.size(), 2U);
-    EXPECT_TRUE(banc.etabli.dialogues.boites.empty());
+    EXPECT_TRUE(banc.etabli.dialogues.Boites().empty());
     EXPECT_TRUE(fiche.isVisible());
 }
 
 TEST_F(Rapport, AnEmptyPathIsToldAndNothingIsWritten) {
     EXPECT_FALSE(EcrireRapport(ecran, QString(), LireRapport(fiche)));
-    ASSERT_EQ(banc.etabli.dialogues.boites.size(), 1U);
-    const auto& boite = banc.etabli.dialogues.boites[0];
+    ASSERT_EQ(banc.etabli.dialogues.Boites().size(), 1U);
+    const auto& boite = banc.etabli.dialogues.Boites()[0];
     EXPECT_EQ(boite.icone, Icone::Exclamation);
     EXPECT_EQ(boite.boutons, Boutons::Ok);
     EXPECT_EQ(boite.titre, QStringLiteral("k-Pod"));

@@ -23,12 +23,20 @@ class NumeroSerie : public SurPaillasse {
         EXPECT_EQ(Boites()[0].texte, QString::fromUtf8(texte));
         EXPECT_TRUE(enregistreur.lien.empty());
         EXPECT_EQ(enregistreur.journal.Total(), 0);
-        Boites().clear();
+        etabli.dialogues.OublierBoites();
     }
 };
 
 using ProgNumeroSerie = NumeroSerie;
-using RAZNumeroSerie = NumeroSerie;
+
+class RAZNumeroSerie : public NumeroSerie {
+  protected:
+    /// Clears the number, with an OK to the warning.
+    void Remettre() {
+        etabli.dialogues.AnnoncerQuestion(Reponse::Ok, QStringLiteral("sera inhibé"));
+        RAZNumeroSerie_Click(poste);
+    }
+};
 
 const char invalide[] = "Le n° de série n'est pas valide";
 const char tropGrand[] = "Le n° de série est trop grand (> 32 bits)";
@@ -101,6 +109,7 @@ TEST_F(ProgNumeroSerie, SaysTheSameInEveryLanguageAndAsksNoCatalogue) {
     AttendreRefus(invalide);
     Programmer("2147483648");
     AttendreRefus(tropGrand);
+    etabli.dialogues.AnnoncerQuestion(Reponse::Ok);
     RAZNumeroSerie_Click(poste);
     EXPECT_EQ(Boites().at(0).texte, QStringLiteral("Attention, le datalogger sera inhibé !"));
     EXPECT_EQ(etabli.Lire(QStringLiteral("config.xml")), avant);
@@ -147,7 +156,7 @@ TEST_F(RAZNumeroSerie, AsksAndThenClearsTheNumber) {
         EXPECT_TRUE(enregistreur.lien.empty());
         EXPECT_EQ(enregistreur.journal.Total(), 0);
     };
-    RAZNumeroSerie_Click(poste);
+    Remettre();
     ASSERT_EQ(Boites().size(), 1U);
     EXPECT_EQ(Boites()[0].icone, Icone::Critique);
     EXPECT_EQ(Boites()[0].boutons, Boutons::OkAnnuler);
@@ -162,7 +171,7 @@ TEST_F(RAZNumeroSerie, AsksAndThenClearsTheNumber) {
 }
 
 TEST_F(RAZNumeroSerie, CancelSendsNothing) {
-    etabli.dialogues.reponses = {Reponse::Annuler};
+    etabli.dialogues.AnnoncerQuestion(Reponse::Annuler);
     RAZNumeroSerie_Click(poste);
     EXPECT_EQ(Boites().size(), 1U);
     EXPECT_TRUE(enregistreur.lien.empty());
@@ -172,9 +181,9 @@ TEST_F(RAZNumeroSerie, CancelSendsNothing) {
 
 TEST_F(RAZNumeroSerie, WhatTheAnswerHoldsDoesNotCount) {
     Panne(15, GenrePanne::mauvaisEcho);
-    RAZNumeroSerie_Click(poste);
+    Remettre();
     Panne(15, GenrePanne::bruit);
-    RAZNumeroSerie_Click(poste);
+    Remettre();
     EXPECT_EQ(enregistreur.journal.Nombre(15), 2);
     EXPECT_FALSE(ecran.etat.TimeOut);
     EXPECT_EQ(Boites().size(), 2U);
@@ -182,13 +191,7 @@ TEST_F(RAZNumeroSerie, WhatTheAnswerHoldsDoesNotCount) {
 
 TEST_F(RAZNumeroSerie, ALoggerThatDoesNotAnswerIsTold) {
     ChaqueAbsence(
-        15,
-        [&] {
-            RAZNumeroSerie_Click(poste);
-            ASSERT_EQ(Boites().size(), 2U);
-            Boites().erase(Boites().begin());
-        },
-        [] {});
+        15, [&] { Remettre(); }, [] {}, 1);
 }
 
 class LireLesResets : public SurPaillasse {

@@ -33,7 +33,7 @@ class SurPaillasse : public testing::Test {
     void Panne(int code, GenrePanne genre, int parametre = 0) {
         enregistreur.pannes.Ordonner({.code = code, .genre = genre, .parametre = parametre});
     }
-    std::vector<DialoguesNotes::Boite_>& Boites() { return etabli.dialogues.boites; }
+    const std::vector<DialoguesNotes::Boite_>& Boites() const { return etabli.dialogues.Boites(); }
     /// Lengths that were asked for, in order.
     std::vector<int> Lectures() const {
         std::vector<int> longueurs;
@@ -49,39 +49,41 @@ class SurPaillasse : public testing::Test {
         EXPECT_EQ(bus.PoigneesOuvertes(), 0);
         EXPECT_TRUE(Boites().empty());
     }
-    /// The operator was told once that the logger is absent, and forgets it again.
-    void AttendreAbsent() {
-        ASSERT_EQ(Boites().size(), 1U);
-        EXPECT_EQ(Boites()[0].titre, QString());
-        EXPECT_EQ(Boites()[0].texte, ecran.Texte(QStringLiteral("k-Pod Absent")));
+    /// The operator was told once that the logger is absent, after that many questions, and forgets
+    /// it again.
+    void AttendreAbsent(std::size_t questions = 0) {
+        ASSERT_EQ(Boites().size(), questions + 1);
+        EXPECT_EQ(Boites().back().titre, QString());
+        EXPECT_EQ(Boites().back().texte, ecran.Texte(QStringLiteral("k-Pod Absent")));
         EXPECT_TRUE(ecran.etat.TimeOut);
         EXPECT_EQ(bus.PoigneesOuvertes(), 0);
-        Boites().clear();
+        etabli.dialogues.OublierBoites();
         ecran.etat.TimeOut = false;
     }
     /// Runs an operation on a logger that is silent, whose answer is lost, that takes no frame,
     /// that cannot be opened, that is pulled out in the exchange, and that is gone; `verifier`
-    /// looks at the rest.
+    /// looks at the rest. It asks that many `questions` first.
     template <class Operation, class Verification>
-    void ChaqueAbsence(int code, Operation operation, Verification verifier) {
+    void ChaqueAbsence(int code, Operation operation, Verification verifier,
+                       std::size_t questions = 0) {
         for (const GenrePanne genre : {GenrePanne::silence, GenrePanne::reponsePerdue}) {
             Panne(code, genre);
             operation();
-            AttendreAbsent();
+            AttendreAbsent(questions);
             verifier();
         }
         enregistreur.pannes.OrdonnerEchecsEcriture(3);
         operation();
-        AttendreAbsent();
+        AttendreAbsent(questions);
         verifier();
         enregistreur.pannes.OrdonnerEchecOuverture(2);
         operation();
-        AttendreAbsent();
+        AttendreAbsent(questions);
         verifier();
         Panne(code, GenrePanne::debranchement);
         for (int fois = 0; fois < 2; ++fois) {
             operation();
-            AttendreAbsent();
+            AttendreAbsent(questions);
             verifier();
         }
     }

@@ -46,10 +46,10 @@ struct InfoSysteme : testing::Test {
         });
     }
     void AttendreIndisponible() {
-        ASSERT_EQ(dialogues.boites.size(), 1U);
-        EXPECT_EQ(dialogues.boites[0].icone, Icone::Aucune);
-        EXPECT_EQ(dialogues.boites[0].titre, QString());
-        EXPECT_EQ(dialogues.boites[0].texte,
+        ASSERT_EQ(dialogues.Boites().size(), 1U);
+        EXPECT_EQ(dialogues.Boites()[0].icone, Icone::Aucune);
+        EXPECT_EQ(dialogues.Boites()[0].titre, QString());
+        EXPECT_EQ(dialogues.Boites()[0].texte,
                   QStringLiteral("System Information Is Unavailable At This Time"));
     }
 };
@@ -60,7 +60,7 @@ TEST_F(InfoSysteme, StartsTheToolOfItsOwnKeyAndLooksNoFurther) {
     Demarrer();
     EXPECT_EQ(lances, QStringList{QStringLiteral("C:\\info.exe")});
     EXPECT_EQ(registre.demandes, QStringList{cleOutil});
-    EXPECT_TRUE(dialogues.boites.empty());
+    EXPECT_TRUE(dialogues.Boites().empty());
 }
 
 TEST_F(InfoSysteme, WithoutThatTakesTheToolFromTheCommonFolder) {
@@ -69,7 +69,7 @@ TEST_F(InfoSysteme, WithoutThatTakesTheToolFromTheCommonFolder) {
     Demarrer();
     EXPECT_EQ(lances, QStringList{outilDuDossier});
     EXPECT_EQ(registre.demandes, QStringList({cleOutil, cleDossier}));
-    EXPECT_TRUE(dialogues.boites.empty());
+    EXPECT_TRUE(dialogues.Boites().empty());
 }
 
 TEST_F(InfoSysteme, IsUnavailableWhenTheCommonFolderDoesNotHaveTheTool) {

@@ -1,6 +1,7 @@
 #include "settings/config_store.h"
 
 #include "settings/config_store_support.h"
+#include "support/case_names.h"
 
 namespace bornika::essai {
 namespace {
@@ -125,7 +126,8 @@ INSTANTIATE_TEST_SUITE_P(Textes, BooleenDuFichier,
                                          CasBooleen{"1", true}, CasBooleen{"-1", true},
                                          CasBooleen{"0", false}, CasBooleen{"0.5", true},
                                          CasBooleen{"", false}, CasBooleen{"oui", false},
-                                         CasBooleen{"1x", false}));
+                                         CasBooleen{"1x", false}),
+                         nomDuCasImprime);
 
 TEST(Splash, IsStoredAsAWordAndOnlyWhereItStands) {
     Reglages r;
@@ -231,7 +233,8 @@ INSTANTIATE_TEST_SUITE_P(
                     CasMauvais{"text behind", "<Configuration/>rest"},
                     CasMauvais{"two roots", "<Configuration/><Second/>"},
                     CasMauvais{"no root", "<!-- only a comment -->"},
-                    CasMauvais{"byte order mark only", "\xEF\xBB\xBF"}));
+                    CasMauvais{"byte order mark only", "\xEF\xBB\xBF"}),
+    nomDuCasImprime);
 
 TEST(FichierAbsent, IsFault91AndTheProgramGoesOnOnceItIsBack) {
     Reglages r;

@@ -4,6 +4,7 @@
 
 #include "settings/config_store_support.h"
 #include "shell/main_screen.h"
+#include "support/case_names.h"
 
 namespace bornika::essai {
 namespace {
@@ -191,7 +192,10 @@ INSTANTIATE_TEST_SUITE_P(
         Cas{"<vendeur>1</vendeur><Produit>2</Produit>", "vendeur", "1", "UsbAttenduEntrees"},
         Cas{BON "<Delai>5</Delai><Delai>6</Delai>", "Delai", "6", "UsbAttenduUneFois"},
         Cas{"<Vendeur>7</Vendeur><Produit>0x0008</Produit><Interface>1</Interface>", "Produit",
-            "0x0008", "UsbAttenduAutreProduit"}));
+            "0x0008", "UsbAttenduAutreProduit"}),
+    [](const auto& cas) {
+        return NomDeCas(cas.index, cas.param.entree + std::string(" ") + cas.param.valeur);
+    });
 
 #undef BON
 
@@ -220,16 +224,16 @@ TEST(SignalerEntreesUsb, ShowsOneBoxForEachThatNamesProductEntryAndWhatWasExpect
     b.Parler("English");
     const ElementUsb element = LireElementUsb(b.configuration);
     SignalerEntreesUsb(b.systeme, b.configuration, element.fausses);
-    ASSERT_EQ(b.dialogues.boites.size(), 2U);
-    EXPECT_EQ(b.dialogues.boites[0].icone, Icone::Exclamation);
-    EXPECT_EQ(b.dialogues.boites[0].boutons, Boutons::Ok);
-    EXPECT_EQ(b.dialogues.boites[0].titre, q("BORNIKA"));
-    EXPECT_EQ(b.dialogues.boites[0].texte,
+    ASSERT_EQ(b.dialogues.Boites().size(), 2U);
+    EXPECT_EQ(b.dialogues.Boites()[0].icone, Icone::Exclamation);
+    EXPECT_EQ(b.dialogues.Boites()[0].boutons, Boutons::Ok);
+    EXPECT_EQ(b.dialogues.Boites()[0].titre, q("BORNIKA"));
+    EXPECT_EQ(b.dialogues.Boites()[0].texte,
               q("This entry of the element Usb in the file config.xml is wrong:\n\n"
                 "Appareil 1 (Vendeur 0x1234, Produit 0x5678)\nEntree = 0x01\n\n"
                 "Expected: the address of an input endpoint, from 0x81 to 0x8F, or nothing\n\n"
                 "The program goes on without this device."));
-    EXPECT_TRUE(b.dialogues.boites[1].texte.contains(
+    EXPECT_TRUE(b.dialogues.Boites()[1].texte.contains(
         q("Appareil 2 (Vendeur –, Produit 5)\nVendeur = –\n\nExpected: the vendor number")));
 }
 
@@ -237,15 +241,15 @@ TEST(SignalerEntreesUsb, SpeaksTheLanguageOfTheProgram) {
     BancUsb b(Appareil(bon + "<Delai>0</Delai>"));
     b.Parler("Français");
     SignalerEntreesUsb(b.systeme, b.configuration, LireElementUsb(b.configuration).fausses);
-    ASSERT_EQ(b.dialogues.boites.size(), 1U);
-    EXPECT_TRUE(b.dialogues.boites[0].texte.contains(
+    ASSERT_EQ(b.dialogues.Boites().size(), 1U);
+    EXPECT_TRUE(b.dialogues.Boites()[0].texte.contains(
         q("Delai = 0\n\nAttendu : un nombre de millisecondes de 1 à 60000")));
 }
 
 TEST(SignalerEntreesUsb, ShowsNothingWhereNothingIsWrong) {
     BancUsb b(Appareil(bon));
     SignalerEntreesUsb(b.systeme, b.configuration, LireElementUsb(b.configuration).fausses);
-    EXPECT_TRUE(b.dialogues.boites.empty());
+    EXPECT_TRUE(b.dialogues.Boites().empty());
 }
 
 TEST(ElementUsb, SurvivesASaveOfAnotherSettingWithItsComments) {

@@ -7,47 +7,6 @@
 
 namespace bornika::essai {
 
-namespace {
-
-template <class T>
-T Premier(std::vector<T>& file, T defaut) {
-    if (file.empty()) return defaut;
-    T valeur = file.front();
-    file.erase(file.begin());
-    return valeur;
-}
-
-}  // namespace
-
-Reponse DialoguesNotes::Boite(Icone icone, Boutons boutons, const QString& titre,
-                              const QString& texte) {
-    boites.push_back({icone, boutons, titre, texte});
-    if (pendantBoite) pendantBoite(boites.back());
-    return Premier(reponses, boutons == Boutons::OuiNon ? Reponse::Oui : Reponse::Ok);
-}
-
-std::optional<QString> DialoguesNotes::Ouvrir(const DemandeFichier& demande) {
-    demandes.push_back(demande);
-    if (pendantDemande) pendantDemande(demande);
-    return Premier(fichiers, std::optional<QString>());
-}
-
-std::optional<QString> DialoguesNotes::Enregistrer(const DemandeFichier& demande) {
-    demandes.push_back(demande);
-    if (pendantDemande) pendantDemande(demande);
-    return Premier(fichiers, std::optional<QString>());
-}
-
-std::optional<std::uint32_t> DialoguesNotes::Couleur(std::uint32_t depart) {
-    departsCouleur.push_back(depart);
-    return Premier(couleurs, std::optional<std::uint32_t>());
-}
-
-void DialoguesNotes::Apercu(const DemandeApercu& demande) {
-    apercus.push_back(demande);
-    if (pendantApercu) pendantApercu(demande);
-}
-
 Etabli::Etabli(InterfaceUsb* usb)
     : systeme{horloge, dialogues, usb ? *usb : usbVide, respiration, Regional{}, dossier.path()} {
     respiration.ReglerPas(std::chrono::milliseconds(0));

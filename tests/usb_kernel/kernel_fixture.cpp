@@ -116,7 +116,7 @@ std::string BancPoste::Portrait() const {
 
 std::string BancPoste::Bilan() const {
     QStringList lignes;
-    for (const auto& boite : etabli.dialogues.boites)
+    for (const auto& boite : etabli.dialogues.Boites())
         lignes << QStringLiteral("box %1, ").arg(static_cast<int>(boite.icone)) + boite.titre +
                       QStringLiteral(": ") + boite.texte;
     lignes << QStringLiteral("lost: %1").arg(ecran.etat.TimeOut)

@@ -72,7 +72,7 @@ TEST(KernelReading, ShowsTheSameParametersAsTheSimulatedBus) {
     EXPECT_FALSE(reel.banc.ecran.etat.TimeOut);
     EXPECT_NE(reel.banc.Portrait(), vide);
     EXPECT_EQ(reel.banc.Portrait(), simule.banc.Portrait());
-    EXPECT_TRUE(reel.banc.etabli.dialogues.boites.empty());
+    EXPECT_TRUE(reel.banc.etabli.dialogues.Boites().empty());
     EXPECT_EQ(AppareilsOuverts(), 0);
 }
 
@@ -123,7 +123,7 @@ TEST(KernelDownload, ASilenceEndsByItsTimeOutAndLosesNothing) {
 /// logger gives everything.
 void AttendrePerteEtRetour(CoteReel& reel, CoteSimule& simule) {
     EXPECT_TRUE(reel.banc.ecran.etat.TimeOut);
-    EXPECT_EQ(reel.banc.etabli.dialogues.boites.size(), 1U);
+    EXPECT_EQ(reel.banc.etabli.dialogues.Boites().size(), 1U);
     EXPECT_EQ(reel.banc.Bilan(), simule.banc.Bilan());
     EXPECT_EQ(AppareilsOuverts(), 0);
     EXPECT_TRUE(AttendreCompte(reel.usb, 0));

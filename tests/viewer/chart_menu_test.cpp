@@ -46,6 +46,11 @@ class MenuGraphe : public ::testing::Test {
         ASSERT_TRUE(Menu());
         QTest::mouseClick(Menu(), Qt::LeftButton, {}, Menu()->actionGeometry(entree).center());
     }
+    /// The next two file dialogs are cancelled.
+    void AnnulerDeux() {
+        v.etabli.dialogues.AnnoncerEnregistrement(std::nullopt);
+        v.etabli.dialogues.AnnoncerEnregistrement(std::nullopt);
+    }
     const DemandeFichier& Demande() { return v.etabli.dialogues.demandes.at(0); }
 
     Visionneuse v;
@@ -164,7 +169,7 @@ TEST_F(MenuGraphe, CopiesThePictureToTheClipboard) {
 }
 
 TEST_F(MenuGraphe, SavesAPictureNamedAfterTheRecording) {
-    v.etabli.dialogues.fichiers = {v.etabli.Chemin("curve.png")};
+    v.etabli.dialogues.AnnoncerEnregistrement(v.etabli.Chemin("curve.png"));
     Choisir(v.Ui().EnregistrerPng);
     EXPECT_EQ(Demande().nom, "2026-3-5.png");
     EXPECT_EQ(Demande().suffixe, "*.png");
@@ -173,11 +178,11 @@ TEST_F(MenuGraphe, SavesAPictureNamedAfterTheRecording) {
     const QImage lue(v.etabli.Chemin("curve.png"));
     EXPECT_EQ(lue, ImageGraphe(Vue()));
     EXPECT_GT(essai::Part(lue, [](const QColor& c) { return c != QColor(Qt::white); }), 0.01);
-    EXPECT_TRUE(v.etabli.dialogues.boites.empty());
+    EXPECT_TRUE(v.etabli.dialogues.Boites().empty());
 }
 
 TEST_F(MenuGraphe, SavesADocumentOfVectors) {
-    v.etabli.dialogues.fichiers = {v.etabli.Chemin("curve.pdf")};
+    v.etabli.dialogues.AnnoncerEnregistrement(v.etabli.Chemin("curve.pdf"));
     Choisir(v.Ui().EnregistrerPdf);
     EXPECT_EQ(Demande().nom, "2026-3-5.pdf");
     EXPECT_EQ(Demande().filtre, "pdf (*.pdf)|*.pdf");
@@ -191,17 +196,20 @@ TEST_F(MenuGraphe, SavesADocumentOfVectors) {
 
 TEST_F(MenuGraphe, OfSeveralRecordingsTheFirstGivesTheName) {
     v.EcrireEnregistrement("b.txt");
-    v.etabli.dialogues.fichiers = {v.etabli.systeme.dossier + QChar(u'\0') + "2026-3-5.txt" +
-                                   QChar(u'\0') + "b.txt"};
+    v.etabli.dialogues.AnnoncerOuverture(v.etabli.systeme.dossier + QChar(u'\0') + "2026-3-5.txt" +
+                                         QChar(u'\0') + "b.txt");
     v.Ui().CommandOpen->click();
     v.etabli.dialogues.demandes.clear();
+    v.etabli.dialogues.AnnoncerEnregistrement(std::nullopt);
     v.Ui().EnregistrerPng->trigger();
     EXPECT_EQ(Demande().nom, "2026-3-5.png");
 }
 
 TEST_F(MenuGraphe, OnceTheRecordingIsDeletedTheProgramGivesTheName) {
+    v.etabli.dialogues.AnnoncerQuestion(Reponse::Oui);
     v.Ui().Detruire->click();
     ASSERT_EQ(v.Fiche().NomFichierCourant, QString());
+    AnnulerDeux();
     v.Ui().EnregistrerPng->trigger();
     v.Ui().EnregistrerPdf->trigger();
     ASSERT_EQ(v.etabli.dialogues.demandes.size(), 2U);
@@ -211,32 +219,33 @@ TEST_F(MenuGraphe, OnceTheRecordingIsDeletedTheProgramGivesTheName) {
 
 TEST_F(MenuGraphe, ACancelledDialogWritesNothing) {
     const QStringList avant = v.etabli.Fichiers();
+    AnnulerDeux();
     v.Ui().EnregistrerPng->trigger();
     v.Ui().EnregistrerPdf->trigger();
     EXPECT_EQ(v.etabli.dialogues.demandes.size(), 2U);
     EXPECT_EQ(v.etabli.Fichiers(), avant);
-    EXPECT_TRUE(v.etabli.dialogues.boites.empty());
+    EXPECT_TRUE(v.etabli.dialogues.Boites().empty());
 }
 
 TEST_F(MenuGraphe, AFileThatCannotBeWrittenIsToldInOneBox) {
     const QString chemin = v.etabli.Chemin("missing/curve.png");
-    v.etabli.dialogues.fichiers = {chemin};
+    v.etabli.dialogues.AnnoncerEnregistrement(chemin);
     v.Ui().EnregistrerPng->trigger();
-    ASSERT_EQ(v.etabli.dialogues.boites.size(), 1U);
-    EXPECT_EQ(v.etabli.dialogues.boites[0].icone, Icone::Critique);
-    EXPECT_EQ(v.etabli.dialogues.boites[0].boutons, Boutons::Ok);
-    EXPECT_EQ(v.etabli.dialogues.boites[0].titre, "k-Pod");
-    EXPECT_TRUE(v.etabli.dialogues.boites[0].texte.startsWith(chemin + " : "));
+    ASSERT_EQ(v.etabli.dialogues.Boites().size(), 1U);
+    EXPECT_EQ(v.etabli.dialogues.Boites()[0].icone, Icone::Critique);
+    EXPECT_EQ(v.etabli.dialogues.Boites()[0].boutons, Boutons::Ok);
+    EXPECT_EQ(v.etabli.dialogues.Boites()[0].titre, "k-Pod");
+    EXPECT_TRUE(v.etabli.dialogues.Boites()[0].texte.startsWith(chemin + " : "));
     EXPECT_TRUE(v.etabli.fautes.empty());
 }
 
 TEST_F(MenuGraphe, AFileThatCannotBeReplacedStaysAsItWas) {
     // A folder in the way of the new file, whoever runs this.
     QDir(v.etabli.systeme.dossier).mkpath("curve.pdf/inside");
-    v.etabli.dialogues.fichiers = {v.etabli.Chemin("curve.pdf")};
+    v.etabli.dialogues.AnnoncerEnregistrement(v.etabli.Chemin("curve.pdf"));
     const QStringList avant = v.etabli.Fichiers();
     v.Ui().EnregistrerPdf->trigger();
-    EXPECT_EQ(v.etabli.dialogues.boites.size(), 1U);
+    EXPECT_EQ(v.etabli.dialogues.Boites().size(), 1U);
     EXPECT_TRUE(QFileInfo(v.etabli.Chemin("curve.pdf/inside")).isDir());
     EXPECT_EQ(v.etabli.Fichiers(), avant);
     EXPECT_TRUE(v.etabli.fautes.empty());
@@ -248,7 +257,7 @@ TEST_F(MenuGraphe, WhatIsSavedIsTheChartAsItStoodWhenTheEntryWasChosen) {
         v.Modele().Serie(0).active = false;
         Vue().Repaint();
     };
-    v.etabli.dialogues.fichiers = {v.etabli.Chemin("curve.png")};
+    v.etabli.dialogues.AnnoncerEnregistrement(v.etabli.Chemin("curve.png"));
     v.Ui().EnregistrerPng->trigger();
     EXPECT_EQ(QImage(v.etabli.Chemin("curve.png")), avant);
     EXPECT_NE(ImageGraphe(Vue()), avant);
@@ -262,7 +271,7 @@ TEST_F(MenuGraphe, AFormClosedWhileTheDialogStandsIsKeptUntilItsEnd) {
         QCoreApplication::processEvents();
         occupee = fiche.EstOccupee();
     };
-    v.etabli.dialogues.fichiers = {v.etabli.Chemin("curve.png")};
+    v.etabli.dialogues.AnnoncerEnregistrement(v.etabli.Chemin("curve.png"));
     v.Ui().EnregistrerPng->trigger();
     EXPECT_TRUE(occupee);
     EXPECT_FALSE(QImage(v.etabli.Chemin("curve.png")).isNull());

@@ -156,7 +156,7 @@ TEST_F(Seance, AMissingFileIsSilentAndTheClosingStepsRun) {
     EXPECT_FALSE(v.Fiche().Chargement);
     EXPECT_TRUE(v.Ui().TChart1->isVisible());
     EXPECT_EQ(PointeurSouris(v.Fiche()), pointeur::fleche);
-    EXPECT_TRUE(v.etabli.dialogues.boites.empty());
+    EXPECT_TRUE(v.etabli.dialogues.Boites().empty());
     EXPECT_TRUE(v.etabli.fautes.empty());
 }
 
@@ -208,8 +208,8 @@ TEST_F(Seance, AConfigurationThatCannotBeReadDoesNotKeepTheCurveAway) {
 TEST_F(Seance, SeveralFilesAreLoadedFromOneFolder) {
     v.EcrireEnregistrement("a.txt", 300);
     v.EcrireEnregistrement("b.txt", 20);
-    v.etabli.dialogues.fichiers = {v.etabli.systeme.dossier + QChar(u'\0') + "a.txt" +
-                                   QChar(u'\0') + "b.txt"};
+    v.etabli.dialogues.AnnoncerOuverture(v.etabli.systeme.dossier + QChar(u'\0') + "a.txt" +
+                                         QChar(u'\0') + "b.txt");
     v.Fiche().show();
     v.Ui().CommandOpen->click();
     ASSERT_EQ(v.Modele().NombreSeries(), 4);
@@ -258,7 +258,7 @@ TEST_F(Seance, WithoutATemplateTheLoadWorksAndTheChartHasNoTools) {
     EXPECT_EQ(v.Modele().NombreOutils(), 0);
     EXPECT_EQ(v.Modele().NombreSeries(), 4);
     EXPECT_TRUE(v.Ui().TChart1->isVisible());
-    EXPECT_TRUE(v.etabli.dialogues.boites.empty());
+    EXPECT_TRUE(v.etabli.dialogues.Boites().empty());
 }
 
 TEST_F(Seance, ATemplateGoneOrMalformedAtAReloadTakesTheToolsAway) {
@@ -274,7 +274,7 @@ TEST_F(Seance, TheTemplateIsNeverWritten) {
     v.EcrireEnregistrement("a.txt");
     const QByteArray avant = v.etabli.Lire("BORNIKA.TEE");
     Charger();
-    v.etabli.dialogues.couleurs = {0x123456};
+    v.etabli.dialogues.AnnoncerCouleur(0x123456);
     QTest::keyClick(v.Ui().Couleurs, Qt::Key_Down);
     EXPECT_EQ(v.etabli.Lire("BORNIKA.TEE"), avant);
 }

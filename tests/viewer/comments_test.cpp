@@ -51,8 +51,8 @@ TEST(Comments, AnEmptyArgumentGivesABoxThatIsNotTranslated) {
     const QByteArray catalogue = v.etabli.Lire("config.xml");
     const QStringList avant = v.etabli.Fichiers();
     EnregistrerCommentaires(v.Fiche(), "");
-    ASSERT_EQ(v.etabli.dialogues.boites.size(), 1U);
-    const auto& boite = v.etabli.dialogues.boites[0];
+    ASSERT_EQ(v.etabli.dialogues.Boites().size(), 1U);
+    const auto& boite = v.etabli.dialogues.Boites()[0];
     EXPECT_EQ(boite.texte, "Vous devez saisir un fichier");
     EXPECT_EQ(boite.icone, Icone::Exclamation);
     EXPECT_EQ(boite.boutons, Boutons::Ok);

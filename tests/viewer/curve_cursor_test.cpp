@@ -95,7 +95,7 @@ TEST_F(CurseurChoix, WithoutATemplateThereIsNoCursorAndNoFault) {
     ChoisirCurseur(0);
     EXPECT_EQ(v.Modele().NombreOutils(), 0);
     EXPECT_TRUE(v.etabli.fautes.empty());
-    EXPECT_TRUE(v.etabli.dialogues.boites.empty());
+    EXPECT_TRUE(v.etabli.dialogues.Boites().empty());
 }
 
 TEST_F(CurseurChoix, ACurveThatIsGoneGetsNoCursorAndNoFault) {
@@ -206,8 +206,8 @@ TEST_F(CurseurLecture, OfSeveralFilesTheThirdCurveIsReadInTheSameWay) {
     Ecrire("a.txt", Montee(20));
     Ecrire("b.txt", {{1.23456, 1}, {2.34567, 1}, {3.45678, 1}});
     v.Fiche().show();
-    v.etabli.dialogues.fichiers = {v.etabli.systeme.dossier + QChar(u'\0') + "a.txt" +
-                                   QChar(u'\0') + "b.txt"};
+    v.etabli.dialogues.AnnoncerOuverture(v.etabli.systeme.dossier + QChar(u'\0') + "a.txt" +
+                                         QChar(u'\0') + "b.txt");
     v.Ui().CommandOpen->click();
     ASSERT_EQ(v.Ui().Curseur->Nombre(), 5);
     ASSERT_EQ(v.Modele().Serie(2).axe, SerieGraphe::Axe::Gauche);
@@ -269,8 +269,8 @@ TEST_F(CurseurLecture, FromTheFourthCurveOnNothingChanges) {
     Ecrire("b.txt", Montee(10));
     Ecrire("c.txt", Montee(10));
     v.Fiche().show();
-    v.etabli.dialogues.fichiers = {v.etabli.systeme.dossier + QChar(u'\0') + "a.txt" +
-                                   QChar(u'\0') + "b.txt" + QChar(u'\0') + "c.txt"};
+    v.etabli.dialogues.AnnoncerOuverture(v.etabli.systeme.dossier + QChar(u'\0') + "a.txt" +
+                                         QChar(u'\0') + "b.txt" + QChar(u'\0') + "c.txt");
     v.Ui().CommandOpen->click();
     ASSERT_EQ(v.Ui().Curseur->Nombre(), 7);
     ChoisirCurseur(1);
@@ -396,7 +396,7 @@ TEST_F(AidesDeLecture, ChangeNoFileAndShowNoBox) {
         v.Regard().AnnulerZoom();
     }
     EXPECT_EQ(contenus(), avant);
-    EXPECT_TRUE(v.etabli.dialogues.boites.empty());
+    EXPECT_TRUE(v.etabli.dialogues.Boites().empty());
     EXPECT_TRUE(v.etabli.fautes.empty());
 }
 

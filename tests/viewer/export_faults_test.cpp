@@ -207,14 +207,20 @@ TEST_F(ExportOntoItself, NoRecordingOfTheViewGoesUnderTheComments) {
     EXPECT_EQ(v.etabli.Lire("a.txt.Cmt"), "note\r\n");
 }
 
-using Destruction = ExportFaults;
+class Destruction : public ExportFaults {
+  protected:
+    void Detruire(Reponse reponse = Reponse::Oui) {
+        v.etabli.dialogues.AnnoncerQuestion(reponse, v.Fiche().NomFichierCourant);
+        Cliquer(v.Ui().Detruire);
+    }
+};
 
 TEST_F(Destruction, WithoutAFileShowsTheWarningAlone) {
     ChargerMesures("a.txt", 20);
     v.Fiche().NomFichierCourant.clear();
     Cliquer(v.Ui().Detruire);
-    ASSERT_EQ(v.etabli.dialogues.boites.size(), 1U);
-    const auto& boite = v.etabli.dialogues.boites[0];
+    ASSERT_EQ(v.etabli.dialogues.Boites().size(), 1U);
+    const auto& boite = v.etabli.dialogues.Boites()[0];
     EXPECT_EQ(boite.icone, Icone::Exclamation);
     EXPECT_EQ(boite.boutons, Boutons::Ok);
     EXPECT_EQ(boite.titre, "k-Pod");
@@ -227,8 +233,8 @@ TEST_F(Destruction, OfSeveralFilesShowsTheWarningAlone) {
     v.EcrireEnregistrement("b.txt", 20);
     ChargerPlusieurs({"a.txt", "b.txt"});
     Cliquer(v.Ui().Detruire);
-    ASSERT_EQ(v.etabli.dialogues.boites.size(), 1U);
-    EXPECT_EQ(v.etabli.dialogues.boites[0].icone, Icone::Exclamation);
+    ASSERT_EQ(v.etabli.dialogues.Boites().size(), 1U);
+    EXPECT_EQ(v.etabli.dialogues.Boites()[0].icone, Icone::Exclamation);
     EXPECT_TRUE(QFile::exists(Chemin("a.txt")));
     EXPECT_TRUE(QFile::exists(Chemin("b.txt")));
     EXPECT_EQ(v.Fiche().NomFichierCourant, Plusieurs({"a.txt", "b.txt"}));
@@ -236,10 +242,9 @@ TEST_F(Destruction, OfSeveralFilesShowsTheWarningAlone) {
 
 TEST_F(Destruction, AsksWithTheNameOfTheFileAndNoKeepsIt) {
     ChargerMesures("a.txt", 20);
-    v.etabli.dialogues.reponses = {Reponse::Non};
-    Cliquer(v.Ui().Detruire);
-    ASSERT_EQ(v.etabli.dialogues.boites.size(), 1U);
-    const auto& boite = v.etabli.dialogues.boites[0];
+    Detruire(Reponse::Non);
+    ASSERT_EQ(v.etabli.dialogues.Boites().size(), 1U);
+    const auto& boite = v.etabli.dialogues.Boites()[0];
     EXPECT_EQ(boite.icone, Icone::Question);
     EXPECT_EQ(boite.boutons, Boutons::OuiNon);
     EXPECT_EQ(boite.titre, "k-Pod");
@@ -251,19 +256,18 @@ TEST_F(Destruction, AsksWithTheNameOfTheFileAndNoKeepsIt) {
 TEST_F(Destruction, SpeaksTheLanguageOfTheProgram) {
     v.ecran.configuration.RemplitListeLangues(*v.ecran.ui->ListeLangues, "English");
     ChargerMesures("a.txt", 20);
-    v.etabli.dialogues.reponses = {Reponse::Non};
-    Cliquer(v.Ui().Detruire);
+    Detruire(Reponse::Non);
     v.Fiche().NomFichierCourant.clear();
     Cliquer(v.Ui().Detruire);
-    ASSERT_EQ(v.etabli.dialogues.boites.size(), 2U);
-    EXPECT_EQ(v.etabli.dialogues.boites[0].texte, "Delete the file " + Chemin("a.txt") + " ?");
-    EXPECT_EQ(v.etabli.dialogues.boites[1].texte, "Select a file");
+    ASSERT_EQ(v.etabli.dialogues.Boites().size(), 2U);
+    EXPECT_EQ(v.etabli.dialogues.Boites()[0].texte, "Delete the file " + Chemin("a.txt") + " ?");
+    EXPECT_EQ(v.etabli.dialogues.Boites()[1].texte, "Select a file");
 }
 
 TEST_F(Destruction, YesDeletesTheFileAloneAndTheCurvesStay) {
     ChargerMesures("a.txt", 20);
     v.etabli.Ecrire("a.Cmt", "note");
-    Cliquer(v.Ui().Detruire);
+    Detruire();
     EXPECT_FALSE(QFile::exists(Chemin("a.txt")));
     EXPECT_TRUE(QFile::exists(Chemin("a.Cmt")));
     EXPECT_EQ(v.Fiche().NomFichierCourant, QString());
@@ -273,18 +277,18 @@ TEST_F(Destruction, YesDeletesTheFileAloneAndTheCurvesStay) {
 
 TEST_F(Destruction, AfterwardsARefreshDoesNothingAndASecondClickWarns) {
     ChargerMesures("a.txt", 20);
-    Cliquer(v.Ui().Detruire);
+    Detruire();
     const std::uint64_t revision = v.Modele().RevisionSeries();
     Rafraichir();
     EXPECT_EQ(v.Modele().RevisionSeries(), revision);
     EXPECT_EQ(v.Modele().Serie(0).Nombre(), 20);
     Cliquer(v.Ui().Detruire);
-    EXPECT_EQ(v.etabli.dialogues.boites.back().icone, Icone::Exclamation);
+    EXPECT_EQ(v.etabli.dialogues.Boites().back().icone, Icone::Exclamation);
 }
 
 TEST_F(Destruction, AfterwardsAnExportHasNothingToReadAndCostsNoOlderFile) {
     ChargerMesures("a.txt", 20);
-    Cliquer(v.Ui().Detruire);
+    Detruire();
     v.etabli.Ecrire("out.csv", "old");
     Exporter("out.csv");
     EXPECT_EQ(Fautes(), std::vector<int>{numero_faute::fichierIntrouvable});
@@ -294,7 +298,7 @@ TEST_F(Destruction, AfterwardsAnExportHasNothingToReadAndCostsNoOlderFile) {
 TEST_F(Destruction, TakesAProtectedFileToo) {
     ChargerMesures("a.txt", 20);
     ASSERT_TRUE(QFile::setPermissions(Chemin("a.txt"), QFile::ReadOwner));
-    Cliquer(v.Ui().Detruire);
+    Detruire();
     EXPECT_FALSE(QFile::exists(Chemin("a.txt")));
     EXPECT_TRUE(Fautes().empty());
 }
@@ -303,7 +307,7 @@ TEST_F(Destruction, OfAFileThatIsGoneIsAFault) {
     ChargerMesures("a.txt", 20);
     v.EcrireEnregistrement("A.TXT", 20);
     ASSERT_TRUE(QFile::remove(Chemin("a.txt")));
-    Cliquer(v.Ui().Detruire);
+    Detruire();
     EXPECT_EQ(Fautes(), std::vector<int>{numero_faute::fichierIntrouvable});
     // A name that differs in its letters is another file.
     EXPECT_TRUE(QFile::exists(Chemin("A.TXT")));
@@ -314,7 +318,7 @@ TEST_F(Destruction, OfWhatMayNotBeDeletedIsAFaultAndTheViewKeepsItsName) {
     // A folder is refused whoever asks.
     ASSERT_TRUE(QDir().mkdir(Chemin("folder.txt")));
     v.Fiche().NomFichierCourant = Chemin("folder.txt");
-    Cliquer(v.Ui().Detruire);
+    Detruire();
     EXPECT_EQ(Fautes(), std::vector<int>{numero_faute::accesRefuse});
     EXPECT_TRUE(QFileInfo(Chemin("folder.txt")).isDir());
     EXPECT_EQ(v.Fiche().NomFichierCourant, Chemin("folder.txt"));
@@ -328,7 +332,7 @@ TEST_F(Destruction, AFormClosedWhileTheQuestionStandsIsKeptUntilTheAnswer) {
         QCoreApplication::processEvents();
         EXPECT_TRUE(fiche);
     };
-    Cliquer(v.Ui().Detruire);
+    Detruire();
     EXPECT_FALSE(QFile::exists(Chemin("a.txt")));
     EXPECT_TRUE(Fautes().empty());
     QCoreApplication::processEvents();
@@ -339,7 +343,7 @@ TEST_F(Destruction, DeletesTheFileThatWasAskedAbout) {
     ChargerMesures("a.txt", 20);
     v.EcrireEnregistrement("b.txt", 10);
     v.etabli.dialogues.pendantBoite = [this](const auto&) { v.Ouvrir("b.txt"); };
-    Cliquer(v.Ui().Detruire);
+    Detruire();
     EXPECT_FALSE(QFile::exists(Chemin("a.txt")));
     EXPECT_TRUE(QFile::exists(Chemin("b.txt")));
     EXPECT_EQ(v.Fiche().NomFichierCourant, Chemin("b.txt"));

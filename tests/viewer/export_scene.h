@@ -35,7 +35,7 @@ class Sorties : public ::testing::Test {
         return v.etabli.systeme.dossier + QChar(u'\0') + noms.join(QChar(u'\0'));
     }
     void ChargerPlusieurs(const QStringList& noms) {
-        v.etabli.dialogues.fichiers = {Plusieurs(noms)};
+        v.etabli.dialogues.AnnoncerOuverture(Plusieurs(noms));
         v.Fiche().show();
         v.Ui().CommandOpen->click();
     }
@@ -46,11 +46,11 @@ class Sorties : public ::testing::Test {
     }
     /// Clicks the button and answers with that file of the program's folder.
     void Exporter(const QString& cible) {
-        v.etabli.dialogues.fichiers = {v.etabli.Chemin(cible)};
+        v.etabli.dialogues.AnnoncerEnregistrement(v.etabli.Chemin(cible));
         Cliquer(v.Ui().Export);
     }
     void Enregistrer(const QString& cible) {
-        v.etabli.dialogues.fichiers = {v.etabli.Chemin(cible)};
+        v.etabli.dialogues.AnnoncerEnregistrement(v.etabli.Chemin(cible));
         Cliquer(v.Ui().EnregistrerSelection);
     }
     void Rafraichir() {

@@ -13,6 +13,7 @@ using essai::Visionneuse;
 
 TEST(CommandOpen, AsksForOneOrSeveralTextFilesOfTheProgramsFolder) {
     Visionneuse v;
+    v.etabli.dialogues.AnnoncerOuverture(std::nullopt);
     v.Ui().CommandOpen->click();
     ASSERT_EQ(v.etabli.dialogues.demandes.size(), 1U);
     const DemandeFichier& demande = v.etabli.dialogues.demandes[0];
@@ -40,7 +41,7 @@ TEST(CommandOpen, CancelledKeepsWhatIsOnTheScreenAndEmptiesTheDialogsName) {
     v.Fiche().show();
     v.Ouvrir("a.txt");
     const std::uint64_t revision = v.Modele().RevisionSeries();
-    v.etabli.dialogues.fichiers = {std::nullopt};
+    v.etabli.dialogues.AnnoncerOuverture(std::nullopt);
     v.Ui().CommandOpen->click();
     EXPECT_EQ(v.Fiche().NomFichierCourant, v.etabli.Chemin("a.txt"));
     EXPECT_EQ(v.Fiche().NomDialogue, QString());
@@ -52,7 +53,7 @@ TEST(CommandOpen, LoadsSeveralFilesIntoOneViewAndNamesTheFormAfterTheirFolder) {
     v.EcrireEnregistrement("a.txt", 30);
     v.EcrireEnregistrement("b.txt", 20);
     const QString noms = v.etabli.systeme.dossier + QChar(u'\0') + "b.txt" + QChar(u'\0') + "a.txt";
-    v.etabli.dialogues.fichiers = {noms};
+    v.etabli.dialogues.AnnoncerOuverture(noms);
     v.Fiche().show();
     v.Ui().CommandOpen->click();
     EXPECT_EQ(v.Fiche().NomFichierCourant, noms);
@@ -85,7 +86,7 @@ TEST(CommandOpen, OfAFormClosedWhileTheDialogStandsLetsTheFormGo) {
         QCoreApplication::processEvents();
         EXPECT_TRUE(fiche);
     };
-    v.etabli.dialogues.fichiers = {v.etabli.Chemin("a.txt")};
+    v.etabli.dialogues.AnnoncerOuverture(v.etabli.Chemin("a.txt"));
     fiche->ui->CommandOpen->click();
     EXPECT_TRUE(v.etabli.fautes.empty());
     QCoreApplication::processEvents();

@@ -95,7 +95,7 @@ TEST_F(FileDrop, RefusesWhatIsNoRecording) {
     EXPECT_FALSE(Deposer(v.Fiche()));
     Attendre();
     EXPECT_EQ(v.Modele().NombreSeries(), 0);
-    EXPECT_TRUE(v.etabli.dialogues.boites.empty());
+    EXPECT_TRUE(v.etabli.dialogues.Boites().empty());
     EXPECT_TRUE(Fautes().empty());
 }
 

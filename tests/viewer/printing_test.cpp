@@ -20,9 +20,6 @@ class Impression : public ::testing::Test {
         v.Fiche().show();
         v.Ui().Commentaires->setPlainText("burst main");
         v.Ouvrir("a.txt");
-        v.etabli.dialogues.pendantApercu = [this](const DemandeApercu& demande) {
-            ImprimerDans(demande, v.etabli.Chemin("paper.pdf"));
-        };
     }
     static void ImprimerDans(const DemandeApercu& demande, const QString& chemin) {
         ImprimantePage imprimante(demande);
@@ -30,7 +27,16 @@ class Impression : public ::testing::Test {
         imprimante.setOutputFileName(chemin);
         demande.peindre(imprimante);
     }
-    void Imprimer() { v.Ui().Imprimer->click(); }
+    /// Prints with `geste` for what the operator does in the preview.
+    void Imprimer(std::function<void(const DemandeApercu&)> geste) {
+        v.etabli.dialogues.AnnoncerApercu(std::move(geste));
+        v.Ui().Imprimer->click();
+    }
+    void Imprimer() {
+        Imprimer([this](const DemandeApercu& demande) {
+            ImprimerDans(demande, v.etabli.Chemin("paper.pdf"));
+        });
+    }
     Papier Page() const { return Papier(v.etabli.Chemin("paper.pdf")); }
     const OutilGraphe& Annotation() { return v.Modele().Outil(v.Modele().NombreOutils() - 5); }
     const std::vector<DemandeApercu>& Apercus() const { return v.etabli.dialogues.apercus; }
@@ -38,10 +44,9 @@ class Impression : public ::testing::Test {
     /// What the annotation says while the preview stands, and whether it is shown.
     QString TextePendantApercu() {
         QString texte = "(no preview)";
-        v.etabli.dialogues.pendantApercu = [&](const DemandeApercu&) {
+        Imprimer([&](const DemandeApercu&) {
             texte = Annotation().actif ? Annotation().texte : "(inactive)";
-        };
-        Imprimer();
+        });
         return texte;
     }
 
@@ -55,7 +60,7 @@ TEST_F(Impression, ShowsOnePreviewWithTheNameOfTheProductOnALyingPage) {
     EXPECT_TRUE(Apercus()[0].paysage);
     EXPECT_EQ(Apercus()[0].marges, 10);
     EXPECT_TRUE(v.etabli.fautes.empty());
-    EXPECT_TRUE(v.etabli.dialogues.boites.empty());
+    EXPECT_TRUE(v.etabli.dialogues.Boites().empty());
 }
 
 TEST_F(Impression, ThePreviewIsNamedAfterTheProductOfNow) {
@@ -107,11 +112,10 @@ TEST_F(Impression, ADayOfARealNetworkIsPrintedWithNothingCutOffOrCovered) {
 }
 
 TEST_F(Impression, ThePageSetUpThatTheOperatorTriesIsFilledAnew) {
-    v.etabli.dialogues.pendantApercu = [this](DemandeApercu demande) {
+    Imprimer([this](DemandeApercu demande) {
         demande.paysage = false;
         ImprimerDans(demande, v.etabli.Chemin("paper.pdf"));
-    };
-    Imprimer();
+    });
     const Papier page = Page();
     EXPECT_LT(page.taille.width(), page.taille.height());
     EXPECT_TRUE(page.texte.contains("burst main"));
@@ -171,15 +175,13 @@ TEST_F(Impression, TheAnnotationIsGoneFromTheScreenAfterwards) {
     ChoisirStatistiques();
     QCoreApplication::processEvents();
     const QImage avant = v.Regard().Image();
-    v.etabli.dialogues.pendantApercu = [this](const DemandeApercu&) { v.Ui().TChart1->Repaint(); };
-    Imprimer();
+    Imprimer([this](const DemandeApercu&) { v.Ui().TChart1->Repaint(); });
     EXPECT_EQ(v.Regard().Image(), avant);
 }
 
 TEST_F(Impression, AFaultInBetweenPutsTheAnnotationAwayAndGoesOn) {
     ChoisirStatistiques();
-    v.etabli.dialogues.pendantApercu = [](const DemandeApercu&) { LeverFaute(61); };
-    Imprimer();
+    Imprimer([](const DemandeApercu&) { LeverFaute(61); });
     EXPECT_EQ(v.etabli.fautes, std::vector<int>{61});
     EXPECT_FALSE(Annotation().actif);
 }
@@ -192,7 +194,7 @@ TEST_F(Impression, WithoutTemplateItFaultsAfterThePreviewAndWithStatisticsBefore
     EXPECT_EQ(Apercus().size(), 1U);
     EXPECT_EQ(v.etabli.fautes, std::vector<int>{9});
     ChoisirStatistiques();
-    Imprimer();
+    v.Ui().Imprimer->click();
     EXPECT_EQ(Apercus().size(), 1U);
     EXPECT_EQ(v.etabli.fautes, (std::vector<int>{9, 9}));
 }
@@ -204,7 +206,7 @@ TEST_F(Impression, FiveToolsAreEnoughAndTheAnnotationIsTheFifthFromTheEnd) {
     EXPECT_TRUE(v.etabli.fautes.empty());
     EXPECT_FALSE(v.Modele().Outil(0).actif);
     v.Modele().RetirerOutil(0);
-    Imprimer();
+    v.Ui().Imprimer->click();
     EXPECT_EQ(v.etabli.fautes, std::vector<int>{9});
 }
 
@@ -246,9 +248,9 @@ TEST_F(Impression, OfAnEmptyRecordingIsAFrameWhoseStatisticsNameNoCurve) {
     vide.Ouvrir("empty.txt");
     ASSERT_EQ(vide.Modele().NombreSeries(), 0);
     vide.Ui().MinMaxMoy->setChecked(true);
-    vide.etabli.dialogues.pendantApercu = [&](const DemandeApercu& demande) {
+    vide.etabli.dialogues.AnnoncerApercu([&](const DemandeApercu& demande) {
         ImprimerDans(demande, vide.etabli.Chemin("paper.pdf"));
-    };
+    });
     vide.Ui().Imprimer->click();
     EXPECT_TRUE(vide.etabli.fautes.empty());
     EXPECT_TRUE(TexteStatistiques(vide.Fiche()).startsWith(" : Min= "));
@@ -277,13 +279,12 @@ TEST_F(Impression, AFormClosedWhileThePreviewStandsIsKeptUntilItsEnd) {
     ChoisirStatistiques();
     Trace& fiche = v.Fiche();
     bool occupee = false;
-    v.etabli.dialogues.pendantApercu = [&](const DemandeApercu& demande) {
+    Imprimer([&](const DemandeApercu& demande) {
         fiche.close();
         QCoreApplication::processEvents();
         occupee = fiche.EstOccupee();
         ImprimerDans(demande, v.etabli.Chemin("paper.pdf"));
-    };
-    Imprimer();
+    });
     EXPECT_TRUE(occupee);
     EXPECT_TRUE(v.etabli.fautes.empty());
     EXPECT_TRUE(Page().texte.contains("burst main"));
@@ -292,11 +293,10 @@ TEST_F(Impression, AFormClosedWhileThePreviewStandsIsKeptUntilItsEnd) {
 TEST_F(Impression, ALoadWhileThePreviewStandsIsPrintedAndItsAnnotationPutAway) {
     ChoisirStatistiques();
     v.EcrireEnregistrement("b.txt", 20, "Temps;Date Heure;Valeur;Niveau;m;comptage;M3/sec.");
-    v.etabli.dialogues.pendantApercu = [&](const DemandeApercu& demande) {
+    Imprimer([&](const DemandeApercu& demande) {
         v.Ouvrir("b.txt");
         ImprimerDans(demande, v.etabli.Chemin("paper.pdf"));
-    };
-    Imprimer();
+    });
     EXPECT_TRUE(Page().texte.contains("Niveau"));
     EXPECT_FALSE(Annotation().actif);
     EXPECT_TRUE(v.etabli.fautes.empty());

@@ -93,8 +93,8 @@ TEST_F(MinMax, TakeInTheCurvesOfOtherFiles) {
     Ecrire("a.txt", Montee(9));
     Ecrire("b.txt", {{40, 1}, {60, 1}});
     v.Fiche().show();
-    v.etabli.dialogues.fichiers = {v.etabli.systeme.dossier + QChar(u'\0') + "a.txt" +
-                                   QChar(u'\0') + "b.txt"};
+    v.etabli.dialogues.AnnoncerOuverture(v.etabli.systeme.dossier + QChar(u'\0') + "a.txt" +
+                                         QChar(u'\0') + "b.txt");
     v.Ui().CommandOpen->click();
     ChoisirCurseur(1);
     Allumer();
@@ -115,7 +115,7 @@ TEST_F(MinMax, EachBoxHasTheColourOfItsLine) {
     EXPECT_EQ(CouleurTexte(v.Ui().Min), Minimum().crayon);
     EXPECT_EQ(CouleurTexte(v.Ui().Max), Maximum().crayon);
     EXPECT_EQ(CouleurTexte(v.Ui().Moy), Moyenne().crayon);
-    v.etabli.dialogues.couleurs = {0x123456};
+    v.etabli.dialogues.AnnoncerCouleur(0x123456);
     v.Ui().Couleurs->setFocus();
     QTest::keyClick(v.Ui().Couleurs, Qt::Key_Down);
     EXPECT_EQ(CouleurTexte(v.Ui().Min), 0x123456U);
@@ -293,7 +293,7 @@ TEST_F(MinMax, WithoutATemplateNothingIsShownAndNothingFails) {
     EXPECT_EQ(Textes(), QStringList({"", "", ""}));
     Allumer();
     EXPECT_TRUE(v.etabli.fautes.empty());
-    EXPECT_TRUE(v.etabli.dialogues.boites.empty());
+    EXPECT_TRUE(v.etabli.dialogues.Boites().empty());
 }
 
 TEST_F(MinMax, WithoutATemplateEachRedrawClearsTheMarksToo) {
@@ -476,8 +476,8 @@ TEST_F(Lisseur, LeavesTheCurvesOfASecondFileAlone) {
     Ecrire("a.txt", Montee(20));
     Ecrire("b.txt", Montee(10));
     v.Fiche().show();
-    v.etabli.dialogues.fichiers = {v.etabli.systeme.dossier + QChar(u'\0') + "a.txt" +
-                                   QChar(u'\0') + "b.txt"};
+    v.etabli.dialogues.AnnoncerOuverture(v.etabli.systeme.dossier + QChar(u'\0') + "a.txt" +
+                                         QChar(u'\0') + "b.txt");
     v.Ui().CommandOpen->click();
     Activer(true, true);
     const std::uint64_t avant = v.Modele().Serie(2).Revision();

@@ -17,7 +17,7 @@ class Interruptions : public ::testing::Test {
     }
     /// Picks several files of the program's folder.
     void ChargerPlusieurs(const QStringList& noms) {
-        v.etabli.dialogues.fichiers = {Plusieurs(noms)};
+        v.etabli.dialogues.AnnoncerOuverture(Plusieurs(noms));
         v.Fiche().show();
         v.Ui().CommandOpen->click();
     }
@@ -52,7 +52,7 @@ TEST_F(Interruptions, ALineThatEndsALoadIsSilentAndTheClosingStepsRun) {
         EXPECT_EQ(v.Ui().Couleurs->Nombre(), 5) << ligne;
         EXPECT_EQ(PointeurSouris(v.Fiche()), pointeur::fleche) << ligne;
     }
-    EXPECT_TRUE(v.etabli.dialogues.boites.empty());
+    EXPECT_TRUE(v.etabli.dialogues.Boites().empty());
     EXPECT_TRUE(v.etabli.fautes.empty());
 }
 
@@ -63,7 +63,7 @@ TEST_F(Interruptions, AMissingFileAmongSeveralKeepsNoneOfTheOthersAway) {
     ASSERT_EQ(v.Modele().NombreSeries(), 4);
     EXPECT_EQ(Points(0), 30);
     EXPECT_EQ(Points(2), 20);
-    EXPECT_TRUE(v.etabli.dialogues.boites.empty());
+    EXPECT_TRUE(v.etabli.dialogues.Boites().empty());
 }
 
 TEST_F(Interruptions, AnEmptyFirstOfSeveralAddsTheOthersToWhatStood) {

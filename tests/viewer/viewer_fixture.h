@@ -42,7 +42,7 @@ struct Visionneuse {
     }
     /// What `CommandOpen` does when the operator picks that one file of the program's folder.
     void Ouvrir(const QString& nom) {
-        etabli.dialogues.fichiers = {etabli.Chemin(nom)};
+        etabli.dialogues.AnnoncerOuverture(etabli.Chemin(nom));
         Ui().CommandOpen->click();
     }
     QString Reglage(const QString& cle) {

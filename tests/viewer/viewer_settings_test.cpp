@@ -94,7 +94,7 @@ TEST_F(ReglagesDebit, ATextThatIsNoNumberShowsTheRawRateWithoutAMessage) {
     v.Ui().ListeTemps->Choisir(2);
     v.Ui().Command_Refresh->click();
     EXPECT_EQ(Debit(1), 2);
-    EXPECT_TRUE(v.etabli.dialogues.boites.empty());
+    EXPECT_TRUE(v.etabli.dialogues.Boites().empty());
     EXPECT_TRUE(v.etabli.fautes.empty());
 }
 
@@ -108,7 +108,7 @@ TEST_F(ReglagesDebit, WithNothingLoadedARefreshDoesNothing) {
 TEST_F(ReglagesDebit, ARefreshAfterAnotherUseOfTheFileDialogReloadsTheFileOnTheScreen) {
     v.EcrireEnregistrement("a.txt");
     Charger();
-    v.etabli.dialogues.fichiers = {std::nullopt};
+    v.etabli.dialogues.AnnoncerOuverture(std::nullopt);
     v.Ui().CommandOpen->click();
     v.Fiche().NomDialogue = "/elsewhere/export.csv";
     v.Ui().Command_Refresh->click();
@@ -118,8 +118,8 @@ TEST_F(ReglagesDebit, ARefreshAfterAnotherUseOfTheFileDialogReloadsTheFileOnTheS
 TEST_F(ReglagesDebit, ARefreshOfSeveralFilesReloadsThemAll) {
     v.EcrireEnregistrement("a.txt", 30);
     v.EcrireEnregistrement("b.txt", 20);
-    v.etabli.dialogues.fichiers = {v.etabli.systeme.dossier + QChar(u'\0') + "a.txt" +
-                                   QChar(u'\0') + "b.txt"};
+    v.etabli.dialogues.AnnoncerOuverture(v.etabli.systeme.dossier + QChar(u'\0') + "a.txt" +
+                                         QChar(u'\0') + "b.txt");
     v.Fiche().show();
     v.Ui().CommandOpen->click();
     v.Fiche().NomDialogue.clear();

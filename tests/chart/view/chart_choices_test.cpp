@@ -37,6 +37,11 @@ class Choix : public ::testing::Test {
         QTest::mouseDClick(&vue, Qt::LeftButton, {}, vue.axisRect()->rect().center());
     }
     QPushButton* Rafraichir() { return v.Ui().Command_Refresh; }
+    /// The next two colour dialogs are cancelled.
+    void AnnulerDeux() {
+        v.etabli.dialogues.AnnoncerCouleur(std::nullopt);
+        v.etabli.dialogues.AnnoncerCouleur(std::nullopt);
+    }
     std::vector<std::uint32_t>& Departs() { return v.etabli.dialogues.departsCouleur; }
 
     Visionneuse v;
@@ -63,7 +68,7 @@ TEST_F(CouleursChoix, NoDialogComesAtALoad) {
 TEST_F(CouleursChoix, TheFirstThreeAreTheLinesAtToolPositionsTwoToFour) {
     for (int i = 0; i < 3; ++i) {
         const auto choisie = static_cast<Couleur>(0x101010 + i);
-        v.etabli.dialogues.couleurs = {choisie};
+        v.etabli.dialogues.AnnoncerCouleur(choisie);
         const Couleur avant = v.Modele().Outil(i + 2).crayon;
         Choisir(i);
         EXPECT_EQ(Departs().back(), avant);
@@ -75,7 +80,7 @@ TEST_F(CouleursChoix, TheOthersAreTheCurves) {
     EXPECT_EQ(v.Modele().Serie(2).couleur, 65535U);
     for (int i = 3; i < 7; ++i) {
         const auto choisie = static_cast<Couleur>(0x202020 + i);
-        v.etabli.dialogues.couleurs = {choisie};
+        v.etabli.dialogues.AnnoncerCouleur(choisie);
         const Couleur avant = v.Ui().TChart1->CouleurSerie(i - 3);
         Choisir(i);
         EXPECT_EQ(Departs().back(), avant);
@@ -86,6 +91,7 @@ TEST_F(CouleursChoix, TheOthersAreTheCurves) {
 
 TEST_F(CouleursChoix, ACancelledDialogKeepsTheColour) {
     const Couleur ligne = v.Modele().Outil(2).crayon;
+    AnnulerDeux();
     Choisir(0);
     Choisir(4);
     EXPECT_EQ(Departs().size(), 2U);
@@ -94,6 +100,7 @@ TEST_F(CouleursChoix, ACancelledDialogKeepsTheColour) {
 }
 
 TEST_F(CouleursChoix, TheSameEntryCanBeChosenTwice) {
+    AnnulerDeux();
     Choisir(1);
     Choisir(1);
     EXPECT_EQ(Departs().size(), 2U);
@@ -111,7 +118,8 @@ TEST_F(CouleursChoix, AreIgnoredDuringALoad) {
 
 TEST_F(CouleursChoix, LastUntilTheNextLoad) {
     const Couleur ligne = v.Modele().Outil(2).crayon;
-    v.etabli.dialogues.couleurs = {0x111111, 0x222222};
+    v.etabli.dialogues.AnnoncerCouleur(0x111111);
+    v.etabli.dialogues.AnnoncerCouleur(0x222222);
     Choisir(0);
     Choisir(4);
     Rafraichir()->click();
@@ -122,7 +130,7 @@ TEST_F(CouleursChoix, LastUntilTheNextLoad) {
 TEST_F(CouleursChoix, ALineThatTheTemplateDidNotBringDoesNothing) {
     QFile::remove(v.etabli.Chemin("BORNIKA.TEE"));
     Rafraichir()->click();
-    v.etabli.dialogues.couleurs = {0x111111};
+    v.etabli.dialogues.AnnoncerCouleur(0x111111);
     Choisir(0);
     EXPECT_TRUE(Departs().empty());
     EXPECT_TRUE(v.etabli.fautes.empty());
