@@ -18,6 +18,7 @@
 #include "platform/numbers.h"
 #include "shell/product_box.h"
 #include "ui_main_screen.h"
+#include "widgets/busy_marks.h"
 
 namespace bornika {
 
@@ -100,7 +101,7 @@ void Lire_Parametres(Poste& poste) {
 void Lire(Poste& poste) {
     MainScreen& ecran = poste.ecran;
     const auto& ui = ecran.ui;
-    ui->Lire->setEnabled(false);
+    BoutonOccupe bouton(*ui->Lire);
     if (ecran.etat.Connected) {
         bool ok = false;
         ui->Version->setText(LitVersionKpod(poste, ok));
@@ -108,7 +109,7 @@ void Lire(Poste& poste) {
         Lire_Parametres(poste);
         Lire_Correction_Temps(poste);
     }
-    ui->Lire->setEnabled(true);
+    bouton.Rendre();
     ui->Lire->setFocus();
 }
 

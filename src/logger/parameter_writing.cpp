@@ -14,7 +14,7 @@
 #include "products/firmware_versions.h"
 #include "shell/product_box.h"
 #include "ui_main_screen.h"
-#include "widgets/pointer_shape.h"
+#include "widgets/busy_marks.h"
 
 namespace bornika {
 
@@ -68,38 +68,27 @@ void EcrireContexteEtRelire(Poste& poste) {
 
 void Ecrire(Poste& poste) {
     MainScreen& ecran = poste.ecran;
-    QPushButton& bouton = *ecran.ui->Ecrire;
-    bouton.setEnabled(false);
+    BoutonOccupe bouton(*ecran.ui->Ecrire);
     ecran.etat.TimeOut = false;
     poste.lien.OuvreUSB(ecran.etat.UsbID);
 
     const EtatCarte carte = ControlerCarte(poste);
     if (carte == EtatCarte::SansReponse) {
-        poste.lien.FermeUSB();  // the button stays disabled, on purpose
-        return;
-    }
-    if (carte == EtatCarte::Absente || !ConfirmerEcriture(ecran)) {
-        bouton.setEnabled(true);
-        return;
-    }
-
-    const int pointeurAvant = PointeurSouris(ecran);
-    FixerPointeurSouris(ecran, pointeur::sablier);
-    if (!ControlerCapteur(poste)) {
-        bouton.setEnabled(true);
-        FixerPointeurSouris(ecran, pointeurAvant);
-        return;
-    }
-    if (!EnvoyerTrames(poste)) {
-        bouton.setEnabled(true);
         poste.lien.FermeUSB();
-        FixerPointeurSouris(ecran, pointeurAvant);
+        bouton.Laisser();  // on purpose
         return;
+    }
+    if (carte == EtatCarte::Absente || !ConfirmerEcriture(ecran)) return;
+
+    PointeurPendant sablier(ecran, pointeur::sablier);
+    if (!ControlerCapteur(poste)) return bouton.Rendre();
+    if (!EnvoyerTrames(poste)) {
+        bouton.Rendre();
+        return poste.lien.FermeUSB();
     }
     EcrireContexteEtRelire(poste);
-    FixerPointeurSouris(ecran, pointeurAvant);
+    sablier.Rendre();
     MontrerTexte(ecran, Icone::Information, ecran.textes.TexteEcritureTerminee);
-    bouton.setEnabled(true);
 }
 
 }  // namespace bornika
