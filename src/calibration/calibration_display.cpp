@@ -21,7 +21,7 @@ QString TextePression(MainScreen& ecran, double points) {
 }  // namespace
 
 void Traduire(Etalonnage& fiche) {
-    MainScreen& ecran = fiche.poste.ecran;
+    MainScreen& ecran = fiche.ecran;
     ignorer([&] { fiche.setWindowTitle(ecran.Texte(QStringLiteral("mnuEtalonnage"))); });
     TraduireFiche(fiche, ecran);
 }
@@ -41,7 +41,7 @@ void ViderPressions(Etalonnage& fiche) {
 }
 
 void MontrerDate(Etalonnage& fiche, const DateEtalonnage& date) {
-    const MainScreen& ecran = fiche.poste.ecran;
+    const MainScreen& ecran = fiche.ecran;
     if (date.secondes != 0) {
         fiche.ui->ValeurDateEtalonnage->setText(
             EpochVersTexte(date.secondes, ecran.systeme.regional));
@@ -51,7 +51,7 @@ void MontrerDate(Etalonnage& fiche, const DateEtalonnage& date) {
 }
 
 void MontrerPoint(Etalonnage& fiche, int rang, const PointEtalonnage& point) {
-    MainScreen& ecran = fiche.poste.ecran;
+    MainScreen& ecran = fiche.ecran;
     fiche.Rangee(rang).ValeurPressionLue->setText(TextePression(ecran, point.mesure));
     fiche.Rangee(rang).ValeurPressionReelle->setText(TextePression(ecran, point.valeur));
 }

@@ -28,7 +28,10 @@ std::array<QWidget*, 6> RangeePoint::Controles() const {
 }
 
 Etalonnage::Etalonnage(Poste& lePoste, QWidget* parent)
-    : QDialog(parent), ui(std::make_unique<Ui::Etalonnage>()), poste(lePoste) {
+    : QDialog(parent),
+      ui(std::make_unique<Ui::Etalonnage>()),
+      poste(lePoste),
+      ecran(lePoste.ecran) {
     ui->setupUi(this);
     RetenirCaptions(*this);
     for (QWidget* controle : Rangee(1).Controles())

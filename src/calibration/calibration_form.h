@@ -41,7 +41,9 @@ class Etalonnage : public QDialog, public FicheDuProgramme {
     RangeePoint Rangee(int rang) const;
 
     std::unique_ptr<Ui::Etalonnage> ui;
+    /// The link, for calibration_exchange.h; what is shown needs the main form alone.
     Poste& poste;
+    MainScreen& ecran;
     /// 0 while the first point is being taken, 1 while the second is.
     std::int16_t DeuxiemePoint = 0;
 

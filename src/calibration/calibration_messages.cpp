@@ -44,6 +44,20 @@ PointEtalonnage PointDe(const VueReponse& reponse) {
     return {static_cast<double>(reponse.Mot(1)), static_cast<double>(reponse.Mot(3))};
 }
 
+void RetenirPaireBasse(Etalonnage7& etalonnage, const PointEtalonnage& bas) {
+    etalonnage.valeur_etalonnage_bas = bas.valeur;
+    etalonnage.mesure_etalonnage_bas = bas.mesure;
+}
+
+void RetenirPaireHaute(Etalonnage7& etalonnage, const PointEtalonnage& haut) {
+    etalonnage.valeur_etalonnage_haut = haut.valeur;
+    etalonnage.mesure_etalonnage_haut = haut.mesure;
+}
+
+bool AUnPoint(const Etalonnage7& etalonnage) {
+    return etalonnage.valeur_etalonnage_haut == 0 && etalonnage.mesure_etalonnage_haut == 0;
+}
+
 Octets TramePoint(double points, int point, const VueReponse& version) {
     return TrameEcritPointEtalonnage(points, point, Reste(version, 3));
 }

@@ -31,6 +31,13 @@ struct DateEtalonnage {
 DateEtalonnage DateDe(const VueReponse& reponse);
 PointEtalonnage PointDe(const VueReponse& reponse);
 
+/// Put a pair into the figures; what is made of the pairs stays as it was.
+void RetenirPaireBasse(Etalonnage7& etalonnage, const PointEtalonnage& bas);
+void RetenirPaireHaute(Etalonnage7& etalonnage, const PointEtalonnage& haut);
+
+/// True when the high pair is none.
+bool AUnPoint(const Etalonnage7& etalonnage);
+
 /// Request that stores point 1 or 2, reference in points. The bytes behind are left as the reply to
 /// the version command has them.
 Octets TramePoint(double points, int point, const VueReponse& version);

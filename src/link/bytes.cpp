@@ -7,7 +7,7 @@ namespace bornika {
 namespace {
 
 /// Value of 16 bits, rounded half to even.
-int Mot(double x) {
+int MotDeValeur(double x) {
     const double arrondi = ArrondiPair(x);
     if (!(arrondi >= 0 && arrondi <= 65535)) LeverFaute(numero_faute::depassement);
     return static_cast<int>(arrondi);
@@ -16,11 +16,11 @@ int Mot(double x) {
 }  // namespace
 
 std::uint8_t MSB(double x) {
-    return static_cast<std::uint8_t>(Mot(x) / 256);
+    return static_cast<std::uint8_t>(MotDeValeur(x) / 256);
 }
 
 std::uint8_t LSB(double x) {
-    return static_cast<std::uint8_t>(Mot(x) % 256);
+    return static_cast<std::uint8_t>(MotDeValeur(x) % 256);
 }
 
 Octets EntierVersOctets(std::int32_t valeur) {

@@ -13,7 +13,7 @@ namespace bornika {
 namespace {
 
 /// One command in a conversation of its own. A silent logger leaves the reply all zero.
-Tampon Interroger(Poste& poste, int code, int combien) {
+Tampon InterrogerEnregistreur(Poste& poste, int code, int combien) {
     Tampon buffer{};
     poste.lien.OuvreUSB(poste.ecran.etat.UsbID);
     Envoi_Entete(poste, code, buffer, combien, false);
@@ -29,7 +29,7 @@ double NumeroVersion(int haut, int bas) {
 }
 
 QString LitNumeroSerieKpod(Poste& poste) {
-    const Tampon buffer = Interroger(poste, CMD_LIT_NUMERO_SERIE, longueurReponse);
+    const Tampon buffer = InterrogerEnregistreur(poste, CMD_LIT_NUMERO_SERIE, longueurReponse);
     const VueReponse reponse(buffer);
     QString numero;
     if (reponse.Octet(0) != CMD_LIT_NUMERO_SERIE) return numero;
@@ -40,7 +40,7 @@ QString LitNumeroSerieKpod(Poste& poste) {
 QString LitVersionKpod(Poste& poste, bool& ok) {
     EtatApplication& etat = poste.ecran.etat;
     etat.TimeOut = false;
-    const Tampon buffer = Interroger(poste, CMD_LIT_VERSION, longueurReponseVersion);
+    const Tampon buffer = InterrogerEnregistreur(poste, CMD_LIT_VERSION, longueurReponseVersion);
     const VueReponse reponse(buffer);
     if (reponse.Octet(0) != CMD_LIT_VERSION) return {};
     const int type = reponse.Octet(1);
@@ -57,7 +57,7 @@ QString LitVersionKpod(Poste& poste, bool& ok) {
 
 QString LitTypeKpod(Poste& poste, bool /*sansEffet*/) {
     poste.ecran.etat.TimeOut = false;
-    const Tampon buffer = Interroger(poste, CMD_LIT_VERSION, longueurReponseVersion);
+    const Tampon buffer = InterrogerEnregistreur(poste, CMD_LIT_VERSION, longueurReponseVersion);
     const VueReponse reponse(buffer);
     return reponse.Octet(0) == CMD_LIT_VERSION ? QString::number(reponse.Octet(1)) : QString();
 }

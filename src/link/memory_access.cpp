@@ -59,6 +59,11 @@ int EcritEEpromInterne(Poste& poste, int adresse, int valeur) {
         .at(positionValeur);
 }
 
+void EcritOctetsInternes(Poste& poste, int adresse, std::span<const int> octets) {
+    for (const int octet : octets)
+        EcritEEpromInterne(poste, adresse++, octet);
+}
+
 Octets LitEEpromInterne(Poste& poste, int adresse, bool ouvrir) {
     if (ouvrir) poste.lien.OuvreUSB(poste.ecran.etat.UsbID);
     Octets lus = EchangeDirect(poste, TrameLitEeprom(adresse), longueurTrame, longueurCellule);

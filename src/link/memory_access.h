@@ -1,8 +1,10 @@
 #pragma once
 
+#include <span>
+
 #include "link/station.h"
 
-/// The four direct commands on the logger's memories. A failed read shows the text "k-Pod Absent"
+/// The direct commands on the logger's memories. A failed read shows the text "k-Pod Absent"
 /// and sets `TimeOut`; none of them clears it.
 namespace bornika {
 
@@ -20,6 +22,10 @@ Octets Memoire_Flash(Poste& poste, bool lecture, int page, int offset, const Oct
 /// Writes one byte into the internal memory at a 16-bit address, waits 50 ms and gives the value
 /// that the logger stored, 0 when it did not answer. The caller holds the link open.
 int EcritEEpromInterne(Poste& poste, int adresse, int valeur);
+
+/// Writes them one after the other from an address on. A logger that stays silent is sent the rest
+/// all the same.
+void EcritOctetsInternes(Poste& poste, int adresse, std::span<const int> octets);
 
 /// The 8 bytes of the internal memory from a 16-bit address on, nothing when the logger did not
 /// answer. With `ouvrir` the link is opened and closed here, otherwise the caller holds it open. A

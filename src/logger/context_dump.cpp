@@ -56,7 +56,7 @@ QStringList Echelles(const ListeDeroulante& liste) {
 }
 
 /// The logger still holds everything: a full disk is no reason to end the program.
-void Enregistrer(MainScreen& ecran, const QString& chemin, const QByteArray& texte) {
+void EnregistrerContexte(MainScreen& ecran, const QString& chemin, const QByteArray& texte) {
     try {
         nommer(QFileInfo(chemin).fileName(), [&] { RemplacerFichier(chemin, texte); });
     } catch (const FauteExecution& faute) {
@@ -85,8 +85,9 @@ void DumpContexte(Poste& poste) {
     MainScreen& ecran = poste.ecran;
     const std::optional<QString> chemin = DemanderFichier(ecran.systeme);
     if (!chemin) return;
-    Enregistrer(ecran, *chemin,
-                TexteContexte(*bloc, Echelles(*ecran.ui->ListeEchelles), ecran.systeme.regional));
+    EnregistrerContexte(
+        ecran, *chemin,
+        TexteContexte(*bloc, Echelles(*ecran.ui->ListeEchelles), ecran.systeme.regional));
 }
 
 }  // namespace bornika

@@ -2,9 +2,9 @@
 
 #include "link/memory_access.h"
 #include "logger/addressed_fields.h"
+#include "logger/context_values.h"
 #include "logger/display_statement.h"
 #include "logger/pulse_parameters.h"
-#include "platform/code_page.h"
 #include "platform/numbers.h"
 #include "ui_main_screen.h"
 
@@ -14,7 +14,7 @@ Suite LireFormatHeure(LectureParametres& lecture) {
     const Octets octets = LitEEpromInterne(lecture.poste, adresseFormatHeure, true);
     if (lecture.ecran.etat.TimeOut || octets.empty()) return Suite::Terminer;
     const auto& ui = lecture.ecran.ui;
-    QRadioButton& option = octets.front() != 0 ? *ui->AMPM_1 : *ui->AMPM_0;
+    QRadioButton& option = EstVingtQuatreHeures(octets.front()) ? *ui->AMPM_1 : *ui->AMPM_0;
     afficher([&] { option.setChecked(true); });
     return Suite::Continuer;
 }
@@ -33,10 +33,7 @@ Suite LireUniteImpulsion(LectureParametres& lecture) {
     afficher([&] { boite.setText({}); });
     const Octets octets = LitEEpromInterne(lecture.poste, adresseUniteImpulsion, true);
     if (lecture.ecran.etat.TimeOut) return Suite::Terminer;
-    QByteArray caracteres;
-    for (const int octet : octets)
-        caracteres.append(static_cast<char>(octet));
-    afficher([&] { boite.setText(Depuis8Bits(caracteres)); });
+    afficher([&] { boite.setText(UniteDeOctets(octets)); });
     return Suite::Continuer;
 }
 
@@ -44,10 +41,8 @@ Suite LireTempsDebit(LectureParametres& lecture) {
     float base = 0;
     LitTempsDebit(lecture.poste, base);
     if (lecture.ecran.etat.TimeOut) return Suite::Terminer;
-    for (std::size_t i = 0; i < basesDeTemps.size(); ++i) {
-        if (base != basesDeTemps[i]) continue;
-        afficher([&] { lecture.ecran.ui->ListeTemps->Choisir(static_cast<int>(i)); });
-    }
+    if (const auto position = PositionDeBase(base))
+        afficher([&] { lecture.ecran.ui->ListeTemps->Choisir(*position); });
     return Suite::Continuer;
 }
 

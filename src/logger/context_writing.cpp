@@ -2,48 +2,22 @@
 
 #include "link/memory_access.h"
 #include "logger/addressed_fields.h"
+#include "logger/context_values.h"
 #include "logger/pulse_parameters.h"
-#include "platform/code_page.h"
-#include "platform/numbers.h"
 #include "ui_main_screen.h"
 
 namespace bornika {
 
-namespace {
-
-void EcrireFormatHeure(Poste& poste) {
-    EcritEEpromInterne(poste, adresseFormatHeure, poste.ecran.ui->AMPM_0->isChecked() ? 0 : 1);
-}
-
-void EcrirePoidsImpulsion(Poste& poste) {
-    const QString texte = poste.ecran.ui->CoefImpulsion->text();
-    const Regional& regional = poste.ecran.systeme.regional;
-    if (!EstNumerique(texte, regional)) return;
-    EcritPoidsImpulsion(poste, EnSimple(EnDouble(texte, regional)));
-}
-
-/// A longer unit is written in full: it runs into the time base, which is written after it.
-void EcrireUniteImpulsion(Poste& poste) {
-    const QByteArray unite = Vers8Bits(poste.ecran.ui->UniteImpulsion->text())
-                                 .leftJustified(longueurUniteImpulsion, ' ');
-    int adresse = adresseUniteImpulsion;
-    for (const char caractere : unite)
-        EcritEEpromInterne(poste, adresse++, static_cast<unsigned char>(caractere));
-}
-
-void EcrireTempsDebit(Poste& poste) {
-    const int choisi = poste.ecran.ui->ListeTemps->Index();
-    if (choisi < 0 || choisi >= static_cast<int>(basesDeTemps.size())) return;
-    EcritTempsDebit(poste, basesDeTemps[static_cast<std::size_t>(choisi)]);
-}
-
-}  // namespace
-
 void EcrireContexte(Poste& poste) {
-    EcrireFormatHeure(poste);
-    EcrirePoidsImpulsion(poste);
-    EcrireUniteImpulsion(poste);
-    EcrireTempsDebit(poste);
+    const auto& ui = poste.ecran.ui;
+    EcritOctetsInternes(poste, adresseFormatHeure,
+                        Octets{OctetFormatHeure(!ui->AMPM_0->isChecked())});
+    // Only now: a weight that is a fault comes behind the time format.
+    if (const auto poids = PoidsDuTexte(ui->CoefImpulsion->text(), poste.ecran.systeme.regional))
+        EcritPoidsImpulsion(poste, *poids);
+    // A longer unit is written in full: it runs into the time base, which is written after it.
+    EcritOctetsInternes(poste, adresseUniteImpulsion, OctetsDeUnite(ui->UniteImpulsion->text()));
+    if (const auto base = BaseDePosition(ui->ListeTemps->Index())) EcritTempsDebit(poste, *base);
 }
 
 }  // namespace bornika

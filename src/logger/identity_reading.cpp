@@ -4,6 +4,7 @@
 #include "link/device_identity.h"
 #include "logger/battery.h"
 #include "logger/display_statement.h"
+#include "logger/parameter_replies.h"
 #include "logger/parameter_report.h"
 #include "platform/dates.h"
 #include "platform/format_pattern.h"
@@ -32,30 +33,43 @@ void MontrerTaille(MainScreen& ecran, int code) {
     afficher([&] { ecran.ui->ProgressBar1->FixerMaximum(ecran.etat.CapaciteMemoire); });
 }
 
+void MontrerVersion(MainScreen& ecran, const VersionLue& lue) {
+    ecran.ui->Version->setText(
+        QStringLiteral("(%1) %2.%3").arg(lue.type).arg(lue.haut).arg(lue.bas));
+    MontrerPile(ecran, lue.pile);
+    MontrerTaille(ecran, lue.codeTaille);
+}
+
+void MontrerCapteurEtalonne(MainScreen& ecran, const CapteurEtalonne& lu) {
+    QString texteDate = QStringLiteral("---");
+    QString capteur = texteDate;
+    if (lu.date != 0) {
+        texteDate = EpochVersTexte(lu.date, ecran.systeme.regional);
+        capteur = ecran.ui->ListeEchelles->TexteA(lu.echelle);
+    }
+    AjouteRapport(ecran, QStringLiteral("LabelDateEtalonnage"), texteDate);
+    AjouteRapport(ecran, QStringLiteral("LabelCapteurEtalonnage"), capteur);
+}
+
 }  // namespace
 
 Suite LireVersion(LectureParametres& lecture) {
-    MainScreen& ecran = lecture.ecran;
-    if (!lecture.Demander(CMD_LIT_VERSION, longueurReponseVersion)) return Suite::Terminer;
-    if (lecture.Reponse().Octet(0) != CMD_LIT_VERSION) return Suite::Continuer;
-    const int type = lecture.Reponse().Octet(1);
-    const int haut = lecture.Reponse().Octet(2);
-    const int bas = lecture.Reponse().Octet(4);
-    ecran.etat.VersionLogiciel = NumeroVersion(haut, bas);
-    lecture.AncienFirmware = ecran.etat.VersionLogiciel <= version::unPoint;
-    ecran.ui->Version->setText(QStringLiteral("(%1) %2.%3").arg(type).arg(haut).arg(bas));
-    MontrerPile(ecran, lecture.Reponse().Mot(5));
-    MontrerTaille(ecran, lecture.Reponse().Octet(7));
+    if (!lecture.DemanderReponse(CMD_LIT_VERSION, longueurReponseVersion)) return Suite::Terminer;
+    const auto lue = VersionLueDe(lecture.Reponse());
+    if (!lue) return Suite::Continuer;
+    const double numero = NumeroVersion(lue->haut, lue->bas);
+    lecture.ecran.etat.VersionLogiciel = numero;
+    lecture.AncienFirmware = numero <= version::unPoint;
+    MontrerVersion(lecture.ecran, *lue);
     return Suite::Continuer;
 }
 
 Suite LireNumeroSerie(LectureParametres& lecture) {
     MainScreen& ecran = lecture.ecran;
     const auto& ui = ecran.ui;
-    if (!lecture.Demander(CMD_LIT_NUMERO_SERIE)) return Suite::Terminer;
-    if (lecture.Reponse().Octet(0) == CMD_LIT_NUMERO_SERIE) {
-        ui->NumeroSerie->setText(QString::number(static_cast<qint64>(lecture.Reponse().Quatre(3))));
-    }
+    if (!lecture.DemanderReponse(CMD_LIT_NUMERO_SERIE)) return Suite::Terminer;
+    if (const auto numero = NumeroSerieDe(lecture.Reponse()))
+        ui->NumeroSerie->setText(QString::number(static_cast<qint64>(*numero)));
     AjouteRapport(ecran, QStringLiteral("LabelNumeroSerie"), ui->NumeroSerie->text());
     AjouteRapport(ecran, QStringLiteral("LabelVersion"), ui->Version->text());
     AjouteRapport(ecran, QStringLiteral("LabelTensionPile"), ui->TensionPile->text());
@@ -63,21 +77,12 @@ Suite LireNumeroSerie(LectureParametres& lecture) {
 }
 
 Suite LireDateEtalonnage(LectureParametres& lecture) {
-    MainScreen& ecran = lecture.ecran;
     if (!Envoi_Entete(lecture.poste, CMD_LIT_DATE_ETALONNAGE, lecture.buffer, longueurReponse,
-                      false) ||
-        lecture.Reponse().Octet(0) != CMD_LIT_DATE_ETALONNAGE) {
+                      false)) {
         return Suite::Continuer;
     }
-    const double date = lecture.Reponse().Quatre(1);
-    QString texteDate = QStringLiteral("---");
-    QString capteur = texteDate;
-    if (date != 0) {
-        texteDate = EpochVersTexte(date, ecran.systeme.regional);
-        capteur = ecran.ui->ListeEchelles->TexteA(EchelleDeOctet(lecture.Reponse().Octet(5)));
-    }
-    AjouteRapport(ecran, QStringLiteral("LabelDateEtalonnage"), texteDate);
-    AjouteRapport(ecran, QStringLiteral("LabelCapteurEtalonnage"), capteur);
+    if (const auto lu = CapteurEtalonneDe(lecture.Reponse()))
+        MontrerCapteurEtalonne(lecture.ecran, *lu);
     return Suite::Continuer;
 }
 

@@ -1,10 +1,12 @@
 #include "logger/memory_pointers.h"
 
 #include <cmath>
+#include <optional>
 
 #include "link/command_exchange.h"
 #include "link/command_table.h"
 #include "link/device_identity.h"
+#include "logger/parameter_replies.h"
 #include "platform/numbers.h"
 #include "products/firmware_versions.h"
 #include "ui_main_screen.h"
@@ -17,31 +19,23 @@ constexpr double octetsParPage = 526;  // usable bytes of a flash page in this a
 constexpr double octetsParMesure = 8;
 constexpr double mesuresAjoutees = 8;  // what firmware before 2.11 holds beyond its pointers
 
-struct Pointeur {
-    int page = 0;
-    int offset = 0;
-    /// Sixth byte of the reply.
-    int r5 = 0;
-
-    double Lineaire() const { return page * octetsParPage + offset; }
-};
-
-/// False on silence and on a wrong echo.
-bool LirePointeur(Poste& poste, int commande, Pointeur& pointeur) {
-    Tampon buffer{};
-    if (!Envoi_Entete(poste, commande, buffer, longueurReponse, true)) return false;
-    const VueReponse reponse(buffer);
-    if (reponse.Octet(0) != commande) return false;
-    pointeur = {reponse.Mot(1), reponse.Mot(3), reponse.Octet(5)};
-    return true;
+double PositionLineaire(const PointeurLu& pointeur) {
+    return pointeur.page * octetsParPage + pointeur.offset;
 }
 
-void MontrerPointeur(const Pointeur& pointeur, QLineEdit& page, QLineEdit& offset) {
+/// Nothing on silence and on a wrong echo.
+std::optional<PointeurLu> DemanderPointeur(Poste& poste, int commande) {
+    Tampon buffer{};
+    if (!Envoi_Entete(poste, commande, buffer, longueurReponse, true)) return std::nullopt;
+    return PointeurLuDe(buffer, commande);
+}
+
+void MontrerPointeur(const PointeurLu& pointeur, QLineEdit& page, QLineEdit& offset) {
     page.setText(QString::number(pointeur.page));
     offset.setText(QString::number(pointeur.offset));
 }
 
-double Borner(double mesures, const BarreProgression& barre) {
+double BornerParLaBarre(double mesures, const BarreProgression& barre) {
     return barre.Maximum() < mesures ? barre.Maximum() : mesures;
 }
 
@@ -51,7 +45,7 @@ double MontrerAncienRemplissage(MainScreen& ecran, double octets) {
     if (ui->Check_advanced->isChecked()) ui->Frame2->setVisible(true);
     double mesures = octets;
     if (mesures != 0) mesures = ArrondiPair(mesures / octetsParMesure) + mesuresAjoutees;
-    mesures = Borner(mesures, *ui->ProgressBar1);
+    mesures = BornerParLaBarre(mesures, *ui->ProgressBar1);
     ui->ProgressBar1->FixerValeur(mesures);
     const Regional& regional = ecran.systeme.regional;
     ui->ValeurCapacite->setText(TexteGeneral(mesures, regional) + QStringLiteral(" / ") +
@@ -66,31 +60,32 @@ double MontrerRemplissage(MainScreen& ecran, double octets) {
     ui->Capacite->setText(ecran.Texte(QStringLiteral("Records")));
     double mesures = octets;
     if (mesures != 0) mesures = ArrondiPair(mesures / octetsParMesure);
-    mesures = Borner(mesures, *ui->ProgressBar1);
+    mesures = BornerParLaBarre(mesures, *ui->ProgressBar1);
     ui->ValeurCapacite->setText(TexteGeneral(mesures, ecran.systeme.regional));
     ui->ProgressBar1->FixerValeur(mesures);
     return mesures;
 }
 
-void LireRemplissage(Poste& poste) {
+/// The bytes that hold measures, once both places are known and shown.
+std::optional<double> LireOctetsOccupes(Poste& poste) {
     MainScreen& ecran = poste.ecran;
     const auto& ui = ecran.ui;
-    Pointeur ecriture;
-    if (!LirePointeur(poste, CMD_POINTEUR_ECRITURE, ecriture)) return;
-    MontrerPointeur(ecriture, *ui->PageEcriture, *ui->BufferEcriture);
-    Pointeur lecture;
-    if (!LirePointeur(poste, CMD_POINTEUR_LECTURE, lecture)) return;
-    MontrerPointeur(lecture, *ui->PageLecture, *ui->BufferLecture);
+    const auto ecriture = DemanderPointeur(poste, CMD_POINTEUR_ECRITURE);
+    if (!ecriture) return std::nullopt;
+    MontrerPointeur(*ecriture, *ui->PageEcriture, *ui->BufferEcriture);
+    const auto lecture = DemanderPointeur(poste, CMD_POINTEUR_LECTURE);
+    if (!lecture) return std::nullopt;
+    MontrerPointeur(*lecture, *ui->PageLecture, *ui->BufferLecture);
+    return OctetsOccupes(PositionLineaire(*ecriture), PositionLineaire(*lecture), lecture->r5 != 0,
+                         ecran.etat.CapaciteMemoire, ui->ProgressBar1->Maximum());
+}
 
-    const double octets = OctetsOccupes(ecriture.Lineaire(), lecture.Lineaire(), lecture.r5 != 0,
-                                        ecran.etat.CapaciteMemoire, ui->ProgressBar1->Maximum());
-    bool ok = false;
-    LitVersionKpod(poste, ok);  // refreshes `VersionLogiciel`
+void MontrerMesures(MainScreen& ecran, double octets) {
     const double mesures = ecran.etat.VersionLogiciel < version::carte
                                ? MontrerAncienRemplissage(ecran, octets)
                                : MontrerRemplissage(ecran, octets);
-    ui->ProgressBar2->FixerMinimum(0);
-    ui->ProgressBar2->FixerMaximum(mesures);
+    ecran.ui->ProgressBar2->FixerMinimum(0);
+    ecran.ui->ProgressBar2->FixerMaximum(mesures);
 }
 
 }  // namespace
@@ -112,7 +107,11 @@ double OctetsOccupes(double ecriture, double lecture, bool vide, double Capacite
 
 void Lecture_Pointeurs(Poste& poste) {
     poste.lien.OuvreUSB(poste.ecran.etat.UsbID);
-    LireRemplissage(poste);
+    if (const auto octets = LireOctetsOccupes(poste)) {
+        bool ok = false;
+        LitVersionKpod(poste, ok);  // refreshes `VersionLogiciel`
+        MontrerMesures(poste.ecran, *octets);
+    }
     poste.lien.FermeUSB();
 }
 

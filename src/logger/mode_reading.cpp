@@ -2,6 +2,7 @@
 
 #include "link/command_table.h"
 #include "logger/display_statement.h"
+#include "logger/parameter_replies.h"
 #include "logger/parameter_report.h"
 #include "logger/pressure_scale.h"
 #include "platform/format_pattern.h"
@@ -14,12 +15,10 @@ namespace {
 const auto superieur = QStringLiteral(" > ");
 const auto inferieur = QStringLiteral(" < ");
 
-void MontrerEchelleEtUnite(LectureParametres& lecture) {
-    MainScreen& ecran = lecture.ecran;
+void MontrerEchelleEtUnite(MainScreen& ecran, const ModeLu& lu) {
     const auto& ui = ecran.ui;
-    const int code = lecture.Reponse().Octet(6);
-    afficher([&] { ui->ListeEchelles->Choisir(EchelleDeOctet(code)); });
-    afficher([&] { ui->ListeUnites->Choisir(UniteDeOctet(code)); });
+    afficher([&] { ui->ListeEchelles->Choisir(lu.echelle); });
+    afficher([&] { ui->ListeUnites->Choisir(lu.unite); });
     AjouteRapport(ecran, QStringLiteral("Label1"), ui->ListeEchelles->Texte());
     AjouteRapport(ecran, QStringLiteral("Label3"), ui->ListeUnites->Texte());
 }
@@ -31,34 +30,32 @@ void MontrerSeuil(MainScreen& ecran, QLineEdit& boite, int points, bool absolue)
     });
 }
 
-void MontrerSeuils(LectureParametres& lecture, int octetMode) {
-    MainScreen& ecran = lecture.ecran;
+void MontrerSeuils(MainScreen& ecran, const ModeLu& lu) {
     const auto& ui = ecran.ui;
-    const bool absolue = (octetMode & mode::pressionAbsolue) != 0;
+    const bool absolue = lu.mode.pressionAbsolue;
     afficher([&] { ui->PressionAbsolue->setChecked(absolue); });
     if (absolue) AjouteRapport(ecran, QStringLiteral("PressionAbsolue"), {});
-    MontrerSeuil(ecran, *ui->Seuil1, lecture.Reponse().Mot(2), absolue);
-    MontrerSeuil(ecran, *ui->Seuil2, lecture.Reponse().Mot(4), absolue);
+    MontrerSeuil(ecran, *ui->Seuil1, lu.seuil1, absolue);
+    MontrerSeuil(ecran, *ui->Seuil2, lu.seuil2, absolue);
 }
 
-void MontrerSens(MainScreen& ecran, int octetMode) {
-    const bool dessus = (octetMode & mode::auDessus) != 0;
-    QRadioButton& option = dessus ? *ecran.ui->AuDessus : *ecran.ui->AuDessous;
+void MontrerSens(MainScreen& ecran, const ModeEnregistrement& reglage) {
+    QRadioButton& option = reglage.auDessus ? *ecran.ui->AuDessus : *ecran.ui->AuDessous;
     afficher([&] { option.setChecked(true); });
 }
 
 /// The signs of the two thresholds are those of the band: inside it, or outside.
-void MontrerNombreSeuils(MainScreen& ecran, int octetMode) {
+void MontrerNombreSeuils(MainScreen& ecran, const ModeEnregistrement& reglage) {
     const auto& ui = ecran.ui;
-    const bool dessous = (octetMode & mode::auDessus) == 0;
-    if ((octetMode & mode::deuxSeuils) != 0) {
+    const bool dessous = !reglage.auDessus;
+    if (reglage.seuils == 2) {
         afficher([&] { ui->DeuxSeuils->setChecked(true); });
         AjouteRapport(ecran, QStringLiteral("DeuxSeuils"), {});
         AjouteRapport(ecran, QStringLiteral("LabelSeuil1"),
                       (dessous ? superieur : inferieur) + ui->Seuil1->text());
         AjouteRapport(ecran, QStringLiteral("LabelSeuil2"),
                       (dessous ? inferieur : superieur) + ui->Seuil2->text());
-    } else if ((octetMode & mode::unSeuil) != 0) {
+    } else if (reglage.seuils == 1) {
         afficher([&] { ui->UnSeuil->setChecked(true); });
         AjouteRapport(ecran, QStringLiteral("UnSeuil"), {});
         AjouteRapport(ecran, QStringLiteral("LabelSeuil1"),
@@ -69,9 +66,9 @@ void MontrerNombreSeuils(MainScreen& ecran, int octetMode) {
     }
 }
 
-void MontrerGestionMemoire(MainScreen& ecran, int octetMode) {
+void MontrerGestionMemoire(MainScreen& ecran, const ModeEnregistrement& reglage) {
     const auto& ui = ecran.ui;
-    if ((octetMode & mode::bufferTournant) != 0) {
+    if (reglage.bufferTournant) {
         afficher([&] { ui->BufferTournant->setChecked(true); });
         AjouteRapport(ecran, QStringLiteral("BufferTournant"), {});
     } else {
@@ -81,27 +78,28 @@ void MontrerGestionMemoire(MainScreen& ecran, int octetMode) {
 }
 
 /// A clear bit leaves the box as it is: the logger tells of a one-shot that is set only.
-void MontrerMonoCoup(MainScreen& ecran, int octetMode) {
-    if ((octetMode & mode::oneShot) == 0) return;
+void MontrerMonoCoup(MainScreen& ecran, const ModeEnregistrement& reglage) {
+    if (!reglage.oneShot) return;
     afficher([&] { ecran.ui->OneShot->setChecked(true); });
     AjouteRapport(ecran, QStringLiteral("OneShot"), {});
+}
+
+void MontrerMode(MainScreen& ecran, const ModeLu& lu) {
+    const auto& ui = ecran.ui;
+    MontrerEchelleEtUnite(ecran, lu);
+    MontrerSeuils(ecran, lu);
+    MontrerSens(ecran, lu.mode);
+    MontrerNombreSeuils(ecran, lu.mode);
+    MontrerGestionMemoire(ecran, lu.mode);
+    MontrerMonoCoup(ecran, lu.mode);
+    ui->Frame1->setVisible(ui->Check_advanced->isChecked() && !ui->PasDeSeuil->isChecked());
 }
 
 }  // namespace
 
 Suite LireMode(LectureParametres& lecture) {
-    if (!lecture.Demander(CMD_LIT_MODE)) return Suite::Terminer;
-    if (lecture.Reponse().Octet(0) != CMD_LIT_MODE) return Suite::Continuer;
-    MainScreen& ecran = lecture.ecran;
-    const auto& ui = ecran.ui;
-    const int octetMode = lecture.Reponse().Octet(1);
-    MontrerEchelleEtUnite(lecture);
-    MontrerSeuils(lecture, octetMode);
-    MontrerSens(ecran, octetMode);
-    MontrerNombreSeuils(ecran, octetMode);
-    MontrerGestionMemoire(ecran, octetMode);
-    MontrerMonoCoup(ecran, octetMode);
-    ui->Frame1->setVisible(ui->Check_advanced->isChecked() && !ui->PasDeSeuil->isChecked());
+    if (!lecture.DemanderReponse(CMD_LIT_MODE)) return Suite::Terminer;
+    if (const auto lu = ModeLuDe(lecture.Reponse())) MontrerMode(lecture.ecran, *lu);
     return Suite::Continuer;
 }
 

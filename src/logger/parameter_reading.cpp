@@ -11,18 +11,18 @@
 #include "logger/identity_reading.h"
 #include "logger/memory_pointers.h"
 #include "logger/mode_reading.h"
+#include "logger/parameter_replies.h"
 #include "logger/recording_summary.h"
 #include "logger/schedule_reading.h"
 #include "platform/code_page.h"
 #include "platform/numbers.h"
 #include "shell/product_box.h"
 #include "ui_main_screen.h"
+#include "widgets/busy_marks.h"
 
 namespace bornika {
 
 namespace {
-
-constexpr std::size_t caracteresParCommande = 7;
 
 Suite CommencerLecture(LectureParametres& lecture) {
     EtatApplication& etat = lecture.ecran.etat;
@@ -44,13 +44,10 @@ Suite LirePointsEtalonnage(LectureParametres& lecture) {
                                                                         : Suite::EtalonnageEnCours;
 }
 
-/// Adds seven characters to the comment, whatever the reply's first byte: blanks stay blanks.
+/// Adds seven characters to the comment: blanks stay blanks.
 Suite LireMoitieCommentaire(LectureParametres& lecture, int commande) {
-    if (!lecture.Demander(commande)) return Suite::Terminer;
-    QByteArray caracteres;
-    for (std::size_t rang = 1; rang <= caracteresParCommande; ++rang) {
-        caracteres.append(static_cast<char>(lecture.Reponse().Octet(rang)));
-    }
+    if (!lecture.DemanderReponse(commande)) return Suite::Terminer;
+    const QByteArray caracteres = MoitieCommentaireDe(lecture.Reponse());
     QLineEdit& boite = *lecture.ecran.ui->Commentaire;
     afficher([&] { boite.setText(boite.text() + Depuis8Bits(caracteres)); });
     return Suite::Continuer;
@@ -104,7 +101,7 @@ void Lire_Parametres(Poste& poste) {
 void Lire(Poste& poste) {
     MainScreen& ecran = poste.ecran;
     const auto& ui = ecran.ui;
-    ui->Lire->setEnabled(false);
+    BoutonOccupe bouton(*ui->Lire);
     if (ecran.etat.Connected) {
         bool ok = false;
         ui->Version->setText(LitVersionKpod(poste, ok));
@@ -112,7 +109,7 @@ void Lire(Poste& poste) {
         Lire_Parametres(poste);
         Lire_Correction_Temps(poste);
     }
-    ui->Lire->setEnabled(true);
+    bouton.Rendre();
     ui->Lire->setFocus();
 }
 

@@ -8,12 +8,13 @@
 #include "link/memory_access.h"
 #include "logger/context_writing.h"
 #include "logger/parameter_reading.h"
+#include "logger/set_up_form.h"
 #include "logger/set_up_frames.h"
 #include "logger/writing_checks.h"
 #include "products/firmware_versions.h"
 #include "shell/product_box.h"
 #include "ui_main_screen.h"
-#include "widgets/pointer_shape.h"
+#include "widgets/busy_marks.h"
 
 namespace bornika {
 
@@ -22,10 +23,21 @@ namespace {
 /// Milliseconds that the logger needs to take over the set-up, and its context before it is read.
 constexpr int pauseApresEcriture = 2000;
 
-constexpr std::array trames = {&TrameDemarrage, &TrameMode, &TrameHorloge, &TrameCommentaire1,
-                               &TrameCommentaire2};
+using Construction = Octets (*)(const MainScreen&);
 
-bool Confirmer(MainScreen& ecran) {
+/// Each is made of the form right before it is sent: a fault in one of them comes behind those that
+/// were sent.
+constexpr std::array trames = {
+    Construction{[](const MainScreen& ecran) { return TrameDemarrage(DemarrageSaisi(ecran)); }},
+    Construction{[](const MainScreen& ecran) { return TrameMode(ModeSaisi(ecran)); }},
+    Construction{[](const MainScreen& ecran) { return TrameHorloge(HorlogeSaisie(ecran)); }},
+    Construction{
+        [](const MainScreen& ecran) { return TrameEcritCommentaire(1, CommentaireSaisi(ecran)); }},
+    Construction{
+        [](const MainScreen& ecran) { return TrameEcritCommentaire(2, CommentaireSaisi(ecran)); }},
+};
+
+bool ConfirmerEcriture(MainScreen& ecran) {
     return MontrerBoite(ecran, Icone::Aucune, Boutons::OkAnnuler,
                         ecran.Texte(QStringLiteral("Les anciennes valeurs seront écrasées"))) ==
            Reponse::Ok;
@@ -33,7 +45,7 @@ bool Confirmer(MainScreen& ecran) {
 
 /// False when the logger did not answer to one of them: the rest is not sent.
 bool EnvoyerTrames(Poste& poste) {
-    for (const auto construire : trames) {
+    for (const Construction construire : trames) {
         EchangeDirect(poste, construire(poste.ecran), longueurTrame, longueurReponse);
         if (poste.ecran.etat.TimeOut) return false;
     }
@@ -56,38 +68,27 @@ void EcrireContexteEtRelire(Poste& poste) {
 
 void Ecrire(Poste& poste) {
     MainScreen& ecran = poste.ecran;
-    QPushButton& bouton = *ecran.ui->Ecrire;
-    bouton.setEnabled(false);
+    BoutonOccupe bouton(*ecran.ui->Ecrire);
     ecran.etat.TimeOut = false;
     poste.lien.OuvreUSB(ecran.etat.UsbID);
 
     const EtatCarte carte = ControlerCarte(poste);
     if (carte == EtatCarte::SansReponse) {
-        poste.lien.FermeUSB();  // the button stays disabled, on purpose
-        return;
-    }
-    if (carte == EtatCarte::Absente || !Confirmer(ecran)) {
-        bouton.setEnabled(true);
-        return;
-    }
-
-    const int pointeurAvant = PointeurSouris(ecran);
-    FixerPointeurSouris(ecran, pointeur::sablier);
-    if (!ControlerCapteur(poste)) {
-        bouton.setEnabled(true);
-        FixerPointeurSouris(ecran, pointeurAvant);
-        return;
-    }
-    if (!EnvoyerTrames(poste)) {
-        bouton.setEnabled(true);
         poste.lien.FermeUSB();
-        FixerPointeurSouris(ecran, pointeurAvant);
+        bouton.Laisser();  // on purpose
         return;
+    }
+    if (carte == EtatCarte::Absente || !ConfirmerEcriture(ecran)) return;
+
+    PointeurPendant sablier(ecran, pointeur::sablier);
+    if (!ControlerCapteur(poste)) return bouton.Rendre();
+    if (!EnvoyerTrames(poste)) {
+        bouton.Rendre();
+        return poste.lien.FermeUSB();
     }
     EcrireContexteEtRelire(poste);
-    FixerPointeurSouris(ecran, pointeurAvant);
+    sablier.Rendre();
     MontrerTexte(ecran, Icone::Information, ecran.textes.TexteEcritureTerminee);
-    bouton.setEnabled(true);
 }
 
 }  // namespace bornika

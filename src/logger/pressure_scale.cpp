@@ -15,13 +15,8 @@ constexpr double pasDeLEchelle = 1024;
 constexpr double diviseurCoefficient = 10000;
 constexpr double ecartAbsolu = 1.024;
 
-double Pas(const EchellePression& echelle) {
+double PasDePression(const EchellePression& echelle) {
     return (echelle.maxi - echelle.mini) / pasDeLEchelle;
-}
-
-double CoefficientUnite(const MainScreen& ecran) {
-    const ListeDeroulante& unites = *ecran.ui->ListeUnites;
-    return unites.Donnee(unites.Index());
 }
 
 void RemettreSeuils(MainScreen& ecran) {
@@ -40,7 +35,7 @@ double CorrigerPoints(double points, const Etalonnage7& etalonnage) {
 
 double PressionDePoints(double points, const EchellePression& echelle, double coefficient,
                         bool correction_absolue) {
-    double pression = Pas(echelle) * points + echelle.mini;
+    double pression = PasDePression(echelle) * points + echelle.mini;
     if (correction_absolue) pression -= ecartAbsolu;
     return ArrondiTroisDecimales(coefficient * pression / diviseurCoefficient);
 }
@@ -54,13 +49,18 @@ double PointsDePression(double& pression, const EchellePression& echelle, double
     } else if (pression > echelle.maxi) {
         pression = echelle.maxi;
     }
-    return ArrondiTroisDecimales(Diviser(pression - echelle.mini, Pas(echelle)));
+    return ArrondiTroisDecimales(Diviser(pression - echelle.mini, PasDePression(echelle)));
 }
 
 double LimiteSeuil(double maxi, double coefficient) {
     // Written and read back with the same separator: the user's locale has no part in it.
     const Regional regional;
     return EnDouble(Format(coefficient * maxi / diviseurCoefficient, "###0.0", regional), regional);
+}
+
+double CoefficientUnite(const MainScreen& ecran) {
+    const ListeDeroulante& unites = *ecran.ui->ListeUnites;
+    return unites.Donnee(unites.Index());
 }
 
 double Donne_Pression(MainScreen& ecran, double points, bool correction, bool correction_absolue) {

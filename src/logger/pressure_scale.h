@@ -33,6 +33,9 @@ double PointsDePression(double& pression, const EchellePression& echelle, double
 /// Highest pressure that a threshold box accepts, with one decimal.
 double LimiteSeuil(double maxi, double coefficient);
 
+/// Ten-thousandths of the chosen unit for one base unit. Fault 381 when none is chosen.
+double CoefficientUnite(const MainScreen& ecran);
+
 /// The two conversions for the scale, the unit and the calibration of the main form.
 /// Fault 381 when no unit is chosen.
 double Donne_Pression(MainScreen& ecran, double points, bool correction, bool correction_absolue);

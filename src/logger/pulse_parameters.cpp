@@ -15,14 +15,9 @@ constexpr int adressePoidsImpulsion = 112;
 constexpr int adresseTempsDebit = 125;
 constexpr std::size_t octetsSimple = 4;
 
-float LireSimple(Poste& poste, int adresse) {
-    const Octets octets = LitEEpromInterne(poste, adresse, true);
-    return poste.ecran.etat.TimeOut ? 0.0F : SimpleDepuisOctets(octets);
-}
-
-void EcrireSimple(Poste& poste, int adresse, float valeur) {
-    for (const int octet : OctetsDepuisSimple(valeur))
-        EcritEEpromInterne(poste, adresse++, octet);
+/// A failed read has brought no byte.
+float SimpleLu(const Octets& octets) {
+    return octets.empty() ? 0.0F : SimpleDepuisOctets(octets);
 }
 
 }  // namespace
@@ -46,19 +41,19 @@ Octets OctetsDepuisSimple(float valeur) {
 }
 
 void LitPoidsImpulsion(Poste& poste, float& valeur) {
-    valeur = LireSimple(poste, adressePoidsImpulsion);
+    valeur = SimpleLu(LitEEpromInterne(poste, adressePoidsImpulsion, true));
 }
 
 void LitTempsDebit(Poste& poste, float& valeur) {
-    valeur = LireSimple(poste, adresseTempsDebit);
+    valeur = SimpleLu(LitEEpromInterne(poste, adresseTempsDebit, true));
 }
 
 void EcritPoidsImpulsion(Poste& poste, float valeur) {
-    EcrireSimple(poste, adressePoidsImpulsion, valeur);
+    EcritOctetsInternes(poste, adressePoidsImpulsion, OctetsDepuisSimple(valeur));
 }
 
 void EcritTempsDebit(Poste& poste, float valeur) {
-    EcrireSimple(poste, adresseTempsDebit, valeur);
+    EcritOctetsInternes(poste, adresseTempsDebit, OctetsDepuisSimple(valeur));
 }
 
 }  // namespace bornika

@@ -15,7 +15,7 @@ struct LectureParametres {
     explicit LectureParametres(Poste& lePoste) : poste(lePoste), ecran(lePoste.ecran) {}
 
     /// Sends a command whose silence ends the sequence. False on silence.
-    bool Demander(int commande, int combien = longueurReponse) {
+    bool DemanderReponse(int commande, int combien = longueurReponse) {
         return Envoi_Entete(poste, commande, buffer, combien, true);
     }
     /// The last reply.

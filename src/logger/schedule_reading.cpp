@@ -4,6 +4,7 @@
 #include "logger/card_state.h"
 #include "logger/display_statement.h"
 #include "logger/duration_rules.h"
+#include "logger/parameter_replies.h"
 #include "logger/parameter_report.h"
 #include "platform/dates.h"
 #include "ui_main_screen.h"
@@ -13,27 +14,45 @@ namespace bornika {
 namespace {
 
 /// Index of the first entry that carries this number, -1 for none.
-int Chercher(const ListeDeroulante& liste, int donnee) {
+int ChercherDonnee(const ListeDeroulante& liste, int donnee) {
     for (int i = 0; i < liste.Nombre(); ++i) {
         if (liste.Donnee(i) == donnee) return i;
     }
     return -1;
 }
 
+void MontrerProchaineMesure(MainScreen& ecran, const ProchaineMesureLue& lue) {
+    const auto& ui = ecran.ui;
+    ui->ProchaineMesure->setText(EpochVersTexte(lue.date, ecran.systeme.regional));
+    const int index = ChercherDonnee(*ui->ListePeriodeEchantillonage, lue.periode);
+    if (index >= 0) afficher([&] { ui->ListePeriodeEchantillonage->Choisir(index); });
+    if (index == 0) afficher([&] { ui->DureeSaisie->setText(QString::number(lue.periode)); });
+    afficher([&] { ui->NbMesures->setText(QString::number(lue.nombreAvant)); });
+}
+
+void MontrerDemarrage(MainScreen& ecran, double date) {
+    const QDateTime instant = EpochVersInstant(date);
+    afficher([&] { ecran.ui->DTPicker1->setDateTime(instant); });
+    afficher([&] { ecran.ui->DTPicker2->setDateTime(instant); });
+    afficher([&] {
+        MontrerFin(ecran, DateVersEpoch(VersDateOrdinateur(ecran.ui->DTPicker1->dateTime())));
+    });
+}
+
+void MontrerHorloge(MainScreen& ecran, const HorlogeLue& lue) {
+    const auto& ui = ecran.ui;
+    ui->DateCourante->setText(EpochVersTexte(lue.date, ecran.systeme.regional));
+    const int index = ChercherDonnee(*ui->PeriodeTrigger, lue.periodeTrigger);
+    if (index >= 0) afficher([&] { ui->PeriodeTrigger->Choisir(index); });
+    MontrerCarte(ecran, lue.carte);
+}
+
 }  // namespace
 
 Suite LireProchaineMesure(LectureParametres& lecture) {
-    MainScreen& ecran = lecture.ecran;
-    const auto& ui = ecran.ui;
-    if (!lecture.Demander(CMD_LIT_PROCHAINE_MESURE)) return Suite::Terminer;
-    if (lecture.Reponse().Octet(0) != CMD_LIT_PROCHAINE_MESURE) return Suite::Continuer;
-    ui->ProchaineMesure->setText(
-        EpochVersTexte(lecture.Reponse().Quatre(1), ecran.systeme.regional));
-    const int periode = lecture.Reponse().Mot(5);
-    const int index = Chercher(*ui->ListePeriodeEchantillonage, periode);
-    if (index >= 0) afficher([&] { ui->ListePeriodeEchantillonage->Choisir(index); });
-    if (index == 0) afficher([&] { ui->DureeSaisie->setText(QString::number(periode)); });
-    afficher([&] { ui->NbMesures->setText(QString::number(lecture.Reponse().Octet(7))); });
+    if (!lecture.DemanderReponse(CMD_LIT_PROCHAINE_MESURE)) return Suite::Terminer;
+    if (const auto lue = ProchaineMesureDe(lecture.Reponse()))
+        MontrerProchaineMesure(lecture.ecran, *lue);
     return Suite::Continuer;
 }
 
@@ -44,29 +63,20 @@ Suite NoterPeriode(LectureParametres& lecture) {
 }
 
 Suite LireDemarrage(LectureParametres& lecture) {
-    MainScreen& ecran = lecture.ecran;
-    if (!lecture.Demander(CMD_LIT_DEMARRAGE)) return Suite::Terminer;
-    if (lecture.Reponse().Octet(0) != CMD_LIT_DEMARRAGE) return Suite::Continuer;
-    lecture.DateDemarrageLue = lecture.Reponse().Quatre(1);
-    const QDateTime instant = EpochVersInstant(lecture.DateDemarrageLue);
-    afficher([&] { ecran.ui->DTPicker1->setDateTime(instant); });
-    afficher([&] { ecran.ui->DTPicker2->setDateTime(instant); });
-    afficher([&] {
-        MontrerFin(ecran, DateVersEpoch(VersDateOrdinateur(ecran.ui->DTPicker1->dateTime())));
-    });
+    if (!lecture.DemanderReponse(CMD_LIT_DEMARRAGE)) return Suite::Terminer;
+    const auto date = DemarrageDe(lecture.Reponse());
+    if (!date) return Suite::Continuer;
+    lecture.DateDemarrageLue = *date;
+    MontrerDemarrage(lecture.ecran, *date);
     return Suite::Continuer;
 }
 
 Suite LireDateCourante(LectureParametres& lecture) {
-    MainScreen& ecran = lecture.ecran;
-    const auto& ui = ecran.ui;
-    if (!lecture.Demander(CMD_LIT_DATE_COURANTE)) return Suite::Terminer;
-    if (lecture.Reponse().Octet(0) != CMD_LIT_DATE_COURANTE) return Suite::Continuer;
-    lecture.DateLectureLocale = ecran.systeme.horloge.Maintenant();
-    ui->DateCourante->setText(EpochVersTexte(lecture.Reponse().Quatre(1), ecran.systeme.regional));
-    const int index = Chercher(*ui->PeriodeTrigger, lecture.Reponse().Mot(5));
-    if (index >= 0) afficher([&] { ui->PeriodeTrigger->Choisir(index); });
-    MontrerCarte(ecran, lecture.Reponse().Octet(7) == cartePresente);
+    if (!lecture.DemanderReponse(CMD_LIT_DATE_COURANTE)) return Suite::Terminer;
+    const auto lue = HorlogeLueDe(lecture.Reponse());
+    if (!lue) return Suite::Continuer;
+    lecture.DateLectureLocale = lecture.ecran.systeme.horloge.Maintenant();
+    MontrerHorloge(lecture.ecran, *lue);
     return Suite::Continuer;
 }
 

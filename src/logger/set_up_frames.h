@@ -1,34 +1,51 @@
 #pragma once
 
-#include "link/bytes.h"
+#include <QStringView>
+#include <cstdint>
 
-/// The recording set-up of the main form as the frames that carry it to the logger.
+#include "link/bytes.h"
+#include "logger/pressure_scale.h"
+#include "logger/recording_mode.h"
+#include "platform/dates.h"
+
+/// The recording set-up in values, and the frames that carry it to the logger. All of it computes
+/// only; set_up_form.h takes the values from the main form.
 namespace bornika {
 
-class MainScreen;
-
-/// What the mode byte says. `seuils` is the number of thresholds, 0 to 2.
-struct ModeEnregistrement {
-    int seuils = 0;
-    bool auDessus = false;
-    bool bufferTournant = false;
-    bool oneShot = false;
-    bool pressionAbsolue = false;
+/// Number of the sampling period, and the start in device time.
+struct ReglageDemarrage {
+    double periode = 0;
+    std::int32_t debut = 0;
 };
 
-int OctetMode(const ModeEnregistrement& reglage);
+/// Number of the period after the trigger, and the computer's present date.
+struct ReglageHorloge {
+    double periode = 0;
+    DateOrdinateur maintenant = 0;
+};
 
-/// Points of a threshold box, with their decimals; a text that is no number counts as a pressure
-/// of 0.
-double PointsDuSeuil(MainScreen& ecran, const QString& texte);
+struct ReglageMode {
+    ModeEnregistrement mode;
+    /// Pressures of both thresholds, whatever their number, in a unit of `coefficient`
+    /// ten-thousandths for one base unit.
+    double seuil1 = 0;
+    double seuil2 = 0;
+    EchellePression limites;
+    double coefficient = 0;
+    /// List indices.
+    int echelle = 0;
+    int unite = 0;
+    bool chargeRapide = false;
+};
 
-/// Start date and sampling period; mode and thresholds, both whatever their number; the computer's
-/// clock with the period after the trigger; the comment in two halves. Fault 6 for a period above
-/// 65535 and for a date before 1970, 381 when no period or unit is chosen.
-Octets TrameDemarrage(MainScreen& ecran);
-Octets TrameMode(MainScreen& ecran);
-Octets TrameHorloge(MainScreen& ecran);
-Octets TrameCommentaire1(MainScreen& ecran);
-Octets TrameCommentaire2(MainScreen& ecran);
+/// Pressure of the text of a threshold box; one that is no number counts as 0.
+double PressionDuSeuil(QStringView texte, const Regional& regional);
+
+/// Start date and sampling period; mode and thresholds; clock and period after the trigger. Fault 6
+/// for a period above 65535 and for a date before 1970.
+Octets TrameDemarrage(const ReglageDemarrage& reglage);
+/// Fault 11 (or 6) for a coefficient of 0 or an empty scale.
+Octets TrameMode(const ReglageMode& reglage);
+Octets TrameHorloge(const ReglageHorloge& reglage);
 
 }  // namespace bornika

@@ -2,6 +2,7 @@
 
 #include "link/command_table.h"
 #include "logger/card_state.h"
+#include "logger/parameter_replies.h"
 #include "products/products.h"
 #include "shell/product_box.h"
 #include "ui_main_screen.h"
@@ -32,7 +33,7 @@ EtatCarte ControlerCarte(Poste& poste) {
     if (!Envoi_Entete(poste, CMD_LIT_DATE_COURANTE, reponse, longueurReponse, true)) {
         return EtatCarte::SansReponse;
     }
-    const bool presente = VueReponse(reponse).Octet(7) == cartePresente;
+    const bool presente = EstCartePresente(reponse);
     MontrerCarte(ecran, presente);
     if (presente) return EtatCarte::Presente;
     DireCarteAbsente(ecran);
@@ -40,11 +41,9 @@ EtatCarte ControlerCarte(Poste& poste) {
 }
 
 std::optional<int> AutreCapteur(const VueReponse& reponse, int choisi, int nombre) {
-    if (reponse.Octet(0) != CMD_LIT_DATE_ETALONNAGE) return std::nullopt;
-    const bool jamais = reponse.Quatre(1) == 0;
-    const int etalonne = EchelleDeOctet(reponse.Octet(5));
-    if (jamais || etalonne == choisi || etalonne >= nombre) return std::nullopt;
-    return etalonne;
+    const auto lu = CapteurEtalonneDe(reponse);
+    if (!lu || lu->date == 0 || lu->echelle == choisi || lu->echelle >= nombre) return std::nullopt;
+    return lu->echelle;
 }
 
 bool ControlerCapteur(Poste& poste) {

@@ -59,6 +59,25 @@ TEST(CalibrationPair, IsReferenceThenMeasureWhateverTheEcho) {
     }
 }
 
+TEST(CalibrationPair, IsKeptWithoutTouchingWhatIsMadeOfIt) {
+    Etalonnage7 etalonnage{1, 2, 3, 4, 5, 6, 7};
+    RetenirPaireBasse(etalonnage, {320, 316});
+    RetenirPaireHaute(etalonnage, {768, 770});
+    EXPECT_EQ(etalonnage.valeur_etalonnage_bas, 320);
+    EXPECT_EQ(etalonnage.mesure_etalonnage_bas, 316);
+    EXPECT_EQ(etalonnage.valeur_etalonnage_haut, 768);
+    EXPECT_EQ(etalonnage.mesure_etalonnage_haut, 770);
+    EXPECT_EQ(etalonnage.correction_etalonnage, 5);
+    EXPECT_EQ(etalonnage.pente_etalonnage, 6);
+    EXPECT_EQ(etalonnage.offset_etalonnage, 7);
+}
+
+TEST(CalibrationPair, OfTwoZerosIsNone) {
+    EXPECT_TRUE(AUnPoint({1, 2, 0, 0, 5, 6, 7}));
+    EXPECT_FALSE(AUnPoint({1, 2, 3, 0, 5, 6, 7}));
+    EXPECT_FALSE(AUnPoint({1, 2, 0, 4, 5, 6, 7}));
+}
+
 TEST(CalibrationRequest, CarriesTheBytesOfTheVersionReplyBehindItsOwn) {
     const Tampon version = TamponDe({9, 1, 2, 7, 110, 1, 150, 4, 99});
     EXPECT_EQ(TramePoint(320, 1, version), (Octets{24, 1, 64, 1, 7, 110, 1, 150}));

@@ -133,6 +133,24 @@ TEST(EcritEEpromInterne, GivesThePositionThreeOfWhateverCame) {
     EXPECT_FALSE(banc.ecran.etat.TimeOut);
 }
 
+TEST(EcritOctetsInternes, WritesOneByteBehindTheOther) {
+    BancMemoire banc;
+    banc.lien.OuvreUSB(banc.ecran.etat.UsbID);
+    EcritOctetsInternes(banc.poste, 0x1FF, Octets{7, 8, 9});
+    EXPECT_EQ(banc.enregistreur.journal.Total(), 3);
+    EXPECT_EQ(banc.Derniere(), (Trame{30, 2, 1, 9, 32, 32, 32, 32}));
+    EXPECT_EQ(banc.enregistreur.memoire.Octet(0x1FF), 7);
+    EXPECT_EQ(banc.enregistreur.memoire.Octet(0x200), 8);
+    EXPECT_EQ(banc.etabli.horloge.pauses, (std::vector<int>{50, 50, 50}));
+}
+
+TEST(EcritOctetsInternes, ASilentLoggerIsToldOfOnce) {
+    BancMemoire banc;
+    EcritOctetsInternes(banc.poste, 300, Octets{7, 8});
+    EXPECT_TRUE(banc.AbsentDit());
+    EXPECT_EQ(banc.etabli.horloge.pauses, (std::vector<int>{50, 50}));
+}
+
 TEST(LitEEpromInterne, WithOuvrirOpensReadsAndCloses) {
     BancMemoire banc;
     banc.enregistreur.memoire.EcrireTexte(300, 8, "abcdefgh");
