@@ -1,12 +1,7 @@
 #include "service/production_report.h"
 
-#include <QStringList>
-
 #include "platform/block_append.h"
-#include "platform/code_page.h"
 #include "platform/named_fault.h"
-#include "platform/numbers.h"
-#include "products/products.h"
 #include "service/production_form.h"
 #include "settings/text_catalogue.h"
 #include "shell/captions.h"
@@ -19,12 +14,6 @@ namespace bornika {
 
 namespace {
 
-constexpr int longueurTrait = 42;
-
-QString Ligne(const Rubrique& rubrique) {
-    return rubrique.etiquette + QStringLiteral(" : ") + rubrique.valeur;
-}
-
 // An empty text for a dialog that was left.
 QString DemanderJournal(Systeme& systeme) {
     DemandeFichier demande;
@@ -35,40 +24,6 @@ QString DemanderJournal(Systeme& systeme) {
 }
 
 }  // namespace
-
-QByteArray BlocProduction(const RapportProduction& r) {
-    const QString blanc = QStringLiteral(" ");
-    QString commentaires = r.commentaires;
-    commentaires.replace(QLatin1Char('\n'), QLatin1String("\r\n"));
-    QStringList lignes = {blanc,
-                          QString(longueurTrait, QLatin1Char('-')),
-                          r.date,
-                          blanc,
-                          r.commande.etiquette + blanc + r.commande.valeur,
-                          blanc,
-                          Ligne(r.version),
-                          Ligne(r.numeroSerie),
-                          Ligne(r.dateCourante),
-                          Ligne(r.tensionPile),
-                          Ligne(r.capteur),
-                          blanc};
-    for (const QString& resume : r.resumes)
-        lignes += resume;
-    lignes += {r.commentaire.etiquette, r.commentaire.valeur, blanc, commentaires, blanc};
-    return Vers8Bits(lignes.join(QLatin1String("\r\n")) + QLatin1String("\r\n"));
-}
-
-QString TexteProduit(const QString& version, std::int32_t TypekPod, bool drapeau) {
-    const bool jamaisLu = version == QLatin1String("--");
-    const QStringList parties =
-        (jamaisLu ? QStringLiteral("(1)--") : version).split(QLatin1Char(')'));
-    const QString type = QString(parties[0]).remove(QLatin1Char('('));
-    // A logger that was chosen and not read shows "k-Pod = 1 2-110": a report all the same, no
-    // fault.
-    if (parties.size() < 2 || !EstNumerique(type, Regional{}))
-        return NomProduit(TypekPod, drapeau) + QLatin1Char(' ') + version;
-    return NomProduit(EnEntier32(type, Regional{}), drapeau) + parties[1];
-}
 
 QString CheminJournal(const QString& dossier, const QString& commande) {
     const QString extension = QStringLiteral(".log");
@@ -83,9 +38,9 @@ RapportProduction LireRapport(frmProduction& fiche) {
     return {.date = systeme.horloge.Maintenant().toString(systeme.regional.dateCourte +
                                                           QStringLiteral(" HH:mm:ss")),
             .commande = {Caption(*fiche.ui->LabelNumeroCommande), fiche.ui->Commande->text()},
-            .version = {Caption(*ui.LabelVersion),
-                        TexteProduit(Caption(*ui.Version), ecran.etat.TypekPod,
-                                     DrapeauProduit(systeme.dossier))},
+            .version = {Caption(*ui.LabelVersion), Caption(*ui.Version)},
+            .TypekPod = ecran.etat.TypekPod,
+            .drapeau = DrapeauProduit(systeme.dossier),
             .numeroSerie = {Caption(*ui.LabelNumeroSerie), Caption(*ui.NumeroSerie)},
             .dateCourante = {Caption(*ui.LabelDateCourante), Caption(*ui.DateCourante)},
             .tensionPile = {Caption(*ui.LabelTensionPile), Caption(*ui.TensionPile)},
@@ -103,7 +58,9 @@ bool EcrireRapport(MainScreen& ecran, const QString& chemin, const RapportProduc
                        QStringLiteral("Vous devez saisir un N° de commande"));
         return false;
     }
-    nommer(chemin, [&] { AjouterBloc(chemin, BlocProduction(rapport)); });
+    // What the block cannot hold is no failure of the file: it does not bear its name.
+    const QByteArray bloc = BlocProduction(rapport);
+    nommer(chemin, [&] { AjouterBloc(chemin, bloc); });
     return true;
 }
 

@@ -1,46 +1,13 @@
 #pragma once
 
-#include <QByteArray>
-#include <QString>
-#include <array>
-#include <cstdint>
+#include "service/production_block.h"
 
+/// The production report in three strokes: what the forms show, the block of it
+/// (production_block.h), the log file.
 namespace bornika {
 
 class frmProduction;
 class MainScreen;
-
-/// A caption and what stands behind it.
-struct Rubrique {
-    QString etiquette;
-    QString valeur;
-};
-
-/// What one block of the production log tells about a logger.
-struct RapportProduction {
-    QString date;
-    Rubrique commande;
-    /// `valeur` is the text of `TexteProduit`.
-    Rubrique version;
-    Rubrique numeroSerie;
-    Rubrique dateCourante;
-    Rubrique tensionPile;
-    Rubrique capteur;
-    /// Acquisition, buffer, threshold, period after the trigger, one shot.
-    std::array<QString, 5> resumes;
-    /// Comment stored in the logger.
-    Rubrique commentaire;
-    /// Comment of the production; its lines stay lines.
-    QString commentaires;
-};
-
-/// The block: 22 lines of 8-bit text, each closed by CR LF. A comment of several lines takes more.
-QByteArray BlocProduction(const RapportProduction& rapport);
-
-/// Product name and version text from what the label `Version` of the main form shows: "(type)"
-/// and the version, or "--" when no logger has been read, which counts as type 1. `drapeau` chooses
-/// the names of the Z907 edition. Any other text stands whole behind the name of `TypekPod`.
-QString TexteProduit(const QString& version, std::int32_t TypekPod, bool drapeau);
 
 /// Log file of an order: its number as the file's name in `dossier`, ".log" added unless ".log", in
 /// any case, occurs anywhere in it.
