@@ -5,7 +5,6 @@
 #include "link/device_identity.h"
 #include "link/frames.h"
 #include "logger/parameter_reading.h"
-#include "logger/pressure_scale.h"
 #include "platform/fault.h"
 #include "products/firmware_versions.h"
 #include "shell/product_box.h"
@@ -86,6 +85,7 @@ bool Telechargement::Commencer() {
     avancement_.Ouvrir();
     CreerFichiers();
     poste_.lien.OuvreUSB(ecran_.etat.UsbID);
+    RelireFiche();
     return true;
 }
 
@@ -154,7 +154,14 @@ void Telechargement::Respirer() {
     Respiration& respiration = ecran_.systeme.respiration;
     if (!respiration.EstDue()) return;
     avancement_.Montrer();
-    respiration.Ceder();
+    if (respiration.Ceder()) RelireFiche();
+}
+
+/// What the operator can change while the interface runs counts from the next line on. Between two
+/// runs of it nothing of this is looked at: there are half a million lines.
+void Telechargement::RelireFiche() {
+    reglages_ = LireReglagesPression(ecran_);
+    avancement_.Relire();
 }
 
 Telechargement::Etat Telechargement::Exploiter(const Octets& reponse) {
@@ -186,9 +193,8 @@ void Telechargement::Mesurer(const MesureDatee& mesure) {
 /// Only a periodic measure that failed the parity control gets the absolute correction: recordings
 /// have always been like that.
 QByteArrayView Telechargement::Ligne(const MesureDatee& mesure) {
-    const bool absolue =
-        !mesure.impulsion && !mesure.parite_ok && ecran_.ui->PressionAbsolue->isChecked();
-    const double pression = Donne_Pression(ecran_, mesure.points, true, absolue);
+    const bool absolue = !mesure.impulsion && !mesure.parite_ok && reglages_.absolue;
+    const double pression = PressionCorrigee(mesure.points, reglages_, absolue);
     if (mesure.impulsion)
         return redacteur_.Impulsion(mesure.secondes, mesure.millisecondes, mesure.points, pression,
                                     mesure.taux);

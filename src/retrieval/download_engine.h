@@ -8,6 +8,7 @@
 #include "recording/recording_file.h"
 #include "retrieval/download_progress.h"
 #include "retrieval/measure_group.h"
+#include "retrieval/pressure_settings.h"
 
 namespace bornika {
 
@@ -74,6 +75,7 @@ class Telechargement : private SortieMesures {
     Octets Demander();
     bool SurvivreAuSilence();
     void Respirer();
+    void RelireFiche();
     Etat Exploiter(const Octets& reponse);
     void Compter(std::int32_t Compteur) override;
     void Mesurer(const MesureDatee& mesure) override;
@@ -95,6 +97,7 @@ class Telechargement : private SortieMesures {
     Avancement avancement_;
     DecodeurMesures decodeur_;
     RedacteurLignes redacteur_;
+    ReglagesPression reglages_;
     /// Kept here too: a dump begun meanwhile gives the program another name.
     QString nom_;
     std::optional<PaireEnregistrement> fichiers_;

@@ -20,11 +20,14 @@ void Avancement::Ouvrir() {
     ecran_.ui->Infos->show();
 }
 
+void Avancement::Relire() {
+    maximumBarre_ = ArrondiPair(ecran_.ui->ProgressBar2->Maximum());
+}
+
 void Avancement::Compter(std::int32_t Compteur) {
-    const double maximum = ArrondiPair(ecran_.ui->ProgressBar2->Maximum());
-    if (Compteur > maximum) return;
+    if (Compteur > maximumBarre_) return;
     compteur_ = Compteur;
-    maximum_ = maximum;
+    maximum_ = maximumBarre_;
     texteNote_ = true;
 }
 

@@ -18,6 +18,8 @@ class Avancement {
     void Ouvrir();
     /// Notes one more round. The bar stops one step short of its end.
     void Avancer() { ++pas_; }
+    /// Takes the maximum of the bar as it is now: due at the start and whenever the interface ran.
+    void Relire();
     /// Notes the number of measures, unless it is beyond the rounded maximum of the bar.
     void Compter(std::int32_t Compteur);
     /// Brings the bar and the text up to what was noted.
@@ -32,6 +34,7 @@ class Avancement {
     std::int64_t pas_ = 0;
     std::int32_t compteur_ = 0;
     double maximum_ = 0;
+    double maximumBarre_ = 0;
     bool texteNote_ = false;
 };
 

@@ -5,13 +5,13 @@
 
 #include "link/memory_access.h"
 #include "logger/parameter_reading.h"
-#include "logger/pressure_scale.h"
 #include "platform/code_page.h"
 #include "platform/dates.h"
 #include "platform/fault.h"
 #include "platform/numbers.h"
 #include "platform/text_file.h"
 #include "retrieval/download_progress.h"
+#include "retrieval/pressure_settings.h"
 #include "shell/product_box.h"
 #include "ui_main_screen.h"
 #include "widgets/pointer_shape.h"
@@ -31,6 +31,7 @@ class DumpFlash {
     DumpFlash(MainScreen& ecran, const QString& nom)
         : ecran_(ecran),
           avancement_(ecran),
+          reglages_(LireReglagesPression(ecran)),
           nom_(nom),
           // Each cell costs an exchange over a link of its own: its line can go out at once.
           fichier_(ecran.systeme.Chemin(nom), ModeEcriture::Remplacer,
@@ -70,16 +71,22 @@ class DumpFlash {
         Respiration& respiration = ecran_.systeme.respiration;
         if (!respiration.EstDue()) return;
         avancement_.Montrer();
-        respiration.Ceder();
+        if (respiration.Ceder()) RelireFiche();
     }
+
+    /// What the operator can change while the interface runs counts from the next cell on.
+    void RelireFiche() { reglages_ = LireReglagesPression(ecran_); }
 
     /// Each statement keeps what it had where it fails: the line of a cell that cannot be read is
     /// the one of the last good cell.
     void LireCellule(Poste& poste, int page, int offset) {
+        const bool muet = ecran_.etat.TimeOut;
         ignorer([&] { octets_ = Memoire_Flash(poste, true, page, offset); });
+        // The box of a logger that has fallen silent let the interface run.
+        if (!muet && ecran_.etat.TimeOut) RelireFiche();
         if (octets_.size() == longueurCellule)
             DecoderEnregistrement(std::span(octets_).first<longueurCellule>(), cellule_);
-        ignorer([&] { pression_ = Donne_Pression(ecran_, cellule_.points, true, false); });
+        ignorer([&] { pression_ = PressionCorrigee(cellule_.points, reglages_, false); });
         Garder([&] {
             fichier_.EcrireLigneOctets(LigneDump(cellule_, pression_, ecran_.systeme.regional));
         });
@@ -98,6 +105,7 @@ class DumpFlash {
 
     MainScreen& ecran_;
     Avancement avancement_;
+    ReglagesPression reglages_;
     /// Kept here: a download begun meanwhile gives the program another name.
     QString nom_;
     FichierTexteEcrit fichier_;

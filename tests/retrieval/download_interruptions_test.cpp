@@ -6,6 +6,7 @@
 #include <QSignalBlocker>
 
 #include "logger/parameter_reading.h"
+#include "logger/pressure_scale.h"
 #include "retrieval/retrieval_fixture.h"
 #include "widgets/pointer_shape.h"
 
@@ -130,6 +131,33 @@ TEST(DownloadDisturbed, AUnitChosenMeanwhileCountsFromTheNextLineOn) {
     EXPECT_EQ(Clair(lignes[10].split(';').at(3)), "140.625");
     // The header keeps the unit of the start.
     EXPECT_EQ(Clair(lignes[0] + '\n'), Clair(entete));
+}
+
+TEST(DownloadDisturbed, AScaleChosenMeanwhileCountsFromTheNextLineOn) {
+    BancLong banc;
+    const double avant = banc.ecran.etat.Maxi;
+    banc.AuTour(10, [&] { banc.ui.ListeEchelles->Choisir(2); });
+    banc.Cliquer();
+    ASSERT_NE(banc.ecran.etat.Maxi, avant);
+    const QList<QByteArray> lignes = banc.Mesures().split('\n');
+    EXPECT_EQ(Clair(lignes[9].split(';').at(3)), "0.125");
+    const double pression = Donne_Pression(banc.ecran, 9, true, false);
+    EXPECT_EQ(lignes[10].split(';').at(3).toDouble(), pression);
+    EXPECT_NE(pression, 0.141);
+}
+
+TEST(DownloadDisturbed, AbsolutePressureTickedMeanwhileCountsFromTheNextLineOn) {
+    BancLecture banc;
+    for (std::uint32_t i = 0; i < 10; ++i)
+        banc.Stocker({simulateur::PariteCassee(MesurePeriodique(t0 + i, 512), 3)});
+    banc.AuTour(5, [&] {
+        const QSignalBlocker sansRegles(banc.ui.PressionAbsolue);
+        banc.ui.PressionAbsolue->setChecked(true);
+    });
+    banc.Cliquer();
+    const QList<QByteArray> lignes = banc.Rejets().split('\n');
+    EXPECT_EQ(Clair(lignes[4].split(';').at(3)), "8");
+    EXPECT_EQ(Clair(lignes[5].split(';').at(3)), "6.976");
 }
 
 TEST(DownloadDisturbed, ReadingTheParametersMeanwhileTakesTheLinkAwayAndNothingIsLost) {

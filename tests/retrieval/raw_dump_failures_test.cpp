@@ -306,6 +306,21 @@ TEST(RawDumpDisturbed, AUnitChosenMeanwhileCountsFromTheNextCellOn) {
     EXPECT_EQ(banc.Lignes()[10], Ligne(t0 + 9, 9, "140.625"));
 }
 
+TEST(RawDumpDisturbed, AUnitChosenWhileTheBoxOfTheAbsentLoggerStandsCountsFromThatCellOn) {
+    BancDump banc;
+    banc.PanneCellule(GenrePanne::silence, 11);
+    banc.etabli.dialogues.pendantBoite = [&](const auto& boite) {
+        if (boite.icone == Icone::Aucune)
+            banc.ui.ListeUnites->Choisir(banc.ui.ListeUnites->findText(QStringLiteral("mbar")));
+    };
+    // From there on the interface runs no more.
+    banc.AuTour(11, [&] { banc.etabli.respiration.ReglerPas(std::chrono::hours(1)); });
+    banc.Lire();
+    EXPECT_EQ(banc.tours, 11);
+    EXPECT_EQ(banc.Lignes()[10], BancDump::Attendue(10));
+    EXPECT_EQ(banc.Lignes()[11], Ligne(t0 + 9, 9, "140.625"));
+}
+
 TEST(RawDumpDisturbed, APressureThatCannotBeComputedKeepsTheLastOne) {
     BancDump banc;
     banc.AuTour(10, [&] {
