@@ -7,6 +7,7 @@
 #include "logger/parameter_reading.h"
 #include "platform/fault.h"
 #include "products/firmware_versions.h"
+#include "recording/comment_file.h"
 #include "shell/product_box.h"
 #include "ui_main_screen.h"
 #include "widgets/pointer_shape.h"
@@ -61,7 +62,7 @@ class Telechargement::Occupation {
 void Telechargement::Executer() {
     const Etat etat = Transferer();
     if (etat == Etat::NonCommence) return;
-    if (!echec_.isEmpty() && etat != Etat::Fermeture) DireEchec();
+    if (echec_.Texte() && etat != Etat::Fermeture) DireEchec(*echec_.Texte());
     if (etat == Etat::FinNormale)
         TerminerNormalement();
     else
@@ -96,6 +97,7 @@ void Telechargement::AnnoncerLecture() {
     ecran_.configuration.LitConfig(QStringLiteral("unite_impulsion"));
     ecran_.etat.EnLecture = true;
     ecran_.ui->LireValeurs->setText(ecran_.Texte(QStringLiteral("Annuler Lecture")));
+    // By hand, without a guard: a fault on the way to the files leaves pointer and caption so.
     pointeurSauve_ = PointeurSouris(ecran_);
     FixerPointeurSouris(ecran_, pointeur::fleche);
 }
@@ -169,7 +171,7 @@ Telechargement::Etat Telechargement::Exploiter(const Octets& reponse) {
     // that is here already is not looked at any more.
     if (!ecran_.etat.TimeOut && reponse[0] == CMD_LIT_MESURES)
         decodeur_.Decoder(std::span<const int, 10>(reponse.data(), longueurMesure), *this);
-    if (!echec_.isEmpty()) return Etat::EcritureImpossible;
+    if (echec_.EstSurvenu()) return Etat::EcritureImpossible;
     return decodeur_.Fin() || !ecran_.etat.EnLecture ? Etat::FinNormale : Etat::EnCours;
 }
 
@@ -180,14 +182,10 @@ void Telechargement::Compter(std::int32_t Compteur) {
 /// A line that cannot be built is skipped like every fault of the decoding; one that cannot be
 /// written ends the transfer: the logger still holds everything.
 void Telechargement::Mesurer(const MesureDatee& mesure) {
-    if (!echec_.isEmpty()) return;
+    if (echec_.EstSurvenu()) return;
     QByteArrayView ligne;
     if (!ignorer([&] { ligne = Ligne(mesure); })) return;
-    try {
-        fichiers_->Ecrire(mesure.parite_ok, ligne);
-    } catch (const FauteExecution& faute) {
-        echec_ = faute.texte();
-    }
+    echec_.Garder([&] { fichiers_->Ecrire(mesure.parite_ok, ligne); });
 }
 
 /// Only a periodic measure that failed the parity control gets the absolute correction: recordings
@@ -212,17 +210,10 @@ Telechargement::Etat Telechargement::Cloturer(Etat etat) {
 
 /// Closes both files, the second one whatever the first one gave. False when lines were lost.
 bool Telechargement::FermerFichiers(bool complets) {
-    const auto fermer = [this](auto&& fermeture) {
-        try {
-            fermeture();
-        } catch (const FauteExecution& faute) {
-            if (echec_.isEmpty()) echec_ = faute.texte();
-        }
-    };
-    fermer([this] { fichiers_->FermerMesures(); });
-    fermer([&] { fichiers_->FermerRejets(complets); });
+    echec_.Garder([this] { fichiers_->FermerMesures(); });
+    echec_.Garder([&] { fichiers_->FermerRejets(complets); });
     fichiers_.reset();
-    return echec_.isEmpty();
+    return !echec_.EstSurvenu();
 }
 
 void Telechargement::TerminerNormalement() {
@@ -235,8 +226,7 @@ void Telechargement::TerminerNormalement() {
     try {
         suite_.commenter(commentaires, fichier);
     } catch (const FauteExecution& faute) {
-        echec_ = nom_ + QStringLiteral(".cmt : ") + faute.texte();
-        DireEchec();
+        DireEchec(NomCommentaires(nom_) + QStringLiteral(" : ") + faute.texte());
     }
     avancement_.Conclure();
     ignorer([&] {
@@ -253,8 +243,8 @@ void Telechargement::TerminerSansSuite() {
     poste_.lien.FermeUSB();
 }
 
-void Telechargement::DireEchec() {
-    MontrerTexte(ecran_, Icone::Critique, echec_);
+void Telechargement::DireEchec(const QString& texte) {
+    MontrerTexte(ecran_, Icone::Critique, texte);
 }
 
 /// Pointer and caption as they are when nothing is read.

@@ -9,6 +9,7 @@
 #include "retrieval/download_progress.h"
 #include "retrieval/measure_group.h"
 #include "retrieval/pressure_settings.h"
+#include "retrieval/write_failure.h"
 
 namespace bornika {
 
@@ -86,7 +87,7 @@ class Telechargement : private SortieMesures {
     bool FermerFichiers(bool complets);
     void TerminerNormalement();
     void TerminerSansSuite();
-    void DireEchec();
+    void DireEchec(const QString& texte);
     void RendreBouton(const QString& cle);
 
     static inline int transferts_ = 0;
@@ -104,8 +105,8 @@ class Telechargement : private SortieMesures {
     bool premier_ = true;
     int nbEchecs_ = 0;
     int pointeurSauve_ = 0;
-    /// File and reason of the first write that failed, empty as long as all is well.
-    QString echec_;
+    /// Of the two files: a transfer can end for another reason and lose lines besides.
+    EchecEcriture echec_;
 };
 
 }  // namespace bornika

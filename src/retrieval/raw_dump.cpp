@@ -7,11 +7,12 @@
 #include "logger/parameter_reading.h"
 #include "platform/code_page.h"
 #include "platform/dates.h"
-#include "platform/fault.h"
+#include "platform/named_fault.h"
 #include "platform/numbers.h"
 #include "platform/text_file.h"
 #include "retrieval/download_progress.h"
 #include "retrieval/pressure_settings.h"
+#include "retrieval/write_failure.h"
 #include "shell/product_box.h"
 #include "ui_main_screen.h"
 #include "widgets/pointer_shape.h"
@@ -49,15 +50,14 @@ class DumpFlash {
     }
 
     void Annoncer() {
-        const QString texte =
-            echec_.isEmpty() ? ecran_.Texte(QStringLiteral("Valeurs stockées dans le fichier")) +
-                                   QLatin1Char(' ') + nom_
-                             : echec_;
-        MontrerTexte(ecran_, echec_.isEmpty() ? Icone::Information : Icone::Critique, texte);
+        if (echec_.Texte()) return MontrerTexte(ecran_, Icone::Critique, *echec_.Texte());
+        MontrerTexte(ecran_, Icone::Information,
+                     ecran_.Texte(QStringLiteral("Valeurs stockées dans le fichier")) +
+                         QLatin1Char(' ') + nom_);
     }
 
   private:
-    bool Fini() const { return ecran_.etat.EnFermeture || !echec_.isEmpty(); }
+    bool Fini() const { return ecran_.etat.EnFermeture || echec_.EstSurvenu(); }
 
     void LirePage(Poste& poste, int page) {
         for (int offset = 0; offset < finDePage; offset += longueurCellule) {
@@ -93,14 +93,10 @@ class DumpFlash {
         avancement_.Avancer();
     }
 
-    /// The first failure of the file counts: the logger still holds what could not be written.
+    /// One statement that works on the file.
     template <class Instruction>
     void Garder(Instruction&& instruction) {
-        try {
-            instruction();
-        } catch (const FauteExecution& faute) {
-            if (echec_.isEmpty()) echec_ = nom_ + QStringLiteral(" : ") + faute.texte();
-        }
+        echec_.Garder([&] { nommer(nom_, instruction); });
     }
 
     MainScreen& ecran_;
@@ -112,7 +108,7 @@ class DumpFlash {
     Octets octets_;
     Enregistrement cellule_;
     double pression_ = 0;
-    QString echec_;
+    EchecEcriture echec_;
 };
 
 void OuvrirBarre(MainScreen& ecran, int PageDebut, int PageFin) {
@@ -144,6 +140,7 @@ QByteArray LigneDump(const Enregistrement& cellule, double pression, const Regio
 void LectureValeursPage(Poste& poste, int PageDebut, int PageFin) {
     MainScreen& ecran = poste.ecran;
     const auto& ui = ecran.ui;
+    // By hand, without guards: a file that cannot be made leaves pointer and button so.
     const int pointeurSauve = PointeurSouris(ecran);
     FixerPointeurSouris(ecran, pointeur::fleche);
     ui->LireValeursPage->setEnabled(false);

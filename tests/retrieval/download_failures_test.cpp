@@ -243,6 +243,8 @@ TEST(Download, AFileThatCannotBeCreatedIsTheGeneralFailure) {
     ASSERT_TRUE(QDir(banc.etabli.dossier.path()).mkdir(banc.nom + QStringLiteral(".txt")));
     banc.Cliquer();
     ASSERT_EQ(banc.etabli.fautes.size(), 1U);
+    EXPECT_EQ(PointeurSouris(banc.ecran), pointeur::fleche);
+    EXPECT_EQ(banc.Bouton(), Clair(banc.ecran.Texte(QStringLiteral("Annuler Lecture"))));
     EXPECT_EQ(banc.tours, 0);
     EXPECT_TRUE(banc.montres.empty());
 }

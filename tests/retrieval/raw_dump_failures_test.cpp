@@ -230,6 +230,8 @@ TEST(RawDumpFailing, AFileThatCannotBeMadeIsAFault) {
     ASSERT_TRUE(QDir(banc.etabli.dossier.path()).mkdir(banc.fichier));
     banc.Lire();
     EXPECT_EQ(banc.etabli.fautes, std::vector<int>{numero_faute::accesRefuse});
+    EXPECT_EQ(PointeurSouris(banc.ecran), pointeur::fleche);
+    EXPECT_FALSE(banc.ui.LireValeursPage->isEnabled());
     EXPECT_EQ(banc.Demandees(), 0);
     EXPECT_EQ(banc.PoigneesOuvertes(), 0);
 }
