@@ -32,22 +32,23 @@ constexpr std::array<std::int64_t, chiffresExacts + 1> puissances = [] {
 }();
 
 /// digits / 10^decimals is the correctly rounded number, as both are exact.
-double Quotient(std::int64_t chiffres, std::ptrdiff_t decimales) {
+double QuotientDecimal(std::int64_t chiffres, std::ptrdiff_t decimales) {
     if (decimales == 0) return static_cast<double>(chiffres);
     return static_cast<double>(chiffres) /
            static_cast<double>(puissances[static_cast<std::size_t>(decimales)]);
 }
 
-double Arrondir(std::int64_t chiffres, std::ptrdiff_t decimales) {
+double ArrondirCinqDecimales(std::int64_t chiffres, std::ptrdiff_t decimales) {
     const std::int64_t diviseur =
         puissances[static_cast<std::size_t>(decimales - decimalesAffichees)];
     const std::int64_t reste = chiffres % diviseur;
-    return Quotient(chiffres / diviseur + (2 * reste >= diviseur ? 1 : 0), decimalesAffichees);
+    return QuotientDecimal(chiffres / diviseur + (2 * reste >= diviseur ? 1 : 0),
+                           decimalesAffichees);
 }
 
 /// The next eight characters as one number, if all are digits: the time stamps of a long recording
 /// are its longest numbers. Eight bytes of one word are handled at a time.
-bool LireHuit(const char* place, std::uint64_t& nombre) {
+bool LireHuitChiffres(const char* place, std::uint64_t& nombre) {
     if constexpr (std::endian::native != std::endian::little) return false;
     std::uint64_t mot = 0;
     std::memcpy(&mot, place, sizeof mot);
@@ -72,8 +73,8 @@ void LireChiffres(const char*& place, const char* fin, std::uint64_t& chiffres) 
 
 /// Reads blanks, a minus, at most fifteen digits with at most one separator, blanks, up to the end
 /// of the field. False for anything else, which need not be wrong; `place` then stays.
-bool LireSimple(const char*& place, const char* fin, char separateur, char autre,
-                NombreLu& nombre) {
+bool LireNombreSimple(const char*& place, const char* fin, char separateur, char autre,
+                      NombreLu& nombre) {
     const char* ici = place;
     while (ici != fin && *ici == ' ')
         ++ici;
@@ -81,7 +82,7 @@ bool LireSimple(const char*& place, const char* fin, char separateur, char autre
     if (negatif) ++ici;
     std::uint64_t sansSigne = 0;
     const char* const debut = ici;
-    if (fin - ici >= 8 && LireHuit(ici, sansSigne)) ici += 8;
+    if (fin - ici >= 8 && LireHuitChiffres(ici, sansSigne)) ici += 8;
     LireChiffres(ici, fin, sansSigne);
     std::ptrdiff_t nombreChiffres = ici - debut;
     std::ptrdiff_t decimales = 0;
@@ -99,15 +100,16 @@ bool LireSimple(const char*& place, const char* fin, char separateur, char autre
     const auto chiffres = static_cast<std::int64_t>(sansSigne);
     const double signe = negatif ? -1 : 1;
     nombre.numerique = true;
-    nombre.valeur = signe * Quotient(chiffres, decimales) + 0.0;
-    nombre.arrondie = decimales <= decimalesAffichees ? nombre.valeur
-                                                      : signe * Arrondir(chiffres, decimales) + 0.0;
+    nombre.valeur = signe * QuotientDecimal(chiffres, decimales) + 0.0;
+    nombre.arrondie = decimales <= decimalesAffichees
+                          ? nombre.valeur
+                          : signe * ArrondirCinqDecimales(chiffres, decimales) + 0.0;
     place = ici;
     return true;
 }
 
 /// The field as it stands.
-QByteArrayView Champ(const char*& place, const char* fin) {
+QByteArrayView TexteDuChamp(const char*& place, const char* fin) {
     const char* const debut = place;
     while (place != fin && *place != finChamp)
         ++place;
@@ -140,16 +142,17 @@ NombreLu LecteurNombres::LireLentement(const QString& texte) const {
 
 NombreLu LecteurNombres::LireTemps(const char*& place, const char* fin) const {
     NombreLu nombre;
-    if (LireSimple(place, fin, separateur_, separateur_, nombre)) return nombre;
-    const QString texte = Depuis8Bits(Champ(place, fin));
+    if (LireNombreSimple(place, fin, separateur_, separateur_, nombre)) return nombre;
+    const QString texte = Depuis8Bits(TexteDuChamp(place, fin));
     nombre.numerique = ignorer([&] { nombre.valeur = EnDouble(texte, regional_); });
     return nombre;
 }
 
 NombreLu LecteurNombres::LireValeur(const char*& place, const char* fin) const {
     NombreLu nombre;
-    if (separateur_ != aucun && LireSimple(place, fin, separateur_, autre_, nombre)) return nombre;
-    const QByteArrayView champ = Champ(place, fin);
+    if (separateur_ != aucun && LireNombreSimple(place, fin, separateur_, autre_, nombre))
+        return nombre;
+    const QByteArrayView champ = TexteDuChamp(place, fin);
     if (separateur_ == aucun || champ.isEmpty()) return nombre;
     QString texte = TraiteSeparateur(Depuis8Bits(champ), regional_);
     return LireLentement(texte.replace(QLatin1String("--"), QLatin1String("-")));

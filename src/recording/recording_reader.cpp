@@ -16,7 +16,7 @@ void PasserChamp(const char*& place, const char* fin) {
 }
 
 /// Goes from the end of a field to the start of the next; false at the end of the line.
-bool Suivre(const char*& place, const char* fin) {
+bool PasserAuChampSuivant(const char*& place, const char* fin) {
     if (place == fin) return false;
     ++place;
     return true;
@@ -70,19 +70,19 @@ bool LecteurEnregistrement::Decouper(QByteArrayView octets, LigneMesure& ligne) 
     const char* place = octets.data();
     const char* const fin = place + octets.size();
     ligne.temps = nombres_.LireTemps(place, fin);
-    if (!Suivre(place, fin)) return false;
+    if (!PasserAuChampSuivant(place, fin)) return false;
     const char* const debutEtiquette = place;
     const void* finEtiquette = std::memchr(place, finChamp, static_cast<std::size_t>(fin - place));
     if (!finEtiquette) return false;
     place = static_cast<const char*>(finEtiquette);
     ligne.etiquette = {debutEtiquette, place};
-    Suivre(place, fin);
+    PasserAuChampSuivant(place, fin);
     PasserChamp(place, fin);
-    if (!Suivre(place, fin)) return false;
+    if (!PasserAuChampSuivant(place, fin)) return false;
     ligne.pression = nombres_.LireValeur(place, fin);
-    if (!Suivre(place, fin)) return false;
+    if (!PasserAuChampSuivant(place, fin)) return false;
     PasserChamp(place, fin);
-    if (!Suivre(place, fin)) return false;
+    if (!PasserAuChampSuivant(place, fin)) return false;
     ligne.comptage = nombres_.LireValeur(place, fin);
     ligne.debit = place != fin;
     return true;

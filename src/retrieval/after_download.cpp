@@ -18,7 +18,7 @@ struct CommentairesPoses {
     QPointer<Trace> fiche;
 };
 
-void Poser(CommentairesPoses& poses, Trace& trace) {
+void PoserCommentaires(CommentairesPoses& poses, Trace& trace) {
     if (poses.fiche == &trace) return;
     poses.fiche = &trace;
     trace.ui->Commentaires->setPlainText(poses.texte);
@@ -32,13 +32,13 @@ SuiteTelechargement SuiteDansTrace(AccesTrace& acces) {
                 [&acces, poses](const QString& commentaires, const QString& fichier) {
                     *poses = {commentaires, {}};
                     Trace& trace = acces.Fiche();
-                    Poser(*poses, trace);
+                    PoserCommentaires(*poses, trace);
                     EnregistrerCommentaires(trace, fichier);
                 },
             .montrer =
                 [&acces, poses](const QString& fichier) {
                     Trace& trace = acces.Fiche();
-                    Poser(*poses, trace);
+                    PoserCommentaires(*poses, trace);
                     trace.show();
                     trace.NomDialogue = fichier;
                     chart_Init(trace);

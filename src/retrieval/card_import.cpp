@@ -40,7 +40,7 @@ QString DemanderFichiers(MainScreen& ecran) {
     return ecran.systeme.dialogues.Ouvrir(demande).value_or(demande.nom);
 }
 
-void Copier(QFile& source, FichierPrepare& cible, const QString& nomCible) {
+void CopierSource(QFile& source, FichierPrepare& cible, const QString& nomCible) {
     for (;;) {
         const QByteArray morceau = source.read(tailleMorceau);
         if (source.error() != QFileDevice::NoError)
@@ -57,7 +57,7 @@ void OuvrirSource(QFile& source) {
     nommer(QFileInfo(source).fileName(), [&] { LeverFaute(numero); });
 }
 
-void Montrer(AccesTrace& acces, const QString& fichier) {
+void MontrerEnregistrement(AccesTrace& acces, const QString& fichier) {
     Trace& trace = acces.Fiche();
     trace.show();
     trace.NomDialogue = fichier;
@@ -98,7 +98,7 @@ void JoindreFichiers(const QStringList& sources, const QString& cible) {
     for (const QString& chemin : sources) {
         QFile source(chemin);
         OuvrirSource(source);
-        Copier(source, *prepare, nomCible);
+        CopierSource(source, *prepare, nomCible);
     }
     nommer(nomCible, [&] { prepare->MettreEnPlace(); });
 }
@@ -119,7 +119,7 @@ void LireSD(Poste& poste, AccesTrace& acces) {
     ecran.setWindowTitle(choix.section(separateur, 0, 0));
     MontrerTexte(ecran, Icone::Information,
                  ecran.textes.TexteValeursStockees + QLatin1Char(' ') + fichier);
-    if (!ecran.etat.EnFermeture) Montrer(acces, fichier);
+    if (!ecran.etat.EnFermeture) MontrerEnregistrement(acces, fichier);
 }
 
 }  // namespace bornika

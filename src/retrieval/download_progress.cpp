@@ -7,7 +7,7 @@ namespace bornika {
 
 namespace {
 
-QString Avance(double valeur, double maximum) {
+QString TexteAvance(double valeur, double maximum) {
     return QString::number(valeur, 'f', 0) + QLatin1Char('/') + QString::number(maximum, 'f', 0);
 }
 
@@ -39,7 +39,7 @@ void Avancement::Montrer() {
         valeur += 1;
     pas_ = 0;
     if (valeur != avant) barre.FixerValeur(valeur);
-    if (texteNote_) ecran_.ui->Infos->setText(Avance(compteur_, maximum_));
+    if (texteNote_) ecran_.ui->Infos->setText(TexteAvance(compteur_, maximum_));
     texteNote_ = false;
 }
 
@@ -50,7 +50,8 @@ void Avancement::Fermer() {
 
 void Avancement::Conclure() {
     const BarreProgression& barre = *ecran_.ui->ProgressBar2;
-    ecran_.ui->Infos->setText(Avance(ArrondiPair(barre.Valeur()), ArrondiPair(barre.Maximum())));
+    ecran_.ui->Infos->setText(
+        TexteAvance(ArrondiPair(barre.Valeur()), ArrondiPair(barre.Maximum())));
 }
 
 }  // namespace bornika

@@ -8,8 +8,8 @@
 namespace bornika {
 
 void AvisFirmware::EnCours(const QString& fichier) {
-    Montrer(ecran_.Texte(QStringLiteral("nmuBootLoad")) + QStringLiteral(" : ") +
-            QFileInfo(fichier).fileName());
+    MontrerLigne(ecran_.Texte(QStringLiteral("nmuBootLoad")) + QStringLiteral(" : ") +
+                 QFileInfo(fichier).fileName());
 }
 
 void AvisFirmware::Fini() {
@@ -17,15 +17,15 @@ void AvisFirmware::Fini() {
 }
 
 void AvisFirmware::SansOutil(const QString& programme) {
-    Montrer(ecran_.Texte(QStringLiteral("FirmwareSansOutil")) + QLatin1Char(' ') + programme);
+    MontrerLigne(ecran_.Texte(QStringLiteral("FirmwareSansOutil")) + QLatin1Char(' ') + programme);
 }
 
 void AvisFirmware::NumeroNonRendu(const QString& numeroSerie) {
-    Montrer(ecran_.Texte(QStringLiteral("FirmwareNumeroNonRendu")) + QLatin1Char(' ') +
-            numeroSerie);
+    MontrerLigne(ecran_.Texte(QStringLiteral("FirmwareNumeroNonRendu")) + QLatin1Char(' ') +
+                 numeroSerie);
 }
 
-void AvisFirmware::Montrer(const QString& texte) {
+void AvisFirmware::MontrerLigne(const QString& texte) {
     texte_ = texte;
     ecran_.ui->Infos->setText(texte);
     ecran_.ui->Infos->show();

@@ -22,7 +22,7 @@ class AvisFirmware {
     void NumeroNonRendu(const QString& numeroSerie);
 
   private:
-    void Montrer(const QString& texte);
+    void MontrerLigne(const QString& texte);
 
     MainScreen& ecran_;
     QString texte_;

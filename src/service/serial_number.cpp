@@ -18,12 +18,12 @@ constexpr double plusGrandNumero = 2147483647.0;
 constexpr std::size_t octetsResets = 6;
 constexpr int adresseResets = 7;
 
-void Prevenir(Poste& poste, const char* texte) {
+void DireRefusNumero(Poste& poste, const char* texte) {
     MontrerTexte(poste.ecran, Icone::Aucune, QString::fromUtf8(texte));
 }
 
 /// One command in a conversation of its own; what its answer holds does not count.
-void Envoyer(Poste& poste, const Octets& trame, int combien) {
+void EnvoyerCommande(Poste& poste, const Octets& trame, int combien) {
     poste.lien.OuvreUSB(poste.ecran.etat.UsbID);
     EchangeDirect(poste, trame, longueurTrame, combien);
     poste.lien.FermeUSB();
@@ -47,18 +47,19 @@ void ProgNumeroSerie_Click(Poste& poste) {
     const Regional& regional = poste.ecran.systeme.regional;
     const QString saisie = poste.ecran.ui->ValeurNumeroSerie->text();
     // Neither text is in the catalogue: they are the same in every language.
-    if (!EstNumerique(saisie, regional)) return Prevenir(poste, "Le n° de série n'est pas valide");
+    if (!EstNumerique(saisie, regional))
+        return DireRefusNumero(poste, "Le n° de série n'est pas valide");
     const double valeur = EnDouble(saisie, regional);
     if (valeur > plusGrandNumero)
-        return Prevenir(poste, "Le n° de série est trop grand (> 32 bits)");
-    Envoyer(poste, TrameEcritNumeroSerie(EnEntier32(valeur)), longueurTrame);
+        return DireRefusNumero(poste, "Le n° de série est trop grand (> 32 bits)");
+    EnvoyerCommande(poste, TrameEcritNumeroSerie(EnEntier32(valeur)), longueurTrame);
 }
 
 void RAZNumeroSerie_Click(Poste& poste) {
     const Reponse reponse = MontrerBoite(poste.ecran, Icone::Critique, Boutons::OkAnnuler,
                                          QStringLiteral("Attention, le datalogger sera inhibé !"));
     if (reponse != Reponse::Ok) return;
-    Envoyer(poste, TrameRaz(), 1);
+    EnvoyerCommande(poste, TrameRaz(), 1);
 }
 
 void Command2_Click(Poste& poste) {
