@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QList>
+
 #include "platform/fault.h"
 
 namespace bornika::essai {
