@@ -63,7 +63,7 @@ const std::vector<Reserve> reserves = {
     {{"QFile", "QSaveFile", "QTemporaryFile", "fstream"},
      {"QFile", "QSaveFile", "QTemporaryFile", "fstream", "ifstream", "ofstream", "fopen"},
      {"src/platform/", "src/recording/", "src/chart/model/trace_loader.cpp",
-      "src/viewer/comments.cpp", "simulator/card_files.cpp"},
+      "simulator/card_files.cpp"},
      true}};
 
 bool CommenceParUn(const std::string& chemin, const std::vector<std::string>& debuts) {

@@ -5,6 +5,7 @@
 #include <QClipboard>
 #include <QMenu>
 
+#include "chart/model/chart_cursor.h"
 #include "chart/view/chart_picture.h"
 #include "viewer/paper_reader.h"
 #include "viewer/viewer_fixture.h"
