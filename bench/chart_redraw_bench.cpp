@@ -9,7 +9,7 @@
 #include <cstdlib>
 #include <vector>
 
-#include "chart/view/chart_view.h"
+#include "chart/view/chart_plot.h"
 #include "chart_sample.h"
 
 namespace {
@@ -47,7 +47,7 @@ double Redessiner(std::vector<double>& durees, QCustomPlot& dessin) {
 void Redessin(benchmark::State& etat, double part) {
     ModeleGraphe modele;
     Remplir(modele);
-    VueGraphe vue;
+    DessinGraphe vue;
     vue.Lier(modele);
     vue.resize(taille);
     vue.show();

@@ -11,7 +11,7 @@
 #include <cstdlib>
 #include <functional>
 
-#include "chart/view/chart_view.h"
+#include "chart/view/chart_plot.h"
 #include "chart/view/chart_view_marks.h"
 #include "chart_sample.h"
 
@@ -44,7 +44,7 @@ struct Fenetre : QObject {
     }
 
     ModeleGraphe modele;
-    VueGraphe vue;
+    DessinGraphe vue;
     int peintures = 0;
 };
 

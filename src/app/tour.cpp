@@ -162,7 +162,8 @@ class Technicien : public QObject {
         QWidget& vue = *trace.ui->TChart1;
         const QPoint depart(vue.width() / 3, vue.height() / 4);
         const QPoint arrivee(vue.width() / 2, vue.height() * 3 / 4);
-        Glisser(vue, depart, arrivee);
+        // Into what lies there, as a hand does.
+        Glisser(*vue.childAt(depart), depart, arrivee);
     }
 
     void ZoomerCourbe() {

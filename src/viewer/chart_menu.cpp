@@ -7,7 +7,6 @@
 
 #include "chart/model/chart_cursor.h"
 #include "chart/view/chart_picture.h"
-#include "chart/view/chart_view_keys.h"
 #include "platform/atomic_file.h"
 #include "platform/named_fault.h"
 #include "recording/recording_path.h"
@@ -64,23 +63,23 @@ void MontrerMenuGraphe(Trace& trace, QPoint place) {
 }
 
 void Agrandir_Click(Trace& trace) {
-    PresserTouche(*trace.ui->TChart1, Qt::Key_Plus);
+    trace.ui->TChart1->PresserTouche(Qt::Key_Plus);
 }
 
 void Reduire_Click(Trace& trace) {
-    PresserTouche(*trace.ui->TChart1, Qt::Key_Minus);
+    trace.ui->TChart1->PresserTouche(Qt::Key_Minus);
 }
 
 void VueEntiere_Click(Trace& trace) {
-    PresserTouche(*trace.ui->TChart1, Qt::Key_0);
+    trace.ui->TChart1->PresserTouche(Qt::Key_0);
 }
 
 void PointPrecedent_Click(Trace& trace) {
-    PresserTouche(*trace.ui->TChart1, Qt::Key_Left, Qt::ControlModifier);
+    trace.ui->TChart1->PresserTouche(Qt::Key_Left, Qt::ControlModifier);
 }
 
 void PointSuivant_Click(Trace& trace) {
-    PresserTouche(*trace.ui->TChart1, Qt::Key_Right, Qt::ControlModifier);
+    trace.ui->TChart1->PresserTouche(Qt::Key_Right, Qt::ControlModifier);
 }
 
 void CopierImage_Click(Trace& trace) {

@@ -54,8 +54,7 @@ void Trace::LierGraphe() {
 
 void Trace::Charger() {
     NomFichierCourant.clear();
-    ui->TChart1->animation.animee = true;
-    ui->TChart1->animation.pas = pasAnimation;
+    ui->TChart1->FixerAnimation({.animee = true, .pas = pasAnimation});
     ui->TChart1->hide();
     ui->ProgressBar->hide();
     TraduireControles(*this);

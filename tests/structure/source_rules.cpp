@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <map>
 #include <set>
+#include <utility>
 
 namespace bornika::essai {
 
@@ -56,6 +57,8 @@ const std::vector<Reserve> reserves = {
      {"src/widgets/print_preview"}},
     {{"unistd.h", "fcntl.h", "sys/", "spawn.h", "dlfcn.h"}, {}, {"src/platform/"}}};
 
+const Reserve& reserveGraphe = reserves.front();
+
 bool CommenceParUn(const std::string& chemin, const std::vector<std::string>& debuts) {
     return std::any_of(debuts.begin(), debuts.end(),
                        [&](const std::string& debut) { return chemin.starts_with(debut); });
@@ -68,6 +71,24 @@ bool Nomme(const Reserve& reserve, const std::vector<std::string>& inclus, const
                [&](const std::string& nom) { return CommenceParUn(nom, reserve.inclus); }) ||
            std::any_of(reserve.mots.begin(), reserve.mots.end(),
                        [&](const std::string& mot) { return Contient(nu, mot, true); });
+}
+
+// File → the one at the end of its includes that names the chart library.
+std::map<std::string, std::string> PorteursDuGraphe(const Sources& sources) {
+    std::map<std::string, std::vector<std::string>> suivants;
+    std::map<std::string, std::string> porteurs;
+    for (const auto& [chemin, texte] : sources) {
+        suivants[chemin] = Inclusions(sources, chemin);
+        for (const std::string& nom : NomsInclus(texte))
+            if (nom == reserveGraphe.inclus.front()) porteurs[chemin] = chemin;
+    }
+    for (bool change = true; std::exchange(change, false);)
+        for (const auto& [chemin, inclus] : suivants)
+            for (const std::string& suivant : inclus)
+                if (porteurs.contains(suivant) &&
+                    porteurs.try_emplace(chemin, porteurs.at(suivant)).second)
+                    change = true;
+    return porteurs;
 }
 
 // Walks the includes from one file; `chemin_` is the way from the start to where it stands.
@@ -138,6 +159,14 @@ Manquements BibliothequesHorsDeLeurPlace(const Sources& sources) {
                 manquements.push_back(chemin + " names " + reserve.inclus.front());
         }
     }
+    return manquements;
+}
+
+Manquements EntrainentLaBibliothequeDuGraphe(const Sources& sources) {
+    Manquements manquements;
+    for (const auto& [chemin, porteur] : PorteursDuGraphe(sources))
+        if (!CommenceParUn(chemin, reserveGraphe.places))
+            manquements.push_back(chemin + " reads the chart library by way of " + porteur);
     return manquements;
 }
 

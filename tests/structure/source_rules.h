@@ -21,6 +21,13 @@ Manquements Cercles(const Sources& sources);
 /// operating system are named in their one place only.
 Manquements BibliothequesHorsDeLeurPlace(const Sources& sources);
 
+/// No file outside the room of the plot reads the chart library, neither itself nor by way of the
+/// headers and forms that it includes: that takes longer to compile than the file itself.
+///
+/// That nobody reaches into the plot from outside its room (an axis of `TChart1`, say) needs no
+/// rule: without that library the control has no such members, and it does not compile.
+Manquements EntrainentLaBibliothequeDuGraphe(const Sources& sources);
+
 /// No header opens a namespace for those who include it.
 Manquements EspacesOuverts(const Sources& sources);
 

@@ -43,6 +43,10 @@ TEST(Maison, NamesEachLibraryInItsPlaceOnly) {
     EXPECT_EQ(Liste(BibliothequesHorsDeLeurPlace(Maison())), "");
 }
 
+TEST(Maison, ReadsTheChartLibraryInTheRoomOfThePlotOnly) {
+    EXPECT_EQ(Liste(EntrainentLaBibliothequeDuGraphe(Maison())), "");
+}
+
 TEST(Maison, OpensNoNamespaceInAHeader) {
     EXPECT_EQ(Liste(EspacesOuverts(Maison())), "");
 }
@@ -142,6 +146,31 @@ TEST(Bibliotheques, MayBeSpokenOf) {
         {"src/app/a.cpp",
          "// no QMessageBox here\n/* nor\n QFileDialog */ auto t = \"QCPGraph\";"}};
     EXPECT_THAT(BibliothequesHorsDeLeurPlace(sources), IsEmpty());
+}
+
+TEST(BibliothequeDuGraphe, IsFoundBehindHeadersAndForms) {
+    const Sources sources = {
+        {"src/app/a.cpp", "#include \"ui_f.h\"\n"},
+        {"src/app/b.cpp", "#include \"viewer/light.h\"\n"},
+        {"src/viewer/f.ui", "<header>chart/view/v.h</header>"},
+        {"src/viewer/light.h", "#include \"chart/view/page.h\"\n"},
+        {"src/chart/view/page.h", "// #include <qcustomplot.h>\nclass QCustomPlot;\n"},
+        {"src/chart/view/v.h", "#include \"chart/view/zoom.h\"\n"},
+        {"src/chart/view/zoom.h", "#include <qcustomplot.h>\n"}};
+    EXPECT_THAT(
+        EntrainentLaBibliothequeDuGraphe(sources),
+        ElementsAre("src/app/a.cpp reads the chart library by way of src/chart/view/zoom.h",
+                    "src/viewer/f.ui reads the chart library by way of src/chart/view/zoom.h"));
+}
+
+TEST(BibliothequeDuGraphe, BelongsToTheRoomOfThePlot) {
+    const Sources sources = {
+        {"src/viewer/a.cpp", "#include \"chart/view/v.h\"\n"},
+        {"src/viewer/b.cpp", "#include <qcustomplot.h>\n"},
+        {"src/chart/view/v.h", "class DessinGraphe;\n"},
+        {"src/chart/view/v.cpp", "#include \"chart/view/v.h\"\n#include <qcustomplot.h>\n"}};
+    EXPECT_THAT(EntrainentLaBibliothequeDuGraphe(sources),
+                ElementsAre("src/viewer/b.cpp reads the chart library by way of src/viewer/b.cpp"));
 }
 
 TEST(EspacesOuverts, AreFoundInHeadersAlone) {

@@ -5,6 +5,7 @@
 #include <QClipboard>
 #include <QMenu>
 
+#include "chart/model/chart_cursor.h"
 #include "chart/view/chart_picture.h"
 #include "viewer/paper_reader.h"
 #include "viewer/viewer_fixture.h"
@@ -29,9 +30,10 @@ class MenuGraphe : public ::testing::Test {
         v.etabli.dialogues.demandes.clear();
     }
     VueGraphe& Vue() { return *v.Ui().TChart1; }
-    QPoint Milieu() { return Vue().axisRect()->rect().center(); }
+    double Etendue() { return v.Regard().Temps().max - v.Regard().Temps().min; }
+    QPoint Milieu() { return v.Regard().Cadre().center(); }
     static QMenu* Menu() { return qobject_cast<QMenu*>(QApplication::activePopupWidget()); }
-    void ClicDroit(QPoint ou) { QTest::mouseClick(&Vue(), Qt::RightButton, {}, ou); }
+    void ClicDroit(QPoint ou) { QTest::mouseClick(&v.Regard().Surface(), Qt::RightButton, {}, ou); }
     static QStringList Textes() {
         QStringList textes;
         if (Menu())
@@ -68,19 +70,19 @@ TEST_F(MenuGraphe, ItSpeaksTheLanguageOfTheForm) {
 }
 
 TEST_F(MenuGraphe, ItsFirstEntriesZoomAndNameTheirKeys) {
-    const double entiere = Vue().xAxis->range().size();
+    const double entiere = Etendue();
     EXPECT_EQ(v.Ui().Agrandir->shortcut(), QKeySequence(Qt::Key_Plus));
     Choisir(v.Ui().Agrandir);
-    EXPECT_NEAR(Vue().xAxis->range().size(), entiere * 0.8, 1e-3);
+    EXPECT_NEAR(Etendue(), entiere * 0.8, 1e-3);
     EXPECT_FALSE(v.Ui().Pages->isEnabled());
     Choisir(v.Ui().Agrandir);
     EXPECT_EQ(v.Ui().Reduire->shortcut(), QKeySequence(Qt::Key_Minus));
     Choisir(v.Ui().Reduire);
-    EXPECT_NEAR(Vue().xAxis->range().size(), entiere * 0.8, 1e-3);
+    EXPECT_NEAR(Etendue(), entiere * 0.8, 1e-3);
     EXPECT_EQ(v.Ui().VueEntiere->shortcut(), QKeySequence(Qt::Key_0));
-    Vue().animation.animee = false;
+    Vue().FixerAnimation({});
     Choisir(v.Ui().VueEntiere);
-    EXPECT_EQ(Vue().xAxis->range().size(), entiere);
+    EXPECT_EQ(Etendue(), entiere);
     EXPECT_TRUE(v.Ui().Pages->isEnabled());
 }
 
@@ -108,9 +110,9 @@ TEST_F(MenuGraphe, OffersTheStepsOfACursorThatIsThere) {
 TEST_F(MenuGraphe, LeavesTheKeysToTheChartWhichTakesEachOfThemOnce) {
     Vue().activateWindow();
     Vue().setFocus();
-    const double entiere = Vue().xAxis->range().size();
-    QTest::keyClick(&Vue(), Qt::Key_Plus);
-    EXPECT_NEAR(Vue().xAxis->range().size(), entiere * 0.8, 1e-3);
+    const double entiere = Etendue();
+    QTest::keyClick(&v.Regard().Surface(), Qt::Key_Plus);
+    EXPECT_NEAR(Etendue(), entiere * 0.8, 1e-3);
 }
 
 TEST_F(MenuGraphe, ARightClickBesideTheFrameShowsItToo) {
@@ -120,36 +122,36 @@ TEST_F(MenuGraphe, ARightClickBesideTheFrameShowsItToo) {
 
 TEST_F(MenuGraphe, TheMenuKeyShowsItOverTheFrame) {
     QContextMenuEvent touche(QContextMenuEvent::Keyboard, QPoint(1, 1), QPoint(1, 1));
-    QCoreApplication::sendEvent(&Vue(), &touche);
+    QCoreApplication::sendEvent(&v.Regard().Surface(), &touche);
     ASSERT_TRUE(Menu());
     EXPECT_EQ(Menu()->pos(), Vue().mapToGlobal(Milieu()));
 }
 
 TEST_F(MenuGraphe, ARightDragMovesTheViewAndShowsNoMenu) {
-    const QCPRange avant = Vue().xAxis->range();
-    QTest::mousePress(&Vue(), Qt::RightButton, {}, Milieu());
+    const Plage avant = v.Regard().Temps();
+    QTest::mousePress(&v.Regard().Surface(), Qt::RightButton, {}, Milieu());
     for (const QPoint pas : {QPoint(3, 0), QPoint(40, 0), QPoint(2, 0)}) {
         const QPointF ou = Milieu() + pas;
         QMouseEvent mouvement(QEvent::MouseMove, ou, Vue().mapToGlobal(ou), Qt::NoButton,
                               Qt::RightButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(&Vue(), &mouvement);
-        EXPECT_EQ(Vue().xAxis->range().lower < avant.lower, pas.x() != 3) << pas.x();
+        QCoreApplication::sendEvent(&v.Regard().Surface(), &mouvement);
+        EXPECT_EQ(v.Regard().Temps().min < avant.min, pas.x() != 3) << pas.x();
     }
     // Back near where it began: it was a drag all the same.
-    QTest::mouseRelease(&Vue(), Qt::RightButton, {}, Milieu() + QPoint(2, 0));
+    QTest::mouseRelease(&v.Regard().Surface(), Qt::RightButton, {}, Milieu() + QPoint(2, 0));
     EXPECT_EQ(Menu(), nullptr);
 }
 
 TEST_F(MenuGraphe, AHandThatTremblesClicksAndLeavesTheViewWhereItIs) {
-    const QCPRange avant = Vue().xAxis->range();
-    QTest::mousePress(&Vue(), Qt::RightButton, {}, Milieu());
-    QTest::mouseRelease(&Vue(), Qt::RightButton, {}, Milieu() + QPoint(2, 1));
+    const Plage avant = v.Regard().Temps();
+    QTest::mousePress(&v.Regard().Surface(), Qt::RightButton, {}, Milieu());
+    QTest::mouseRelease(&v.Regard().Surface(), Qt::RightButton, {}, Milieu() + QPoint(2, 1));
     EXPECT_TRUE(Menu());
-    EXPECT_EQ(Vue().xAxis->range(), avant);
+    EXPECT_EQ(v.Regard().Temps(), avant);
 }
 
 TEST_F(MenuGraphe, TheLeftButtonShowsNone) {
-    QTest::mouseClick(&Vue(), Qt::LeftButton, {}, Milieu());
+    QTest::mouseClick(&v.Regard().Surface(), Qt::LeftButton, {}, Milieu());
     EXPECT_EQ(Menu(), nullptr);
 }
 

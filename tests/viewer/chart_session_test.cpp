@@ -120,7 +120,7 @@ TEST_F(Seance, TheTimeAxisSpansTheTimeStampsOfTheFile) {
     v.EcrireEnregistrement("a.txt", 300);
     Charger();
     EXPECT_EQ(v.Modele().bas.plage, (Plage{1'000'000, 1'299'000}));
-    EXPECT_EQ(v.Ui().TChart1->xAxis->range().upper, 1'299'000);
+    EXPECT_EQ(v.Regard().Temps().max, 1'299'000);
 }
 
 TEST_F(Seance, WithoutAnyLineTheTimeAxisKeepsItsStartingValues) {
@@ -128,7 +128,7 @@ TEST_F(Seance, WithoutAnyLineTheTimeAxisKeepsItsStartingValues) {
     Charger();
     EXPECT_GT(v.Modele().bas.plage.min, 1e12);
     EXPECT_EQ(v.Modele().bas.plage.max, 0);
-    EXPECT_TRUE(v.Ui().TChart1->xAxis->tickVector().isEmpty());
+    EXPECT_EQ(v.Regard().NombreEtiquettesTemps(), 0);
     EXPECT_TRUE(v.etabli.fautes.empty());
 }
 
@@ -237,7 +237,7 @@ TEST_F(Seance, ChartAddSerieAddsACurve) {
     Chart_Add_Serie(v.Fiche());
     EXPECT_EQ(v.Modele().NombreSeries(), 5);
     Chart_Refresh(v.Fiche());
-    EXPECT_EQ(v.Ui().TChart1->graphCount(), 5);
+    EXPECT_EQ(v.Regard().NombreCourbes(), 5);
 }
 
 TEST_F(Seance, ChartAddPointAddsToTheFirstCurveWithoutALabel) {

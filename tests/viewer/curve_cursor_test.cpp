@@ -70,7 +70,7 @@ TEST_F(CurseurChoix, TheBlackToolGoesOnWithTheMouseButNotWithTheKeys) {
     Survoler(debutSecondes + 8);
     EXPECT_EQ(Dernier().x, debutSecondes + 8);
     const QString lue = v.Ui().pression->text();
-    QTest::keyClick(&Vue(), Qt::Key_Right, Qt::ControlModifier);
+    QTest::keyClick(&v.Regard().Surface(), Qt::Key_Right, Qt::ControlModifier);
     EXPECT_EQ(Dernier().x, debutSecondes + 8);
     EXPECT_EQ(v.Ui().pression->text(), lue);
 }
@@ -172,11 +172,11 @@ class CurseurLecture : public essai::Lectures {
 TEST_F(CurseurLecture, WithoutACursorThePlaceOfTheMouseIsReadOnTheFirstCurve) {
     Charger(Montee(20));
     const QPoint souris = Survoler(debutSecondes + 7.3);
-    const double y = Vue().yAxis->pixelToCoord(souris.y());
+    const double y = v.Regard().ValeurA(souris.y());
     EXPECT_NE(y, std::floor(y));
     const Lu lu = Affiche();
     EXPECT_EQ(lu.pression, Format(y, "#.##", v.etabli.systeme.regional));
-    EXPECT_EQ(lu.date, Date(Vue().xAxis->pixelToCoord(souris.x())));
+    EXPECT_EQ(lu.date, Date(v.Regard().TempsA(souris.x())));
     EXPECT_EQ(lu.etiquette, "Pression");
     EXPECT_EQ(lu.couleur, Vue().CouleurSerie(0));
 }
@@ -246,10 +246,10 @@ TEST_F(CurseurLecture, FollowsTheKeysOfTheCursorToo) {
     Charger(Montee(20));
     ChoisirCurseur(1);
     Survoler(debutSecondes + 3);
-    QTest::keyClick(&Vue(), Qt::Key_Right, Qt::ControlModifier);
+    QTest::keyClick(&v.Regard().Surface(), Qt::Key_Right, Qt::ControlModifier);
     EXPECT_EQ(Affiche().pression, "5.");
     EXPECT_EQ(Affiche().date, Date(debutSecondes + 4));
-    QTest::keyClick(&Vue(), Qt::Key_End);
+    QTest::keyClick(&v.Regard().Surface(), Qt::Key_End);
     EXPECT_EQ(Affiche().pression, "20.");
 }
 
@@ -319,7 +319,7 @@ TEST_F(CurseurLecture, MillisecondsUnderTheMouseAreReadAsSuchWithoutACursorToo) 
     constexpr qint64 debut = 1'700'000'000'000;
     Charger(Montee(3), debut);
     const QPoint souris = Survoler(debut + 1);
-    const double temps = Vue().xAxis->pixelToCoord(souris.x());
+    const double temps = v.Regard().TempsA(souris.x());
     ASSERT_GT(temps, 9'999'999'999);
     EXPECT_EQ(v.Ui().date->text(), Date(temps / 1000));
 }
@@ -393,7 +393,7 @@ TEST_F(AidesDeLecture, ChangeNoFileAndShowNoBox) {
         Cliquer(v.Ui().MinMaxMoy);
         v.Ui().Lissage->setValue(20 + index);
         Zoomer(debutSecondes + 1.5, debutSecondes + 20.5);
-        Vue().AnnulerZoom();
+        v.Regard().AnnulerZoom();
     }
     EXPECT_EQ(contenus(), avant);
     EXPECT_TRUE(v.etabli.dialogues.boites.empty());

@@ -87,11 +87,12 @@ TEST_F(ExportViewer, WhatTheMouseHasZoomedToIsWhatGoesOut) {
 
 TEST_F(ExportViewer, CurvesSwitchedOffInTheLegendCountTheSame) {
     ChargerMesures("a.txt");
-    VueGraphe& vue = *v.Ui().TChart1;
+    const auto regard = v.Regard();
     for (int serie = 0; serie < 4; ++serie) {
         if (!v.Modele().Serie(serie).active) continue;
-        const QRect ligne = vue.legend->item(serie)->rect();
-        QTest::mouseClick(&vue, Qt::LeftButton, {}, QPoint(ligne.left() + 6, ligne.center().y()));
+        const QRect ligne = regard.LigneLegende(serie);
+        QTest::mouseClick(&regard.Surface(), Qt::LeftButton, {},
+                          QPoint(ligne.left() + 6, ligne.center().y()));
         ASSERT_FALSE(v.Modele().Serie(serie).active) << serie;
     }
     Exporter("out.csv");

@@ -29,7 +29,7 @@ class Sorties : public ::testing::Test {
     void Montrer(const QString& nom) {
         v.Fiche().show();
         v.Ouvrir(nom);
-        v.Ui().TChart1->animation.animee = false;
+        v.Ui().TChart1->FixerAnimation({});
     }
     QString Plusieurs(const QStringList& noms) const {
         return v.etabli.systeme.dossier + QChar(u'\0') + noms.join(QChar(u'\0'));
@@ -60,12 +60,13 @@ class Sorties : public ::testing::Test {
     }
     /// Draws a rubber band over the middle of the chart.
     void ZoomerALaSouris() {
-        VueGraphe& vue = *v.Ui().TChart1;
-        const QRect cadre = vue.axisRect()->rect();
+        const RegardGraphe regard = v.Regard();
+        QWidget& surface = regard.Surface();
+        const QRect cadre = regard.Cadre();
         const QPoint de = cadre.topLeft() + QPoint(cadre.width() / 4, cadre.height() / 4);
-        QTest::mousePress(&vue, Qt::LeftButton, {}, de);
-        QTest::mouseMove(&vue, cadre.center());
-        QTest::mouseRelease(&vue, Qt::LeftButton, {}, cadre.center());
+        QTest::mousePress(&surface, Qt::LeftButton, {}, de);
+        QTest::mouseMove(&surface, cadre.center());
+        QTest::mouseRelease(&surface, Qt::LeftButton, {}, cadre.center());
     }
     /// Lines of a file, whose ends must all be CR LF.
     QByteArrayList Lignes(const QString& nom) const {

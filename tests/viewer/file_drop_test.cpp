@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QDialog>
 #include <QDropEvent>
 #include <QMimeData>
 #include <QUrl>
@@ -137,7 +138,7 @@ TEST_F(FileDrop, OnATextBoxOpensTheRecordingInsteadOfWritingItsAddress) {
 TEST_F(FileDrop, OnTheChartOpensTheRecordingToo) {
     Montrer("b.txt");
     Prendre({"a.txt"});
-    EXPECT_TRUE(Deposer(*v.Ui().TChart1));
+    EXPECT_TRUE(Deposer(v.Regard().Surface()));
     Attendre();
     EXPECT_EQ(v.Fiche().NomFichierCourant, v.etabli.Chemin("a.txt"));
     EXPECT_EQ(v.Modele().Serie(0).Nombre(), 30);

@@ -170,10 +170,10 @@ TEST_F(Impression, TheAnnotationIsInactiveAgainAfterACancelledPreview) {
 TEST_F(Impression, TheAnnotationIsGoneFromTheScreenAfterwards) {
     ChoisirStatistiques();
     QCoreApplication::processEvents();
-    const QImage avant = v.Ui().TChart1->toPixmap().toImage();
+    const QImage avant = v.Regard().Image();
     v.etabli.dialogues.pendantApercu = [this](const DemandeApercu&) { v.Ui().TChart1->Repaint(); };
     Imprimer();
-    EXPECT_EQ(v.Ui().TChart1->toPixmap().toImage(), avant);
+    EXPECT_EQ(v.Regard().Image(), avant);
 }
 
 TEST_F(Impression, AFaultInBetweenPutsTheAnnotationAwayAndGoesOn) {
@@ -256,7 +256,7 @@ TEST_F(Impression, OfAnEmptyRecordingIsAFrameWhoseStatisticsNameNoCurve) {
 }
 
 TEST_F(Impression, AZoomedChartIsPrintedAsItStands) {
-    v.Ui().TChart1->Montrer({{1100000, 1110000}, {4.1, 4.2}, {0, 5}});
+    v.Regard().Montrer({1100000, 1110000}, {4.1, 4.2}, {0, 5});
     Imprimer();
     EXPECT_TRUE(Page().texte.contains("01/01/1970 00:110"));
     EXPECT_FALSE(Page().texte.contains("01/01/1970 00:12"));
@@ -265,12 +265,12 @@ TEST_F(Impression, AZoomedChartIsPrintedAsItStands) {
 }
 
 TEST_F(Impression, TheScreenStaysAsItIs) {
-    const QImage avant = v.Ui().TChart1->toPixmap().toImage();
+    const QImage avant = v.Regard().Image();
     const QPoint place(300, 200);
-    const double temps = v.Ui().TChart1->xAxis->pixelToCoord(place.x());
+    const double temps = v.Regard().TempsA(place.x());
     Imprimer();
-    EXPECT_EQ(v.Ui().TChart1->xAxis->pixelToCoord(place.x()), temps);
-    EXPECT_EQ(v.Ui().TChart1->toPixmap().toImage(), avant);
+    EXPECT_EQ(v.Regard().TempsA(place.x()), temps);
+    EXPECT_EQ(v.Regard().Image(), avant);
 }
 
 TEST_F(Impression, AFormClosedWhileThePreviewStandsIsKeptUntilItsEnd) {

@@ -148,7 +148,7 @@ TEST_F(MinMax, FollowTheZoomAndItsUndoing) {
     Allumer();
     Zoomer(debutSecondes + 1.5, debutSecondes + 4.5);
     EXPECT_EQ(Textes(), QStringList({"3.00", "4.00", "5.00"}));
-    Vue().AnnulerZoom();
+    v.Regard().AnnulerZoom();
     EXPECT_EQ(Textes(), QStringList({"1.00", "5.00", "9.00"}));
 }
 
@@ -158,7 +158,7 @@ TEST_F(MinMax, FollowScrolling) {
     Allumer();
     Zoomer(debutSecondes + 0.5, debutSecondes + 4.5);
     EXPECT_EQ(Textes(), QStringList({"2.00", "3.50", "5.00"}));
-    Vue().Defiler(0.5, 0);
+    v.Regard().Defiler(0.5, 0);
     EXPECT_EQ(Textes(), QStringList({"4.00", "5.50", "7.00"}));
 }
 
@@ -178,7 +178,7 @@ TEST_F(MinMax, ACurveThatIsSwitchedOffInTheLegendStillCounts) {
     const QStringList avant = Textes();
     ASSERT_TRUE(v.Modele().Serie(0).active);
     ASSERT_FALSE(v.Modele().Serie(1).active);
-    Vue().BasculerSerie(0);
+    v.Regard().BasculerSerie(0);
     ASSERT_FALSE(v.Modele().Serie(0).active);
     EXPECT_EQ(Textes(), avant);
 }
@@ -239,7 +239,7 @@ TEST_F(MinMax, SwitchedOffTheyComputeNothing) {
     Allumer();
     const QStringList avant = Lignes();
     Allumer();
-    Vue().AnnulerZoom();
+    v.Regard().AnnulerZoom();
     EXPECT_EQ(Lignes(), avant);
 }
 

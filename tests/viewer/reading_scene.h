@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QToolButton>
+
 #include "viewer/viewer_fixture.h"
 
 namespace bornika::essai {
@@ -32,7 +34,7 @@ class Lectures : public ::testing::Test {
         Ecrire("a.txt", mesures, debut);
         v.Fiche().show();
         v.Ouvrir("a.txt");
-        Vue().animation.animee = false;
+        Vue().FixerAnimation({});
     }
     /// `nombre` measures that rise from 1: the pressure by 1, the count by 10.
     static std::vector<Mesure> Montee(int nombre) {
@@ -56,18 +58,17 @@ class Lectures : public ::testing::Test {
     }
     /// Moves the mouse over the chart to that time, in the middle of its height.
     QPoint Survoler(double temps) {
-        const QPoint point(qRound(Vue().xAxis->coordToPixel(temps)),
-                           Vue().axisRect()->rect().center().y());
+        const QPoint point(qRound(v.Regard().Pixel(temps)), v.Regard().Cadre().center().y());
         QMouseEvent pas(QEvent::MouseMove, QPointF(point), Vue().mapToGlobal(QPointF(point)),
                         Qt::NoButton, Qt::NoButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(&Vue(), &pas);
+        QCoreApplication::sendEvent(&v.Regard().Surface(), &pas);
         return point;
     }
     /// Shows that span of time, as a zoom does.
     void Zoomer(double de, double a) {
-        const QRect cadre = Vue().axisRect()->rect();
-        Vue().ZoomerSur(QRect(QPoint(qRound(Vue().xAxis->coordToPixel(de)), cadre.top()),
-                              QPoint(qRound(Vue().xAxis->coordToPixel(a)), cadre.bottom())));
+        const QRect cadre = v.Regard().Cadre();
+        v.Regard().ZoomerSur(QRect(QPoint(qRound(v.Regard().Pixel(de)), cadre.top()),
+                                   QPoint(qRound(v.Regard().Pixel(a)), cadre.bottom())));
     }
 
     VueGraphe& Vue() { return *v.Ui().TChart1; }

@@ -86,13 +86,13 @@ TEST_F(Interruptions, AChartThatIsShownDuringALoadGrowsWithIt) {
     v.etabli.respiration.ReglerEvenements([&] {
         if (++cessions_ == 100) v.Ui().TChart1->show();
         if (cessions_ < 100 || cessions_ % 100 != 0) return;
-        dessines.push_back(v.Ui().TChart1->graph(0)->dataCount());
+        dessines.push_back(v.Regard().PointsDessines(0));
         lus.push_back(Points(0));
     });
     Charger();
     EXPECT_EQ(lus, (std::vector<int>{49, 99, 149, 199, 249, 299}));
     EXPECT_EQ(dessines, lus);
-    EXPECT_EQ(v.Ui().TChart1->graph(0)->dataCount(), 300);
+    EXPECT_EQ(v.Regard().PointsDessines(0), 300);
 }
 
 TEST_F(Interruptions, AnotherFilePickedDuringALoadIsNamedButNotLoaded) {

@@ -95,8 +95,8 @@ TEST(TraceForm, ReadingAidsComeUpSwitchedOffWithTheirCaptions) {
 
 TEST(TraceForm, ZoomIsAnimatedInTenSteps) {
     Visionneuse v;
-    EXPECT_TRUE(v.Ui().TChart1->animation.animee);
-    EXPECT_EQ(v.Ui().TChart1->animation.pas, 10);
+    EXPECT_TRUE(v.Ui().TChart1->AnimationPresente().animee);
+    EXPECT_EQ(v.Ui().TChart1->AnimationPresente().pas, 10);
 }
 
 TEST(TraceForm, CaptionsComeFromTheCatalogueInTheLanguageOfTheMainForm) {

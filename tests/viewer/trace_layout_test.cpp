@@ -87,11 +87,10 @@ TEST_F(TraceAspect, AllStatesOfTheFormStayWhole) {
     Photographier("trace-pages");
     RienNEstCoupe();
     v.Ui().Pages->setChecked(false);
-    VueGraphe& vue = *v.Ui().TChart1;
-    vue.animation.animee = false;
-    const QRect cadre = vue.axisRect()->rect();
-    vue.ZoomerSur(QRect(cadre.left() + int(cadre.width() * 0.40), cadre.top(), cadre.width() / 200,
-                        cadre.height()));
+    v.Ui().TChart1->FixerAnimation({});
+    const QRect cadre = v.Regard().Cadre();
+    v.Regard().ZoomerSur(QRect(cadre.left() + int(cadre.width() * 0.40), cadre.top(),
+                               cadre.width() / 200, cadre.height()));
     QCoreApplication::processEvents();
     Photographier("trace-zoom");
     RienNEstCoupe();
@@ -102,7 +101,7 @@ TEST_F(TraceAspect, ALongUnitPushesNothingOutOfTheForm) {
     v.Ui().UniteImpulsion->setText("impulsion comptée");
     v.Ui().Command_Refresh->click();
     v.Ui().Curseur->Choisir(2);
-    QTest::mouseMove(v.Ui().TChart1, v.Ui().TChart1->axisRect()->rect().center());
+    QTest::mouseMove(&v.Regard().Surface(), v.Regard().Cadre().center());
     QCoreApplication::processEvents();
     ASSERT_EQ(v.Ui().LabelPression->text(), "impulsion comptée/Hrs");
     Photographier("aids-long");
@@ -110,7 +109,7 @@ TEST_F(TraceAspect, ALongUnitPushesNothingOutOfTheForm) {
     v.Ui().UniteImpulsion->setText("une unité que personne n'attend, d'une longueur folle");
     v.Ui().Command_Refresh->click();
     v.Ui().Curseur->Choisir(2);
-    QTest::mouseMove(v.Ui().TChart1, v.Ui().TChart1->axisRect()->rect().center() / 2);
+    QTest::mouseMove(&v.Regard().Surface(), v.Regard().Cadre().center() / 2);
     QCoreApplication::processEvents();
     Photographier("aids-longer");
     EXPECT_LE(v.Ui().BandeauHaut->geometry().right(), v.Fiche().width());
@@ -122,8 +121,9 @@ TEST_F(TraceAspect, TheReadingAidsStayWholeInEachLanguage) {
         v.Ui().MinMaxMoy->setChecked(true);
         for (const int index : {0, 1, 2, 3}) {
             v.Ui().Curseur->Choisir(index);
-            const QRect cadre = v.Ui().TChart1->axisRect()->rect();
-            QTest::mouseMove(v.Ui().TChart1, cadre.center() + QPoint(40 * (index + 1), 10 * index));
+            const QRect cadre = v.Regard().Cadre();
+            QTest::mouseMove(&v.Regard().Surface(),
+                             cadre.center() + QPoint(40 * (index + 1), 10 * index));
             QCoreApplication::processEvents();
             Photographier(qPrintable(QString("aids-%1-%2").arg(langue[0]).arg(index)));
             RienNEstCoupe();

@@ -3,6 +3,7 @@
 #include <QtTest>
 
 #include "app/viewer_events.h"
+#include "chart/view/chart_looks.h"
 #include "platform/fault.h"
 #include "shell/main_screen.h"
 #include "support/fake_system.h"
@@ -25,6 +26,7 @@ struct Visionneuse {
     Trace& Fiche() { return acces.Fiche(); }
     Ui::Trace& Ui() { return *Fiche().ui; }
     ModeleGraphe& Modele() { return Fiche().modele; }
+    RegardGraphe Regard() { return RegardGraphe(*Ui().TChart1); }
 
     /// A recording of `lignes` measures, one a second, with a flow of `comptage`.
     void EcrireEnregistrement(const QString& nom, int lignes = 300,

@@ -4,6 +4,7 @@
 #include <QPdfWriter>
 
 #include "chart/view/chart_paper.h"
+#include "chart/view/chart_plot.h"
 #include "chart/view/chart_view.h"
 
 namespace bornika {
@@ -14,10 +15,10 @@ constexpr int pixelsParPixel = 2;
 constexpr double pointsParPouce = 72;
 constexpr double poucesParMetre = 1 / 0.0254;
 
-void Peindre(const VueGraphe& vue, QPaintDevice& support, QSize taille,
-             QCPPainter::PainterModes modes) {
-    VueGraphe papier;
-    papier.Reproduire(vue, ApparencePapier(vue.ApparencePresente()));
+void PeindreSupport(const VueGraphe& vue, QPaintDevice& support, QSize taille,
+                    QCPPainter::PainterModes modes) {
+    DessinGraphe papier;
+    papier.Reproduire(vue.Toile(), ApparencePapier(vue.ApparencePresente()));
     QCPPainter peintre(&support);
     // Hair lines of one dot would vanish in print.
     peintre.setModes(modes | QCPPainter::pmNoCaching | QCPPainter::pmNonCosmetic);
@@ -27,13 +28,13 @@ void Peindre(const VueGraphe& vue, QPaintDevice& support, QSize taille,
 }  // namespace
 
 void PeindreGraphe(const VueGraphe& vue, QPagedPaintDevice& page) {
-    Peindre(vue, page, QSize(page.width(), page.height()), QCPPainter::pmVectorized);
+    PeindreSupport(vue, page, QSize(page.width(), page.height()), QCPPainter::pmVectorized);
 }
 
 QImage ImageGraphe(const VueGraphe& vue) {
     QImage image(vue.size() * pixelsParPixel, QImage::Format_RGB32);
     image.setDevicePixelRatio(pixelsParPixel);
-    Peindre(vue, image, vue.size(), QCPPainter::pmDefault);
+    PeindreSupport(vue, image, vue.size(), QCPPainter::pmDefault);
     // Documents place it in the size that it had on the screen.
     const int parMetre = qRound(vue.logicalDpiX() * pixelsParPixel * poucesParMetre);
     image.setDotsPerMeterX(parMetre);

@@ -1,6 +1,6 @@
 #include "chart/view/chart_view_keys.h"
 
-#include "chart/view/chart_view.h"
+#include "chart/view/chart_plot.h"
 
 namespace bornika {
 
@@ -11,7 +11,7 @@ constexpr double partTouche = 0.8;
 /// One press of an arrow moves the view by that part of what it shows.
 constexpr double pasFleche = 0.1;
 
-bool Zoomer(VueGraphe& vue, int touche) {
+bool Zoomer(DessinGraphe& vue, int touche) {
     switch (touche) {
         case Qt::Key_Plus:
         case Qt::Key_Equal:  // the same key without the shift of many keyboards
@@ -29,7 +29,7 @@ bool Zoomer(VueGraphe& vue, int touche) {
     }
 }
 
-bool Defiler(VueGraphe& vue, int touche) {
+bool Defiler(DessinGraphe& vue, int touche) {
     switch (touche) {
         case Qt::Key_Left:
             vue.Defiler(-pasFleche, 0);
@@ -50,7 +50,7 @@ bool Defiler(VueGraphe& vue, int touche) {
 
 }  // namespace
 
-bool PresserTouche(VueGraphe& vue, int touche, Qt::KeyboardModifiers avec) {
+bool PresserTouche(DessinGraphe& vue, int touche, Qt::KeyboardModifiers avec) {
     avec &= ~(Qt::KeypadModifier | Qt::ShiftModifier);
     const bool controle = avec == Qt::ControlModifier;
     if ((avec && !controle) || !vue.PeutNaviguer()) return false;

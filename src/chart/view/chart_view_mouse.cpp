@@ -4,7 +4,7 @@
 #include <cstdlib>
 #include <utility>
 
-#include "chart/view/chart_view.h"
+#include "chart/view/chart_plot.h"
 #include "chart/view/chart_view_legend.h"
 
 namespace bornika {
@@ -27,7 +27,7 @@ QCPRange Decale(const QCPAxis& axe, const QCPRange& depart, QPoint de, QPoint a)
 
 }  // namespace
 
-GestesGraphe::GestesGraphe(VueGraphe& vue) : vue_(vue), bande_(&vue) {}
+GestesGraphe::GestesGraphe(DessinGraphe& vue) : vue_(vue), bande_(&vue) {}
 
 void GestesGraphe::Appuyer(const QMouseEvent& evenement) {
     if (geste_ != Geste::Aucun) return;

@@ -6,7 +6,7 @@
 
 namespace bornika {
 
-class VueGraphe;
+class DessinGraphe;
 
 /// What the mouse does on the chart: a rectangle drawn to the right zooms into it, one drawn to the
 /// left (or a double click) undoes the zoom, the wheel zooms in time around the pointer, the right
@@ -14,7 +14,7 @@ class VueGraphe;
 /// switches its curve.
 class GestesGraphe {
   public:
-    explicit GestesGraphe(VueGraphe& vue);
+    explicit GestesGraphe(DessinGraphe& vue);
 
     void Appuyer(const QMouseEvent& evenement);
     void Bouger(const QMouseEvent& evenement);
@@ -31,7 +31,7 @@ class GestesGraphe {
     void Tirer(QPoint position);
     void FinirBande(QPoint position);
 
-    VueGraphe& vue_;
+    DessinGraphe& vue_;
     BandeZoom bande_;
     Geste geste_ = Geste::Aucun;
     QPoint depart_;

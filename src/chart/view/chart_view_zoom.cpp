@@ -32,8 +32,8 @@ void AnimationZoom::Demarrer(const Etendues& depart, const Etendues& cible,
     appliquer_ = std::move(appliquer);
     fin_ = std::move(fin);
     fait_ = 0;
-    chrono_.start(intervalle);
-    if (!animee || pas < 2)
+    chrono_.start(reglage.intervalle);
+    if (!reglage.animee || reglage.pas < 2)
         Terminer();
     else
         Avancer();
@@ -42,15 +42,15 @@ void AnimationZoom::Demarrer(const Etendues& depart, const Etendues& cible,
 void AnimationZoom::Avancer() {
     if (!EnCours()) return;
     ++fait_;
-    const bool derniere = fait_ >= pas;
+    const bool derniere = fait_ >= reglage.pas;
     if (derniere) chrono_.stop();
-    appliquer_(derniere ? cible_ : Entre(depart_, cible_, double(fait_) / pas));
+    appliquer_(derniere ? cible_ : Entre(depart_, cible_, double(fait_) / reglage.pas));
     if (derniere && fin_) std::exchange(fin_, {})();
 }
 
 void AnimationZoom::Terminer() {
     if (!EnCours()) return;
-    fait_ = pas;
+    fait_ = reglage.pas;
     Avancer();
 }
 

@@ -6,6 +6,8 @@
 #include <QTimer>
 #include <functional>
 
+#include "chart/view/zoom_settings.h"
+
 namespace bornika {
 
 /// What the three axes show at one moment.
@@ -24,10 +26,7 @@ class AnimationZoom : public QObject {
   public:
     explicit AnimationZoom(QObject* parent = nullptr);
 
-    bool animee = false;
-    int pas = 1;
-    /// Milliseconds between two steps.
-    int intervalle = 15;
+    ReglageAnimation reglage;
 
     /// Starts; `appliquer` receives each intermediate view and last the target itself, `fin` is
     /// called once after it. One that runs is brought to its end first.

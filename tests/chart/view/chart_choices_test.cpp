@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "chart/view/chart_plot.h"
 #include "viewer/chart_pages.h"
 #include "viewer/viewer_fixture.h"
 
@@ -15,7 +16,7 @@ class Choix : public ::testing::Test {
         v.EcrireEnregistrement("a.txt");
         v.Fiche().show();
         v.Ouvrir("a.txt");
-        v.Ui().TChart1->animation.animee = false;
+        v.Ui().TChart1->FixerAnimation({});
     }
     /// Chooses by hand, as the list of the combo box does.
     void Choisir(int index) {
@@ -23,7 +24,7 @@ class Choix : public ::testing::Test {
         Q_EMIT v.Ui().Couleurs->activated(index);
     }
     void ZoomerALaSouris() {
-        VueGraphe& vue = *v.Ui().TChart1;
+        DessinGraphe& vue = v.Ui().TChart1->Toile();
         const QRect cadre = vue.axisRect()->rect();
         const QPoint de = cadre.topLeft() + QPoint(cadre.width() / 4, cadre.height() / 4);
         const QPoint a = cadre.center();
@@ -32,7 +33,7 @@ class Choix : public ::testing::Test {
         QTest::mouseRelease(&vue, Qt::LeftButton, {}, a);
     }
     void DoubleCliquer() {
-        VueGraphe& vue = *v.Ui().TChart1;
+        DessinGraphe& vue = v.Ui().TChart1->Toile();
         QTest::mouseDClick(&vue, Qt::LeftButton, {}, vue.axisRect()->rect().center());
     }
     QPushButton* Rafraichir() { return v.Ui().Command_Refresh; }
@@ -79,7 +80,7 @@ TEST_F(CouleursChoix, TheOthersAreTheCurves) {
         Choisir(i);
         EXPECT_EQ(Departs().back(), avant);
         EXPECT_EQ(v.Modele().Serie(i - 3).couleur, choisie);
-        EXPECT_EQ(v.Ui().TChart1->graph(i - 3)->pen().color(), VersQColor(choisie));
+        EXPECT_EQ(v.Ui().TChart1->Toile().graph(i - 3)->pen().color(), VersQColor(choisie));
     }
 }
 
@@ -144,7 +145,7 @@ TEST_F(PagesChoix, UncheckedShowsTheWholeChartAgain) {
     EXPECT_EQ(v.Modele().MaxPointsPerPage(), 0);
     EXPECT_FALSE(v.Ui().ChartPageNavigator->isVisible());
     EXPECT_EQ(v.Modele().LastValueIndex(0), 299);
-    EXPECT_EQ(v.Ui().TChart1->xAxis->range().upper, 1'299'000);
+    EXPECT_EQ(v.Ui().TChart1->Toile().xAxis->range().upper, 1'299'000);
 }
 
 TEST_F(PagesChoix, TheNavigatorTurnsThePages) {
@@ -153,7 +154,7 @@ TEST_F(PagesChoix, TheNavigatorTurnsThePages) {
     EXPECT_FALSE(navigateur.precedente->isEnabled());
     QTest::mouseClick(navigateur.suivante, Qt::LeftButton);
     EXPECT_EQ(v.Modele().FirstValueIndex(0), 100);
-    EXPECT_EQ(v.Ui().TChart1->xAxis->range().lower, 1'100'000);
+    EXPECT_EQ(v.Ui().TChart1->Toile().xAxis->range().lower, 1'100'000);
     EXPECT_EQ(navigateur.Texte(), "2 / 3");
     QTest::mouseClick(navigateur.derniere, Qt::LeftButton);
     EXPECT_EQ(v.Modele().LastValueIndex(0), 299);
@@ -193,7 +194,7 @@ TEST_F(PagesChoix, UndoingTheZoomShowsTheNavigatorEvenIfPagesIsUnchecked) {
 TEST_F(PagesChoix, ALoadOfAZoomedChartShowsAllOfItAndAllowsPages) {
     ZoomerALaSouris();
     Rafraichir()->click();
-    EXPECT_EQ(v.Ui().TChart1->xAxis->range().upper, 1'299'000);
+    EXPECT_EQ(v.Ui().TChart1->Toile().xAxis->range().upper, 1'299'000);
     EXPECT_TRUE(v.Ui().Pages->isEnabled());
 }
 

@@ -47,7 +47,7 @@ TEST(ChartCursor, StandsOnItsPointWhenTheMoveIsTold) {
     Scene scene;
     const OutilGraphe& curseur = scene.PoserCurseur(0);
     std::vector<double> temps;
-    QObject::connect(&scene.vue, &VueGraphe::SourisBougee, [&] { temps.push_back(curseur.x); });
+    QObject::connect(&scene.vue, &DessinGraphe::SourisBougee, [&] { temps.push_back(curseur.x); });
     scene.SurvolerTemps(200);
     scene.SurvolerTemps(700);
     ASSERT_EQ(temps.size(), 2U);
@@ -57,7 +57,7 @@ TEST(ChartCursor, StandsOnItsPointWhenTheMoveIsTold) {
 
 TEST(ChartCursor, EveryMoveIsToldWithoutACursorToolToo) {
     Scene scene;
-    QSignalSpy moves(&scene.vue, &VueGraphe::SourisBougee);
+    QSignalSpy moves(&scene.vue, &DessinGraphe::SourisBougee);
     scene.SurvolerTemps(200);
     EXPECT_EQ(moves.count(), 1);
     scene.modele.RetirerTout();
@@ -81,7 +81,7 @@ TEST(ChartCursor, WhoseCurveWasRemovedOrNeverWasStays) {
     const double avant = curseur.x;
     scene.modele.RetirerSerie(1);
     scene.vue.Repaint();
-    QSignalSpy moves(&scene.vue, &VueGraphe::SourisBougee);
+    QSignalSpy moves(&scene.vue, &DessinGraphe::SourisBougee);
     scene.SurvolerTemps(700);
     EXPECT_EQ(moves.count(), 1);
     EXPECT_EQ(curseur.x, avant);
@@ -182,7 +182,7 @@ TEST(ChartCursor, StaysWhenTheMouseLeavesTheChart) {
     const OutilGraphe& curseur = scene.PoserCurseur(0);
     scene.SurvolerTemps(200);
     const double avant = curseur.x;
-    QSignalSpy moves(&scene.vue, &VueGraphe::SourisBougee);
+    QSignalSpy moves(&scene.vue, &DessinGraphe::SourisBougee);
     QEvent sortie(QEvent::Leave);
     QCoreApplication::sendEvent(&scene.vue, &sortie);
     EXPECT_EQ(moves.count(), 0);
@@ -247,8 +247,8 @@ TEST(ChartCursorDrawing, AMoveRepaintsTheOldAndTheNewLinesAndDrawsNoCurve) {
     scene.PoserCurseur(0);
     scene.SurvolerTemps(300);
     QCoreApplication::processEvents();
-    QSignalSpy dessins(&scene.vue, &VueGraphe::Redessin);
-    QSignalSpy annonces(&scene.vue, &VueGraphe::Dessin);
+    QSignalSpy dessins(&scene.vue, &DessinGraphe::Redessin);
+    QSignalSpy annonces(&scene.vue, &DessinGraphe::Dessin);
     Peintures peintures(scene.vue);
     const int avant = qRound(scene.vue.xAxis->coordToPixel(300));
     scene.SurvolerTemps(800);
@@ -270,8 +270,9 @@ TEST(ChartCursorDrawing, LeavesNoTraceOnTheScreen) {
         scene.SurvolerTemps(temps);
         QCoreApplication::processEvents();
     }
-    const QImage ecran = scene.vue.screen()->grabWindow(scene.vue.winId()).toImage();
-    const QImage neuf = scene.vue.grab().toImage();
+    const QWidget& fenetre = scene.graphe;
+    const QImage ecran = fenetre.screen()->grabWindow(fenetre.winId()).toImage();
+    const QImage neuf = scene.graphe.grab().toImage();
     ASSERT_EQ(ecran.size(), neuf.size());
     EXPECT_EQ(ecran.convertToFormat(QImage::Format_RGB32),
               neuf.convertToFormat(QImage::Format_RGB32));

@@ -11,7 +11,7 @@ using essai::Scene;
 
 TEST(ChartLegend, AClickOnItsBoxSwitchesTheCurve) {
     Scene scene;
-    QSignalSpy dessins(&scene.vue, &VueGraphe::Redessin);
+    QSignalSpy dessins(&scene.vue, &DessinGraphe::Redessin);
     QTest::mouseClick(&scene.vue, Qt::LeftButton, {}, scene.CaseLegende(1));
     EXPECT_FALSE(scene.modele.Serie(1).active);
     EXPECT_FALSE(scene.vue.graph(1)->visible());
@@ -26,7 +26,7 @@ TEST(ChartLegend, TheSecondClickOfADoubleClickSwitchesBack) {
     Scene scene;
     QTest::mouseClick(&scene.vue, Qt::LeftButton, {}, scene.CaseLegende(0));
     QTest::mouseDClick(&scene.vue, Qt::LeftButton, {}, scene.CaseLegende(0));
-    QSignalSpy annulations(&scene.vue, &VueGraphe::AnnulationZoom);
+    QSignalSpy annulations(&scene.vue, &DessinGraphe::AnnulationZoom);
     EXPECT_EQ(annulations.count(), 0);
     EXPECT_EQ(scene.modele.Serie(0).active, scene.vue.graph(0)->visible());
 }
@@ -42,7 +42,7 @@ TEST(ChartLegend, WithoutCheckBoxesTheLegendIsNotThere) {
 
 TEST(ChartZoom, ARectangleDrawnToTheRightShowsWhatIsInIt) {
     Scene scene;
-    QSignalSpy zooms(&scene.vue, &VueGraphe::Zoom);
+    QSignalSpy zooms(&scene.vue, &DessinGraphe::Zoom);
     const QPoint de = scene.Dans(0.25, 0.2);
     const QPoint a = scene.Dans(0.5, 0.7);
     const double gauche = scene.vue.xAxis->pixelToCoord(de.x());
@@ -65,7 +65,7 @@ TEST(ChartZoom, ARectangleDrawnToTheLeftUndoesTheZoom) {
     Scene scene;
     const QCPRange gauche = scene.vue.yAxis->range();
     scene.Tirer(Qt::LeftButton, scene.Dans(0.25, 0.2), scene.Dans(0.5, 0.7));
-    QSignalSpy annulations(&scene.vue, &VueGraphe::AnnulationZoom);
+    QSignalSpy annulations(&scene.vue, &DessinGraphe::AnnulationZoom);
     scene.Tirer(Qt::LeftButton, scene.Dans(0.6, 0.5), scene.Dans(0.3, 0.6));
     EXPECT_EQ(annulations.count(), 1);
     EXPECT_EQ(scene.modele.bas.plage, (Plage{0, 999}));
@@ -76,7 +76,7 @@ TEST(ChartZoom, ARectangleDrawnToTheLeftUndoesTheZoom) {
 TEST(ChartZoom, ADoubleClickUndoesTheZoom) {
     Scene scene;
     scene.Tirer(Qt::LeftButton, scene.Dans(0.25, 0.2), scene.Dans(0.5, 0.7));
-    QSignalSpy annulations(&scene.vue, &VueGraphe::AnnulationZoom);
+    QSignalSpy annulations(&scene.vue, &DessinGraphe::AnnulationZoom);
     QTest::mouseDClick(&scene.vue, Qt::LeftButton, {}, scene.Dans(0.5, 0.5));
     EXPECT_EQ(annulations.count(), 1);
     EXPECT_EQ(scene.modele.bas.plage, (Plage{0, 999}));
@@ -84,14 +84,14 @@ TEST(ChartZoom, ADoubleClickUndoesTheZoom) {
 
 TEST(ChartZoom, UndoingWithoutAZoomRaisesNothing) {
     Scene scene;
-    QSignalSpy annulations(&scene.vue, &VueGraphe::AnnulationZoom);
+    QSignalSpy annulations(&scene.vue, &DessinGraphe::AnnulationZoom);
     QTest::mouseDClick(&scene.vue, Qt::LeftButton, {}, scene.Dans(0.5, 0.5));
     EXPECT_EQ(annulations.count(), 0);
 }
 
 TEST(ChartZoom, AClickZoomsNothing) {
     Scene scene;
-    QSignalSpy zooms(&scene.vue, &VueGraphe::Zoom);
+    QSignalSpy zooms(&scene.vue, &DessinGraphe::Zoom);
     QTest::mouseClick(&scene.vue, Qt::LeftButton, {}, scene.Dans(0.5, 0.5));
     scene.Tirer(Qt::LeftButton, scene.Dans(0.5, 0.5), scene.Dans(0.5, 0.5) + QPoint(3, 60));
     EXPECT_EQ(zooms.count(), 0);
@@ -108,9 +108,8 @@ TEST(ChartZoom, AFlatRectangleKeepsTheVerticalScales) {
 
 TEST(ChartZoom, IsAnimatedInTenStepsThatTheTimerDrives) {
     Scene scene;
-    scene.vue.animation.animee = true;
-    scene.vue.animation.pas = 10;
-    QSignalSpy dessins(&scene.vue, &VueGraphe::Redessin);
+    scene.graphe.FixerAnimation({.animee = true, .pas = 10});
+    QSignalSpy dessins(&scene.vue, &DessinGraphe::Redessin);
     scene.Tirer(Qt::LeftButton, scene.Dans(0.25, 0.2), scene.Dans(0.5, 0.7));
     int pas = 1;
     double largeur = scene.vue.xAxis->range().size();
@@ -128,8 +127,7 @@ TEST(ChartZoom, IsAnimatedInTenStepsThatTheTimerDrives) {
 
 TEST(ChartZoom, ANewOneStartsFromTheEndOfTheOneThatRuns) {
     Scene scene;
-    scene.vue.animation.animee = true;
-    scene.vue.animation.pas = 10;
+    scene.graphe.FixerAnimation({.animee = true, .pas = 10});
     scene.Tirer(Qt::LeftButton, scene.Dans(0.25, 0.2), scene.Dans(0.5, 0.7));
     ASSERT_TRUE(scene.vue.animation.EnCours());
     scene.vue.AnnulerZoom();
@@ -140,8 +138,8 @@ TEST(ChartZoom, ANewOneStartsFromTheEndOfTheOneThatRuns) {
 
 TEST(ChartZoom, TheWheelZoomsInTimeAroundThePointerWithTheSameEvents) {
     Scene scene;
-    QSignalSpy zooms(&scene.vue, &VueGraphe::Zoom);
-    QSignalSpy annulations(&scene.vue, &VueGraphe::AnnulationZoom);
+    QSignalSpy zooms(&scene.vue, &DessinGraphe::Zoom);
+    QSignalSpy annulations(&scene.vue, &DessinGraphe::AnnulationZoom);
     const QPoint ou = scene.Dans(0.3, 0.5);
     const double temps = scene.vue.xAxis->pixelToCoord(ou.x());
     scene.Rouler(ou, 1);
@@ -155,7 +153,7 @@ TEST(ChartZoom, TheWheelZoomsInTimeAroundThePointerWithTheSameEvents) {
 
 TEST(ChartZoom, TheWheelBackwardsOnTheWholeChartDoesNothing) {
     Scene scene;
-    QSignalSpy annulations(&scene.vue, &VueGraphe::AnnulationZoom);
+    QSignalSpy annulations(&scene.vue, &DessinGraphe::AnnulationZoom);
     scene.Rouler(scene.Dans(0.3, 0.5), -1);
     EXPECT_EQ(annulations.count(), 0);
     EXPECT_EQ(scene.modele.bas.plage, (Plage{0, 999}));
@@ -194,7 +192,7 @@ TEST(ChartScroll, TheRightButtonDragsTheViewInBothDirections) {
     const QPoint a = scene.Dans(0.3, 0.6);
     const double temps = scene.vue.xAxis->pixelToCoord(de.x());
     const double valeur = scene.vue.yAxis->pixelToCoord(de.y());
-    QSignalSpy zooms(&scene.vue, &VueGraphe::Zoom);
+    QSignalSpy zooms(&scene.vue, &DessinGraphe::Zoom);
     scene.Tirer(Qt::RightButton, de, a);
     EXPECT_NEAR(scene.vue.xAxis->pixelToCoord(a.x()), temps, 1.5);
     EXPECT_NEAR(scene.vue.yAxis->pixelToCoord(a.y()), valeur, 0.02);

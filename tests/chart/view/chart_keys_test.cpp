@@ -20,7 +20,7 @@ bool Presser(Scene& scene, int touche, Qt::KeyboardModifiers avec = {}) {
 
 TEST(ChartKeys, PlusZoomsInTimeAroundTheMiddleWithTheEventOfTheMouse) {
     Scene scene;
-    QSignalSpy zooms(&scene.vue, &VueGraphe::Zoom);
+    QSignalSpy zooms(&scene.vue, &DessinGraphe::Zoom);
     const QCPRange gauche = scene.vue.yAxis->range();
     QTest::keyClick(&scene.vue, Qt::Key_Plus);
     EXPECT_EQ(zooms.count(), 1);
@@ -52,8 +52,8 @@ TEST(ChartKeys, ACursorThatCannotBeSeenDoesNotHoldTheZoom) {
 
 TEST(ChartKeys, MinusZoomsOutUntilTheWholeIsShown) {
     Scene scene;
-    QSignalSpy zooms(&scene.vue, &VueGraphe::Zoom);
-    QSignalSpy annulations(&scene.vue, &VueGraphe::AnnulationZoom);
+    QSignalSpy zooms(&scene.vue, &DessinGraphe::Zoom);
+    QSignalSpy annulations(&scene.vue, &DessinGraphe::AnnulationZoom);
     QTest::keyClick(&scene.vue, Qt::Key_Plus);
     QTest::keyClick(&scene.vue, Qt::Key_Plus);
     QTest::keyClick(&scene.vue, Qt::Key_Minus);
@@ -71,7 +71,7 @@ TEST(ChartKeys, ZeroShowsTheWholeFromAnyZoom) {
     Scene scene;
     const QCPRange gauche = scene.vue.yAxis->range();
     scene.Tirer(Qt::LeftButton, scene.Dans(0.25, 0.2), scene.Dans(0.5, 0.7));
-    QSignalSpy annulations(&scene.vue, &VueGraphe::AnnulationZoom);
+    QSignalSpy annulations(&scene.vue, &DessinGraphe::AnnulationZoom);
     QTest::keyClick(&scene.vue, Qt::Key_0);
     EXPECT_EQ(annulations.count(), 1);
     EXPECT_EQ(scene.modele.bas.plage, (Plage{0, 999}));
@@ -82,7 +82,7 @@ TEST(ChartKeys, ZeroShowsTheWholeFromAnyZoom) {
 
 TEST(ChartKeys, ZoomByTheKeypadAndWithShiftOrControlToo) {
     Scene scene;
-    QSignalSpy zooms(&scene.vue, &VueGraphe::Zoom);
+    QSignalSpy zooms(&scene.vue, &DessinGraphe::Zoom);
     EXPECT_TRUE(Presser(scene, Qt::Key_Plus, Qt::KeypadModifier));
     EXPECT_TRUE(Presser(scene, Qt::Key_Plus, Qt::ShiftModifier));
     EXPECT_TRUE(Presser(scene, Qt::Key_Plus, Qt::ControlModifier));
@@ -112,7 +112,7 @@ TEST(ChartKeys, ArrowsMoveTheViewByATenth) {
 
 TEST(ChartKeys, ArrowsStopAtTheEndsAndDoNothingOnTheWhole) {
     Scene scene;
-    QSignalSpy dessins(&scene.vue, &VueGraphe::Redessin);
+    QSignalSpy dessins(&scene.vue, &DessinGraphe::Redessin);
     for (const int touche : {Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down})
         EXPECT_TRUE(Presser(scene, touche));
     EXPECT_EQ(dessins.count(), 0);
@@ -150,8 +150,8 @@ TEST(ChartKeys, ControlAndArrowsTakeTheCursorFromPointToPoint) {
     scene.SurvolerTemps(300);
     const int depart = curseur.point;
     std::vector<double> dits;
-    QObject::connect(&scene.vue, &VueGraphe::SourisBougee, [&] { dits.push_back(curseur.x); });
-    QSignalSpy dessins(&scene.vue, &VueGraphe::Redessin);
+    QObject::connect(&scene.vue, &DessinGraphe::SourisBougee, [&] { dits.push_back(curseur.x); });
+    QSignalSpy dessins(&scene.vue, &DessinGraphe::Redessin);
     QTest::keyClick(&scene.vue, Qt::Key_Right, Qt::ControlModifier);
     EXPECT_EQ(curseur.point, depart + 1);
     EXPECT_EQ(curseur.y, 20 + (depart + 1) * 0.01);
@@ -166,7 +166,7 @@ TEST(ChartKeys, ControlAndArrowsTakeTheCursorFromPointToPoint) {
 TEST(ChartKeys, HomeAndEndPutTheCursorOnTheFirstAndTheLastVisiblePoint) {
     Scene scene;
     const OutilGraphe& curseur = scene.PoserCurseur(0);
-    QSignalSpy moves(&scene.vue, &VueGraphe::SourisBougee);
+    QSignalSpy moves(&scene.vue, &DessinGraphe::SourisBougee);
     QTest::keyClick(&scene.vue, Qt::Key_End);
     EXPECT_EQ(curseur.x, 999);
     scene.vue.Montrer({{400.5, 500.5}, {3, 5}, {20, 25}});
@@ -214,7 +214,7 @@ TEST(ChartKeys, TheCursorStaysInTheViewWhereScrollingIsNotAllowed) {
     scene.modele.defilement = 0;
     scene.vue.Montrer({{400, 500}, {3, 5}, {20, 25}});
     QTest::keyClick(&scene.vue, Qt::Key_End);
-    QSignalSpy moves(&scene.vue, &VueGraphe::SourisBougee);
+    QSignalSpy moves(&scene.vue, &DessinGraphe::SourisBougee);
     QTest::keyClick(&scene.vue, Qt::Key_Right, Qt::ControlModifier);
     EXPECT_EQ(curseur.x, 500);
     EXPECT_EQ(moves.count(), 0);
@@ -277,7 +277,7 @@ TEST(ChartKeys, TheCursorFollowsTheOrderOfTheFileOnPointsOutOfOrder) {
 
 TEST(ChartKeys, WithoutACursorItsKeysAreLeftToOthers) {
     Scene scene;
-    QSignalSpy moves(&scene.vue, &VueGraphe::SourisBougee);
+    QSignalSpy moves(&scene.vue, &DessinGraphe::SourisBougee);
     EXPECT_FALSE(Presser(scene, Qt::Key_Home));
     EXPECT_FALSE(Presser(scene, Qt::Key_Right, Qt::ControlModifier));
     EXPECT_FALSE(Presser(scene, Qt::Key_Left, Qt::AltModifier));
@@ -290,7 +290,7 @@ TEST(ChartKeys, ACursorThatCannotBeSeenLeavesItsKeysToOthers) {
     const OutilGraphe& curseur = scene.PoserCurseur(0, 0);
     scene.SurvolerTemps(200);
     const int avant = curseur.point;
-    QSignalSpy moves(&scene.vue, &VueGraphe::SourisBougee);
+    QSignalSpy moves(&scene.vue, &DessinGraphe::SourisBougee);
     EXPECT_FALSE(Presser(scene, Qt::Key_End));
     EXPECT_FALSE(Presser(scene, Qt::Key_Right, Qt::ControlModifier));
     EXPECT_EQ(curseur.point, avant);

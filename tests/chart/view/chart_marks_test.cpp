@@ -156,9 +156,9 @@ TEST(ChartMarks, ClearedWhileARedrawIsAnnouncedAreNotInIt) {
     scene.modele.Serie(0).marques = true;
     scene.vue.Repaint();
     const QImage avec = scene.vue.grab().toImage();
-    QObject::connect(&scene.vue, &VueGraphe::Dessin,
+    QObject::connect(&scene.vue, &DessinGraphe::Dessin,
                      [&] { scene.modele.Serie(0).marques = false; });
-    QSignalSpy dessins(&scene.vue, &VueGraphe::Redessin);
+    QSignalSpy dessins(&scene.vue, &DessinGraphe::Redessin);
     scene.vue.Repaint();
     EXPECT_EQ(dessins.count(), 1);
     EXPECT_NE(scene.vue.grab().toImage(), avec);

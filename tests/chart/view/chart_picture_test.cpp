@@ -57,7 +57,7 @@ struct SceneComplete : Scene {
     Papier Pdf(const QString& titre = "essai") {
         QFile fichier(dossier.filePath("chart.pdf"));
         EXPECT_TRUE(fichier.open(QIODevice::WriteOnly));
-        fichier.write(PdfGraphe(vue, titre));
+        fichier.write(PdfGraphe(graphe, titre));
         fichier.close();
         return Papier(fichier.fileName());
     }
@@ -104,7 +104,7 @@ TEST(ApparencePapier, IsWhiteWithDarkTextsAndTheFontsOfTheScreen) {
 
 TEST(ImageGraphe, HasTheSizeOfTheScreenWithTwiceThePixels) {
     SceneComplete scene;
-    const QImage image = ImageGraphe(scene.vue);
+    const QImage image = ImageGraphe(scene.graphe);
     EXPECT_EQ(image.size(), scene.vue.size() * 2);
     // As wide on paper as on the screen.
     EXPECT_NEAR(image.width() / (image.dotsPerMeterX() * 0.0254),
@@ -113,7 +113,7 @@ TEST(ImageGraphe, HasTheSizeOfTheScreenWithTwiceThePixels) {
 
 TEST(ImageGraphe, ShowsEveryCurveInItsInkOnWhite) {
     SceneComplete scene;
-    const QImage image = ImageGraphe(scene.vue);
+    const QImage image = ImageGraphe(scene.graphe);
     EXPECT_GT(Part(image, [](const QColor& c) { return c == QColor(Qt::white); }), 0.7);
     for (const int serie : {0, 2, 3}) {
         const QColor encre = Encre(VersQColor(scene.vue.CouleurSerie(serie)));
@@ -124,8 +124,8 @@ TEST(ImageGraphe, ShowsEveryCurveInItsInkOnWhite) {
 
 TEST(ImageGraphe, IsReadBackFromItsPng) {
     SceneComplete scene;
-    const QByteArray octets = PngGraphe(scene.vue);
-    EXPECT_EQ(QImage::fromData(octets, "PNG"), ImageGraphe(scene.vue));
+    const QByteArray octets = PngGraphe(scene.graphe);
+    EXPECT_EQ(QImage::fromData(octets, "PNG"), ImageGraphe(scene.graphe));
 }
 
 TEST(ImageGraphe, ShowsTheLinesOfTheStatisticsAndTheAnnotation) {
@@ -139,7 +139,7 @@ TEST(ImageGraphe, ShowsTheLinesOfTheStatisticsAndTheAnnotation) {
     annotation.genre = OutilGraphe::Genre::Annotation;
     annotation.texte = "Pression : Min= 3.00";
     scene.modele.AjouterOutil(annotation);
-    const QImage image = ImageGraphe(scene.vue);
+    const QImage image = ImageGraphe(scene.graphe);
     EXPECT_GT(Part(image, [](const QColor& c) { return Proche(c, Encre(Qt::magenta)); }), 0.001);
     EXPECT_TRUE(scene.Pdf().texte.contains("Pression : Min= 3.00"));
 }
@@ -152,7 +152,7 @@ TEST(ImageGraphe, ValuesThatAreNoNumbersAreGapsInTheCurve) {
         serie.AjouterPoint(i, i < 40 || i > 60 ? 1 + i * 0.01 : NAN, QString());
     scene.modele.FixerPlage(0, 99);
     scene.vue.RemettreEchelles();
-    const QImage image = ImageGraphe(scene.vue);
+    const QImage image = ImageGraphe(scene.graphe);
     const QRect cadre = scene.Cadre().adjusted(2, 2, -2, -2);
     const QColor encre = Encre(VersQColor(scene.vue.CouleurSerie(0)));
     const auto part = [&](double de, double a) {
@@ -168,7 +168,7 @@ TEST(ImageGraphe, ValuesThatAreNoNumbersAreGapsInTheCurve) {
 
 TEST(ImageGraphe, LeavesTheCursorOnTheScreen) {
     SceneComplete scene;
-    const QImage sans = ImageGraphe(scene.vue);
+    const QImage sans = ImageGraphe(scene.graphe);
     OutilGraphe curseur;
     curseur.genre = OutilGraphe::Genre::Curseur;
     curseur.crayon = 0xFFFFFF;
@@ -178,7 +178,7 @@ TEST(ImageGraphe, LeavesTheCursorOnTheScreen) {
     scene.vue.Repaint();
     QTest::mouseMove(&scene.vue, scene.Dans(0.5, 0.5));
     QCoreApplication::processEvents();
-    EXPECT_EQ(ImageGraphe(scene.vue), sans);
+    EXPECT_EQ(ImageGraphe(scene.graphe), sans);
 }
 
 TEST(ImageGraphe, OfAnEmptyChartIsAnEmptyFrame) {
@@ -186,7 +186,7 @@ TEST(ImageGraphe, OfAnEmptyChartIsAnEmptyFrame) {
     scene.modele.RetirerTout();
     scene.modele.FixerPlage(10, 0);
     scene.vue.RemettreEchelles();
-    const QImage image = ImageGraphe(scene.vue);
+    const QImage image = ImageGraphe(scene.graphe);
     EXPECT_GT(Part(image, [](const QColor& c) { return c == QColor(Qt::white); }), 0.9);
     const VueGraphe sansModele;
     EXPECT_FALSE(ImageGraphe(sansModele).isNull());
@@ -220,7 +220,7 @@ TEST(PdfGraphe, ListsWhatIsDrawnAndNoCheckBoxes) {
     const Papier papier = scene.Pdf();
     EXPECT_TRUE(papier.texte.contains("(Lissee) Pression"));
     EXPECT_FALSE(papier.texte.contains("(Lissee) m3"));
-    VueGraphe copie;
+    DessinGraphe copie;
     copie.Reproduire(scene.vue, ApparencePapier(scene.vue.ApparencePresente()));
     ASSERT_EQ(copie.legend->itemCount(), 3);
     EXPECT_LT(copie.legend->item(0)->minimumOuterSizeHint().width(),
@@ -249,16 +249,16 @@ TEST(PdfGraphe, OfANarrowChartListsItsCurvesInFewerColumns) {
     SceneComplete scene;
     for (int i = 0; i < 4; ++i)
         scene.modele.Serie(i).titre = QStringLiteral("Pression relative amont (bar) %1").arg(i);
-    scene.vue.resize(600, 480);
+    scene.graphe.resize(600, 480);
     scene.vue.Repaint();
     EXPECT_EQ(scene.vue.legend->columnCount(), 2);
     RienNEstCoupeNiRecouvert(scene.Pdf());
-    scene.vue.resize(1400, 480);
+    scene.graphe.resize(1400, 480);
     scene.vue.Repaint();
     EXPECT_EQ(scene.vue.legend->columnCount(), 4);
     RienNEstCoupeNiRecouvert(scene.Pdf());
-    scene.vue.resize(120, 480);
-    EXPECT_EQ(ImageGraphe(scene.vue).width(), 240);
+    scene.graphe.resize(120, 480);
+    EXPECT_EQ(ImageGraphe(scene.graphe).width(), 240);
 }
 
 TEST(PdfGraphe, WritesNumbersAsTheScreenDoes) {
@@ -299,10 +299,10 @@ TEST(PeindreGraphe, APageWithFourCurvesOf450000PointsIsAtMostOneMegabyte) {
         modele.Serie(2 + source).FixerPeriode(10);
     }
     modele.FixerPlage(0, (points - 1) * 250.0);
-    VueGraphe vue;
-    vue.Lier(modele);
-    vue.resize(1200, 700);
-    vue.show();
+    VueGraphe graphe;
+    graphe.Lier(modele);
+    graphe.resize(1200, 700);
+    graphe.show();
 
     const QTemporaryDir dossier;
     const QString chemin = dossier.filePath("page.pdf");
@@ -312,7 +312,7 @@ TEST(PeindreGraphe, APageWithFourCurvesOf450000PointsIsAtMostOneMegabyte) {
         ImprimantePage page(demande);
         page.setOutputFormat(QPrinter::PdfFormat);
         page.setOutputFileName(chemin);
-        PeindreGraphe(vue, page);
+        PeindreGraphe(graphe, page);
     }
     EXPECT_EQ(Papier(chemin).Bitmaps(), 0);
     EXPECT_GT(QFileInfo(chemin).size(), 10'000);

@@ -12,8 +12,8 @@ using essai::Scene;
 TEST(ChartRedraw, IsAnnouncedOnceBeforeItIsDone) {
     Scene scene;
     QStringList suite;
-    QObject::connect(&scene.vue, &VueGraphe::Dessin, [&] { suite += "announced"; });
-    QObject::connect(&scene.vue, &VueGraphe::Redessin, [&] { suite += "done"; });
+    QObject::connect(&scene.vue, &DessinGraphe::Dessin, [&] { suite += "announced"; });
+    QObject::connect(&scene.vue, &DessinGraphe::Redessin, [&] { suite += "done"; });
     scene.vue.Repaint();
     EXPECT_EQ(suite, (QStringList{"announced", "done"}));
 }
@@ -21,7 +21,7 @@ TEST(ChartRedraw, IsAnnouncedOnceBeforeItIsDone) {
 TEST(ChartRedraw, OfAZoomAScrollAndALegendClickIsAnnounced) {
     Scene scene;
     QCoreApplication::processEvents();
-    QSignalSpy annonces(&scene.vue, &VueGraphe::Dessin);
+    QSignalSpy annonces(&scene.vue, &DessinGraphe::Dessin);
     scene.Rouler(scene.Dans(0.3, 0.5), 1);
     EXPECT_EQ(annonces.count(), 1);
     QTest::mouseClick(&scene.vue, Qt::LeftButton, {}, scene.CaseLegende(1));
@@ -36,7 +36,7 @@ TEST(ChartRedraw, OfAZoomAScrollAndALegendClickIsAnnounced) {
 TEST(ChartRedraw, IsAnnouncedWithWhatIsVisibleAlreadyInTheModel) {
     Scene scene;
     std::vector<int> premiers;
-    QObject::connect(&scene.vue, &VueGraphe::Dessin,
+    QObject::connect(&scene.vue, &DessinGraphe::Dessin,
                      [&] { premiers.push_back(scene.modele.FirstValueIndex(0)); });
     scene.vue.Montrer({{200.5, 300}, {3, 5}, {0, 50}});
     scene.vue.RemettreEchelles();
@@ -48,8 +48,9 @@ TEST(ChartRedraw, ShowsTheLinesThatItsAnnouncementMoved) {
     OutilGraphe ligne;
     ligne.genre = OutilGraphe::Genre::LigneCouleur;
     scene.modele.AjouterOutil(ligne);
-    QObject::connect(&scene.vue, &VueGraphe::Dessin, [&] { scene.modele.Outil(0).valeur = 4.5; });
-    QSignalSpy dessins(&scene.vue, &VueGraphe::Redessin);
+    QObject::connect(&scene.vue, &DessinGraphe::Dessin,
+                     [&] { scene.modele.Outil(0).valeur = 4.5; });
+    QSignalSpy dessins(&scene.vue, &DessinGraphe::Redessin);
     scene.vue.Repaint();
     EXPECT_EQ(dessins.count(), 1);
     const auto* dessinee = qobject_cast<QCPItemStraightLine*>(scene.vue.item(0));
@@ -60,21 +61,21 @@ TEST(ChartRedraw, ShowsTheLinesThatItsAnnouncementMoved) {
 TEST(ChartRedraw, AskedForByItsAnnouncementMakesNoLoop) {
     Scene scene;
     QCoreApplication::processEvents();
-    QSignalSpy annonces(&scene.vue, &VueGraphe::Dessin);
-    QObject::connect(&scene.vue, &VueGraphe::Dessin, [&] { scene.vue.Repaint(); });
+    QSignalSpy annonces(&scene.vue, &DessinGraphe::Dessin);
+    QObject::connect(&scene.vue, &DessinGraphe::Dessin, [&] { scene.vue.Repaint(); });
     scene.vue.Repaint();
     QCoreApplication::processEvents();
     EXPECT_EQ(annonces.count(), 1);
-    scene.vue.hide();
+    scene.graphe.hide();
     scene.vue.Repaint();
     EXPECT_EQ(annonces.count(), 2);
 }
 
 TEST(ChartRedraw, OfAHiddenChartIsAnnouncedButNotDone) {
     Scene scene;
-    scene.vue.hide();
-    QSignalSpy annonces(&scene.vue, &VueGraphe::Dessin);
-    QSignalSpy dessins(&scene.vue, &VueGraphe::Redessin);
+    scene.graphe.hide();
+    QSignalSpy annonces(&scene.vue, &DessinGraphe::Dessin);
+    QSignalSpy dessins(&scene.vue, &DessinGraphe::Redessin);
     scene.vue.Repaint();
     EXPECT_EQ(annonces.count(), 1);
     EXPECT_EQ(dessins.count(), 0);

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "chart/model/chart_model.h"
+#include "chart/view/chart_plot.h"
 #include "chart/view/chart_view.h"
 #include "chart/view/chart_view_legend.h"
 
@@ -26,9 +27,9 @@ struct Scene {
         modele.bas.etiquettesTexte = true;
         modele.legendeCases = true;
         modele.FixerPlage(0, points - 1);
-        vue.Lier(modele);
-        vue.resize(900, 480);
-        vue.show();
+        graphe.Lier(modele);
+        graphe.resize(900, 480);
+        graphe.show();
     }
 
     QRect Cadre() const { return vue.axisRect()->rect(); }
@@ -84,7 +85,9 @@ struct Scene {
     }
 
     ModeleGraphe modele;
-    VueGraphe vue;
+    VueGraphe graphe;
+    /// What it holds.
+    DessinGraphe& vue = graphe.Toile();
 };
 
 }  // namespace bornika::essai

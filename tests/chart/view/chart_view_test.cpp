@@ -91,18 +91,18 @@ TEST(ChartView, PointsOutOfOrderInTimeAreDrawnInTime) {
 
 TEST(ChartView, AHiddenChartTakesNoDataUntilItIsShown) {
     Scene scene;
-    scene.vue.hide();
+    scene.graphe.hide();
     scene.modele.Serie(0).AjouterPoint(1000, 9, MagasinEtiquettes::vide);
     scene.modele.Redessiner();
     scene.vue.Repaint();
     EXPECT_EQ(scene.vue.graph(0)->dataCount(), 1000);
-    scene.vue.show();
+    scene.graphe.show();
     EXPECT_EQ(scene.vue.graph(0)->dataCount(), 1001);
 }
 
 TEST(ChartView, EachRedrawRaisesItsEvent) {
     Scene scene;
-    QSignalSpy dessins(&scene.vue, &VueGraphe::Redessin);
+    QSignalSpy dessins(&scene.vue, &DessinGraphe::Redessin);
     scene.vue.Repaint();
     EXPECT_EQ(dessins.count(), 1);
 }

@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "chart/view/chart_view.h"
+#include "chart/view/chart_plot.h"
 #include "chart/view/chart_view_cursor.h"
 
 namespace bornika {
@@ -28,7 +28,7 @@ bool SeVoit(const OutilGraphe& curseur, const Apparence& apparence) {
 
 }  // namespace
 
-void VueGraphe::ZoomerSur(const QRect& zone) {
+void DessinGraphe::ZoomerSur(const QRect& zone) {
     animation.Terminer();
     const auto entre = [](const QCPAxis& axe, double un, double autre) {
         return QCPRange(axe.pixelToCoord(un), axe.pixelToCoord(autre));
@@ -42,7 +42,7 @@ void VueGraphe::ZoomerSur(const QRect& zone) {
     Q_EMIT Zoom();
 }
 
-void VueGraphe::ZoomerAutour(double centre, double facteur) {
+void DessinGraphe::ZoomerAutour(double centre, double facteur) {
     animation.Terminer();
     const QCPRange entiere = EtenduesEntieres().bas;
     Etendues cible = EtenduesVisibles();
@@ -57,7 +57,7 @@ void VueGraphe::ZoomerAutour(double centre, double facteur) {
     Q_EMIT Zoom();
 }
 
-void VueGraphe::Defiler(double temps, double valeurs) {
+void DessinGraphe::Defiler(double temps, double valeurs) {
     if (!PeutNaviguer()) return;
     animation.Terminer();
     const Etendues entieres = EtenduesEntieres();
@@ -76,7 +76,7 @@ void VueGraphe::Defiler(double temps, double valeurs) {
         Montrer(cible);
 }
 
-double VueGraphe::CentreZoom() const {
+double DessinGraphe::CentreZoom() const {
     const QCPRange& montree = xAxis->range();
     const OutilGraphe* curseur = modele_ ? CurseurMobile(std::as_const(*modele_)) : nullptr;
     const bool visible = curseur && curseur->point >= 0 && montree.contains(curseur->x) &&
@@ -84,7 +84,7 @@ double VueGraphe::CentreZoom() const {
     return visible ? curseur->x : montree.center();
 }
 
-bool VueGraphe::AvancerCurseur(PasCurseur pas) {
+bool DessinGraphe::AvancerCurseur(PasCurseur pas) {
     const OutilGraphe* curseur = modele_ ? CurseurMobile(std::as_const(*modele_)) : nullptr;
     if (!curseur || !SeVoit(*curseur, apparence_)) return false;
     animation.Terminer();
@@ -97,7 +97,7 @@ bool VueGraphe::AvancerCurseur(PasCurseur pas) {
 }
 
 /// Scrolls in time as far as the cursor needs.
-void VueGraphe::MontrerCurseur() {
+void DessinGraphe::MontrerCurseur() {
     const double x = CurseurMobile(*modele_)->x;
     Etendues cible = EtenduesVisibles();
     if (cible.bas.contains(x)) return;
@@ -108,7 +108,7 @@ void VueGraphe::MontrerCurseur() {
     Montrer(cible);
 }
 
-void VueGraphe::AnnulerZoom() {
+void DessinGraphe::AnnulerZoom() {
     if (!PeutNaviguer()) return;
     animation.Terminer();
     const Etendues entieres = EtenduesEntieres();
@@ -119,7 +119,7 @@ void VueGraphe::AnnulerZoom() {
     Q_EMIT AnnulationZoom();
 }
 
-void VueGraphe::RemettreEchelles() {
+void DessinGraphe::RemettreEchelles() {
     animation.Abandonner();
     echellesFixes_ = false;
     if (!modele_) return;
