@@ -111,7 +111,7 @@ void DessinGraphe::FixerRegional(const Regional& regional) {
 }
 
 Couleur DessinGraphe::CouleurSerie(int position) const {
-    return modele_->Serie(position).couleur.value_or(apparence_.CouleurSerie(position));
+    return CouleurCourbe(*modele_, position, apparence_);
 }
 
 void DessinGraphe::Repaint() {

@@ -33,6 +33,10 @@ class CourbeParMorceaux : public QCPGraph {
 
 }  // namespace
 
+Couleur CouleurCourbe(const ModeleGraphe& modele, int position, const Apparence& apparence) {
+    return modele.Serie(position).couleur.value_or(apparence.CouleurSerie(position));
+}
+
 void CourbesGraphe::Refaire(const ModeleGraphe& modele) {
     dessin_.clearGraphs();
     courbes_.assign(static_cast<std::size_t>(modele.NombreSeries()), Courbe{});
@@ -56,7 +60,7 @@ void CourbesGraphe::Accorder(const ModeleGraphe& modele, const Apparence& appare
         QCPGraph& graphe = *courbe.graphe;
         graphe.setValueAxis(serie.axe == SerieGraphe::Axe::Gauche ? dessin_.yAxis : dessin_.yAxis2);
         // Width 0 is one device pixel on every screen: wider pens cost many times as much.
-        graphe.setPen(QPen(apparence.trait(serie.couleur.value_or(apparence.CouleurSerie(i))), 0));
+        graphe.setPen(QPen(apparence.trait(CouleurCourbe(modele, i, apparence)), 0));
         graphe.setVisible(serie.active && !vide);
         if (serie.active) AccorderPoints(courbe, serie);
     }

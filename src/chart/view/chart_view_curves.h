@@ -9,6 +9,10 @@
 
 namespace bornika {
 
+/// The colour in which a series is drawn: its own, or else that of its position. Fault 9 for a
+/// position that is not there.
+Couleur CouleurCourbe(const ModeleGraphe& modele, int position, const Apparence& apparence);
+
 /// Keeps one graph of the plot for each series of the model. Points are handed over in bulk, only
 /// when they have changed, and only for curves that are switched on; points that a load added are
 /// appended.
