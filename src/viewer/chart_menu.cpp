@@ -28,7 +28,7 @@ QString NomEnregistrement(const Trace& trace) {
 }
 
 /// Asks for a file and writes into it what `contenu` holds.
-void Enregistrer(Trace& trace, const QString& extension, const QByteArray& contenu) {
+void EnregistrerGraphe(Trace& trace, const QString& extension, const QByteArray& contenu) {
     // The dialog lets the interface run: the form may be closed meanwhile.
     const Trace::Occupation occupation(trace);
     Systeme& systeme = trace.ecran.systeme;
@@ -87,12 +87,12 @@ void CopierImage_Click(Trace& trace) {
 }
 
 void EnregistrerPng_Click(Trace& trace) {
-    Enregistrer(trace, QStringLiteral("png"), PngGraphe(*trace.ui->TChart1));
+    EnregistrerGraphe(trace, QStringLiteral("png"), PngGraphe(*trace.ui->TChart1));
 }
 
 void EnregistrerPdf_Click(Trace& trace) {
-    Enregistrer(trace, QStringLiteral("pdf"),
-                PdfGraphe(*trace.ui->TChart1, NomEnregistrement(trace)));
+    EnregistrerGraphe(trace, QStringLiteral("pdf"),
+                      PdfGraphe(*trace.ui->TChart1, NomEnregistrement(trace)));
 }
 
 }  // namespace bornika

@@ -112,14 +112,14 @@ void FinirGraphe(Trace& trace) {
 // Faults are ignored in what raised events do, too: a setting that cannot be saved is no reason to
 // show no curve. Between these two the interface runs, and its events are guarded as ever.
 
-void Preparer(Trace& trace) {
+void PreparerChargement(Trace& trace) {
     const FautesIgnorees ignorees;
     LireReglagesDebit(trace);
     MontrerControles(trace);
     PreparerGraphe(trace);
 }
 
-void Finir(Trace& trace) {
+void AcheverChargement(Trace& trace) {
     const FautesIgnorees ignorees;
     FinirGraphe(trace);
     ignorer([&] { trace.ui->Curseur->Choisir(0); });
@@ -142,13 +142,13 @@ void ChargeCourbes(Trace& trace, const QString& NomFichier, bool Reload) {
     if (trace.Chargement) return;
     trace.Chargement = true;
     const Trace::Occupation occupation(trace);
-    Preparer(trace);
+    PreparerChargement(trace);
     FixerPointeurSouris(trace, pointeur::sablier);
     // The name may be the form's own, which the operator can change while the load yields.
     const QString nom = NomFichier;
     LireFichiers(trace, nom, Reload);
     FixerPointeurSouris(trace, pointeur::fleche);
-    if (!trace.EnFermeture()) Finir(trace);
+    if (!trace.EnFermeture()) AcheverChargement(trace);
     trace.Chargement = false;
 }
 

@@ -22,7 +22,7 @@ PorteCouleur PorteDe(int index) {
     return {false, index - nombreLignes};
 }
 
-bool Existe(const Trace& trace, PorteCouleur porte) {
+bool PorteExiste(const Trace& trace, PorteCouleur porte) {
     const int nombre = porte.ligne ? trace.modele.NombreOutils() : trace.modele.NombreSeries();
     return porte.position < nombre;
 }
@@ -43,14 +43,14 @@ void Couleurs_Click(Trace& trace) {
     const int index = trace.ui->Couleurs->Index();
     if (trace.Chargement || index < 0) return;
     const PorteCouleur porte = PorteDe(index);
-    if (!Existe(trace, porte)) return;
+    if (!PorteExiste(trace, porte)) return;
 
     // The dialog lets the interface run: the chart may have changed when it comes back.
     const Trace::Occupation occupation(trace);
     const Couleur depart = porte.ligne ? trace.modele.Outil(porte.position).crayon
                                        : trace.ui->TChart1->CouleurSerie(porte.position);
     const auto choisie = trace.ecran.systeme.dialogues.Couleur(depart);
-    if (!choisie || !Existe(trace, porte)) return;
+    if (!choisie || !PorteExiste(trace, porte)) return;
     if (porte.ligne)
         trace.modele.Outil(porte.position).crayon = *choisie;
     else

@@ -60,7 +60,7 @@ std::optional<QPointF> PointLu(Trace& trace, int index) {
     return QPointF(curseur.x, curseur.y);
 }
 
-void Afficher(Trace& trace) {
+void AfficherLecture(Trace& trace) {
     const int index = trace.ui->Curseur->Index();
     if (index < 0 || index >= static_cast<int>(std::size(lectures))) return;
     const Lecture& lecture = lectures[index];
@@ -102,7 +102,7 @@ void Marques_Click(Trace& trace) {
 }
 
 void AfficheCurseur(Trace& trace) {
-    ignorer([&] { Afficher(trace); });
+    ignorer([&] { AfficherLecture(trace); });
 }
 
 }  // namespace bornika

@@ -37,7 +37,7 @@ QString DemanderCible(Trace& trace, const QString& extension) {
     return trace.NomDialogue;
 }
 
-DemandeSelection Demande(Trace& trace, FormatSelection format) {
+DemandeSelection DemandePour(Trace& trace, FormatSelection format) {
     return {format,
             PorteesVisibles(trace.modele),
             trace.ecran.Texte(QStringLiteral("Temps")),
@@ -48,7 +48,7 @@ DemandeSelection Demande(Trace& trace, FormatSelection format) {
 }
 
 /// The recordings of the view.
-QStringList Sources(const Trace& trace) {
+QStringList SourcesVue(const Trace& trace) {
     QStringList sources = CheminsFichiers(trace.NomFichierCourant);
     for (QString& source : sources)
         source = TrouverFichier(source);
@@ -93,7 +93,8 @@ void EcrireDans(const QString& cible, ModeEcriture mode, SourceSelection& source
 }
 
 /// The target is read as a source, too: it stays as it is until all is read.
-void Remplacer(const QString& cible, const QStringList& sources, const DemandeSelection& demande) {
+void RemplacerSource(const QString& cible, const QStringList& sources,
+                     const DemandeSelection& demande) {
     QByteArray contenu;
     for (const QString& chemin : sources)
         SourceSelection(chemin, demande).Transmettre([&](QByteArrayView ligne) {
@@ -107,7 +108,7 @@ template <class Apres>
 void EcrireSelection(const QString& cible, const QStringList& sources,
                      const DemandeSelection& demande, Apres&& apres) {
     const bool enUneFois = EstUneDe(sources, cible);
-    if (enUneFois) Remplacer(cible, sources, demande);
+    if (enUneFois) RemplacerSource(cible, sources, demande);
     ModeEcriture mode = ModeEcriture::Remplacer;
     for (const QString& chemin : sources) {
         if (!enUneFois) {
@@ -137,7 +138,7 @@ void EcrireVersCible(Trace& trace, QPushButton& bouton, const QString& extension
     bouton.setEnabled(false);
     // The dialog painted.
     LibererRegistresVectoriels();
-    ecriture(cible, Sources(trace));
+    ecriture(cible, SourcesVue(trace));
     trace.setWindowTitle(cible);
     bouton.setEnabled(true);
 }
@@ -164,7 +165,7 @@ QString LigneMiseAJour(const QString& ligne, const Regional& regional) {
 void Export(Trace& trace) {
     EcrireVersCible(trace, *trace.ui->Export, QStringLiteral("csv"),
                     [&](const QString& cible, const QStringList& sources) {
-                        EcrireSelection(cible, sources, Demande(trace, FormatSelection::Csv),
+                        EcrireSelection(cible, sources, DemandePour(trace, FormatSelection::Csv),
                                         [](ModeEcriture) {});
                     });
 }
@@ -175,7 +176,7 @@ void EnregistrerSelection(Trace& trace) {
         [&](const QString& cible, const QStringList& sources) {
             const QString commentaires = CheminCommentairesCible(cible, sources);
             EcrireSelection(
-                cible, sources, Demande(trace, FormatSelection::Enregistrement),
+                cible, sources, DemandePour(trace, FormatSelection::Enregistrement),
                 [&](ModeEcriture mode) { EcrireCommentaires(trace, commentaires, mode); });
         });
 }

@@ -14,17 +14,17 @@ namespace {
 constexpr double margesMillimetres = 10;
 
 /// The annotation tool, counted from the end.
-OutilGraphe& Annotation(ModeleGraphe& modele) {
+OutilGraphe& OutilAnnotation(ModeleGraphe& modele) {
     return modele.Outil(modele.NombreOutils() - 5);
 }
 
-void Ranger(Trace& trace) {
-    Annotation(trace.modele).actif = false;
+void RangerAnnotation(Trace& trace) {
+    OutilAnnotation(trace.modele).actif = false;
     trace.modele.Redessiner();
 }
 
 void MontrerStatistiques(Trace& trace) {
-    OutilGraphe& annotation = Annotation(trace.modele);
+    OutilGraphe& annotation = OutilAnnotation(trace.modele);
     annotation.actif = true;
     annotation.texte = TexteStatistiques(trace);
 }
@@ -60,10 +60,10 @@ void Imprimer_Click(Trace& trace) {
     try {
         MontrerApercu(trace);
     } catch (...) {
-        ignorer([&] { Ranger(trace); });
+        ignorer([&] { RangerAnnotation(trace); });
         throw;
     }
-    Ranger(trace);
+    RangerAnnotation(trace);
 }
 
 }  // namespace bornika

@@ -18,7 +18,7 @@ namespace {
 constexpr int champUnite = 7;
 constexpr int champsAppareil = 7;
 
-const char* Chercher(char octet, const char* debut, const char* fin) {
+const char* ChercherOctet(char octet, const char* debut, const char* fin) {
     return static_cast<const char*>(
         std::memchr(debut, octet, static_cast<std::size_t>(fin - debut)));
 }
@@ -30,12 +30,12 @@ const char* FinDuChamp(const char* debut, const char* fin) {
     const char* const proche = fin - debut > court ? debut + court : fin;
     for (; debut != proche; ++debut)
         if (*debut == finChamp) return debut;
-    const char* const loin = Chercher(finChamp, debut, fin);
+    const char* const loin = ChercherOctet(finChamp, debut, fin);
     return loin ? loin : fin;
 }
 
 template <class Champs>
-auto Champ(const Champs& champs, int position) {
+auto ChampA(const Champs& champs, int position) {
     if (position >= static_cast<int>(champs.size())) LeverFaute(numero_faute::indice);
     return champs[position];
 }
@@ -79,14 +79,14 @@ QByteArrayList ChampsEntete(QByteArray ligne, const DemandeSelection& demande) {
     return champs;
 }
 
-QByteArray Entete(const QByteArrayList& champs, const DemandeSelection& demande) {
+QByteArray EnteteEcrite(const QByteArrayList& champs, const DemandeSelection& demande) {
     if (demande.format == FormatSelection::Enregistrement) return champs.join(finChamp);
     const int troisieme = champs.size() < champsAppareil ? champComptage : champDebit;
-    return Vers8Bits(demande.titreTemps) + finChamp + Champ(champs, champPression) + finChamp +
-           Champ(champs, troisieme);
+    return Vers8Bits(demande.titreTemps) + finChamp + ChampA(champs, champPression) + finChamp +
+           ChampA(champs, troisieme);
 }
 
-Plage Portee(const SerieGraphe& serie, const PointsVisibles& points, const Plage& visible) {
+Plage PorteeSerie(const SerieGraphe& serie, const PointsVisibles& points, const Plage& visible) {
     const auto x = serie.X().subspan(static_cast<std::size_t>(points.premier),
                                      static_cast<std::size_t>(points.dernier - points.premier + 1));
     if (serie.EstTriee()) return {x.front(), x.back()};
@@ -106,7 +106,7 @@ std::vector<Plage> PorteesVisibles(const ModeleGraphe& modele) {
     for (int s = 0; s < modele.NombreSeries(); ++s) {
         const PointsVisibles points = modele.Visibles(s);
         if (points.premier < 0 || points.dernier < 0) continue;
-        const Plage portee = Portee(modele.Serie(s), points, modele.bas.plage);
+        const Plage portee = PorteeSerie(modele.Serie(s), points, modele.bas.plage);
         if (std::find(portees.begin(), portees.end(), portee) == portees.end())
             portees.push_back(portee);
     }
@@ -122,12 +122,12 @@ LecteurSelection::LecteurSelection(QByteArrayView source, const DemandeSelection
     if (source.isEmpty()) LeverFaute(numero_faute::indice);
     // A source of one single line is a header.
     const QByteArrayView ligne = Couper().value_or(source);
-    entete_ = bornika::Entete(ChampsEntete(ligne.toByteArray(), demande), demande);
+    entete_ = EnteteEcrite(ChampsEntete(ligne.toByteArray(), demande), demande);
 }
 
 std::optional<QByteArrayView> LecteurSelection::Couper() {
     if (place_ == fin_) return {};
-    const char* const finLigne = Chercher(finLigne_, place_, fin_);
+    const char* const finLigne = ChercherOctet(finLigne_, place_, fin_);
     if (!finLigne) return {};
     const QByteArrayView ligne(place_, finLigne);
     place_ = finLigne + 1;
@@ -168,7 +168,7 @@ std::optional<QByteArrayView> LecteurSelection::SuiteGardee(QByteArrayView ligne
 
 QByteArrayView LecteurSelection::SansSautDeLigne(QByteArrayView ligne) {
     if (ligne.startsWith('\n')) ligne = ligne.sliced(1);
-    if (!Chercher('\n', ligne.data(), ligne.data() + ligne.size())) return ligne;
+    if (!ChercherOctet('\n', ligne.data(), ligne.data() + ligne.size())) return ligne;
     entiere_ = ligne.toByteArray().replace('\n', "");
     return entiere_;
 }
@@ -178,7 +178,7 @@ QByteArrayView LecteurSelection::Colonnes(QByteArrayView suite) {
     const int troisieme = champs.size() <= champsAppareil ? champComptage : champDebit;
     colonnes_.clear();
     for (const int position : {champDate, champPression, troisieme}) {
-        const QByteArrayView champ = Champ(champs, position);
+        const QByteArrayView champ = ChampA(champs, position);
         colonnes_.append(champ.data(), static_cast<std::size_t>(champ.size()));
         colonnes_.push_back(finChamp);
     }

@@ -41,7 +41,7 @@ Ligne::AxeLigne AxeDesLignes(const ModeleGraphe& modele, int choisie) {
                : Ligne::AxeLigne::Droite;
 }
 
-void Calculer(Trace& trace) {
+void CalculerLignesStatistiques(Trace& trace) {
     auto& ui = *trace.ui;
     if (!ui.MinMaxMoy->isChecked()) {
         Lignes(trace.modele).Montrer(false);
@@ -72,7 +72,7 @@ void Calculer(Trace& trace) {
 }  // namespace
 
 void CalculeMinMaxMoy(Trace& trace) {
-    ignorer([&] { Calculer(trace); });
+    ignorer([&] { CalculerLignesStatistiques(trace); });
 }
 
 void MinMaxMoy_Click(Trace& trace) {

@@ -10,12 +10,12 @@ namespace bornika {
 
 namespace {
 
-void Traduire(Trace& trace, QObject& controle) {
+void TraduireControle(Trace& trace, QObject& controle) {
     const QString texte = trace.ecran.Texte(CleDe(controle), CaptionDeDepart(controle));
     if (!texte.isEmpty()) FixerCaption(controle, texte);
 }
 
-QString Aide(Trace& trace, const QString& langue, const QString& cle) {
+QString AideControle(Trace& trace, const QString& langue, const QString& cle) {
     return Message(trace.ecran.configuration, trace.ecran.systeme.dossier, langue,
                    QStringLiteral("AIDE_") + cle, trace.ecran.etat.TypekPod, cle);
 }
@@ -24,7 +24,7 @@ QString Aide(Trace& trace, const QString& langue, const QString& cle) {
 
 void TraduireControles(Trace& trace) {
     for (QObject* controle : ControlesDe(trace))
-        if (aCaption(*controle)) ignorer([&] { Traduire(trace, *controle); });
+        if (aCaption(*controle)) ignorer([&] { TraduireControle(trace, *controle); });
 }
 
 void AfficheAide(Trace& trace, const QString& langue, bool actif) {
@@ -34,7 +34,7 @@ void AfficheAide(Trace& trace, const QString& langue, bool actif) {
         if (!actif)
             widget->setToolTip({});
         else if (aBulle(*widget))
-            ignorer([&] { widget->setToolTip(Aide(trace, langue, CleDe(*widget))); });
+            ignorer([&] { widget->setToolTip(AideControle(trace, langue, CleDe(*widget))); });
     }
 }
 

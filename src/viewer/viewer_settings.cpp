@@ -15,21 +15,22 @@ const QString cleCoefImpulsion = QStringLiteral("CoefImpulsion");
 const QString cleUniteImpulsion = QStringLiteral("UniteImpulsion");
 const QString cleIndexListeTemps = QStringLiteral("IndexListeTemps");
 
-QString Reglage(Trace& trace, const QString& cle) {
+QString ReglageEnregistre(Trace& trace, const QString& cle) {
     return trace.ecran.configuration.LitConfig(cle).value_or(QString());
 }
 
 /// Numbers of the configuration have a point whatever the locale.
 int IndexEnregistre(Trace& trace) {
-    const QString texte = Reglage(trace, cleIndexListeTemps);
+    const QString texte = ReglageEnregistre(trace, cleIndexListeTemps);
     return EstNumerique(texte, Regional{}) ? EnEntier32(ValeurDebut(texte)) : -1;
 }
 
 }  // namespace
 
 void LireReglagesDebit(Trace& trace) {
-    ignorer([&] { trace.ui->CoefImpulsion->setText(Reglage(trace, cleCoefImpulsion)); });
-    ignorer([&] { trace.ui->UniteImpulsion->setText(Reglage(trace, cleUniteImpulsion)); });
+    ignorer([&] { trace.ui->CoefImpulsion->setText(ReglageEnregistre(trace, cleCoefImpulsion)); });
+    ignorer(
+        [&] { trace.ui->UniteImpulsion->setText(ReglageEnregistre(trace, cleUniteImpulsion)); });
     ignorer([&] { trace.ui->ListeTemps->Choisir(IndexEnregistre(trace)); });
 }
 

@@ -90,14 +90,14 @@ int PointProche(const ModeleGraphe& modele, int serie, double x) {
 
 namespace {
 
-void Poser(OutilGraphe& curseur, const SerieGraphe& serie, int point) {
+void PoserCurseur(OutilGraphe& curseur, const SerieGraphe& serie, int point) {
     curseur.point = point;
     curseur.x = serie.X()[static_cast<std::size_t>(point)];
     curseur.y = serie.Y()[static_cast<std::size_t>(point)];
 }
 
 /// The nearest point in that direction whose time lies within the limits.
-int Voisin(const Points& points, int depart, int sens, const Plage& limites) {
+int PointVoisin(const Points& points, int depart, int sens, const Plage& limites) {
     for (int point = depart + sens; point >= 0 && point < points.Nombre(); point += sens) {
         const bool dedans = limites.Contient(points.x[static_cast<std::size_t>(point)]);
         if (!dedans && points.trie) return -1;
@@ -111,18 +111,20 @@ bool EstSurUnPoint(const OutilGraphe& curseur, const Points& points) {
            points.x[static_cast<std::size_t>(curseur.point)] == curseur.x;
 }
 
-int Prochain(const ModeleGraphe& modele, const OutilGraphe& curseur, PasCurseur pas, bool horsVue) {
+int ProchainPoint(const ModeleGraphe& modele, const OutilGraphe& curseur, PasCurseur pas,
+                  bool horsVue) {
     const Points points(modele.Serie(curseur.serie));
     const Plage& vue = modele.bas.plage;
     const PointsVisibles visibles = modele.Visibles(curseur.serie);
     if (visibles.premier < 0) return -1;
-    if (pas == PasCurseur::PremierVisible) return Voisin(points, visibles.premier - 1, 1, vue);
-    if (pas == PasCurseur::DernierVisible) return Voisin(points, visibles.dernier + 1, -1, vue);
+    if (pas == PasCurseur::PremierVisible) return PointVoisin(points, visibles.premier - 1, 1, vue);
+    if (pas == PasCurseur::DernierVisible)
+        return PointVoisin(points, visibles.dernier + 1, -1, vue);
     if (!EstSurUnPoint(curseur, points))
         return PointProche(modele, curseur.serie, (vue.min + vue.max) / 2);
     if (!vue.Contient(curseur.x)) return PointProche(modele, curseur.serie, curseur.x);
-    return Voisin(points, curseur.point, pas == PasCurseur::Suivant ? 1 : -1,
-                  horsVue && points.trie ? modele.PlageMontrable() : vue);
+    return PointVoisin(points, curseur.point, pas == PasCurseur::Suivant ? 1 : -1,
+                       horsVue && points.trie ? modele.PlageMontrable() : vue);
 }
 
 }  // namespace
@@ -130,9 +132,9 @@ int Prochain(const ModeleGraphe& modele, const OutilGraphe& curseur, PasCurseur 
 bool AvancerCurseur(ModeleGraphe& modele, PasCurseur pas, bool horsVue) {
     OutilGraphe* curseur = CurseurMobile(modele);
     if (!curseur) return false;
-    const int point = Prochain(modele, *curseur, pas, horsVue);
+    const int point = ProchainPoint(modele, *curseur, pas, horsVue);
     if (point < 0) return false;
-    Poser(*curseur, modele.Serie(curseur->serie), point);
+    PoserCurseur(*curseur, modele.Serie(curseur->serie), point);
     return true;
 }
 
@@ -141,7 +143,7 @@ bool DeplacerCurseur(ModeleGraphe& modele, double x) {
     if (!curseur) return false;
     const int point = PointProche(modele, curseur->serie, x);
     if (point < 0) return false;
-    Poser(*curseur, modele.Serie(curseur->serie), point);
+    PoserCurseur(*curseur, modele.Serie(curseur->serie), point);
     return true;
 }
 

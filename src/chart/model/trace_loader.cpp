@@ -32,7 +32,7 @@ constexpr int cessionsSansHorloge = 64;
 constexpr qint64 pointsReserves = 1'000'000;
 
 /// Opens a recording. Fault 53 for a missing file, 70 for one that cannot be read.
-void Ouvrir(QFile& fichier) {
+void OuvrirEnregistrement(QFile& fichier) {
     if (!fichier.exists()) LeverFaute(numero_faute::fichierIntrouvable);
     if (!fichier.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
         LeverFaute(numero_faute::accesRefuse);
@@ -254,7 +254,7 @@ void TraceCourbe(FicheChargement& fiche, const QString& NomFichier, bool init, b
 
     const QString chemin = TrouverFichier(NomFichier);
     QFile fichier(chemin);
-    Ouvrir(fichier);
+    OuvrirEnregistrement(fichier);
     const qint64 taille = fichier.size();
     const int pas = taille <= tailleEntiere ? 1 : lignesPassees;
     QFile compagnon;

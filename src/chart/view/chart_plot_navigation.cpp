@@ -15,7 +15,7 @@ constexpr double retraitCurseur = 0.1;
 constexpr double zoomExtreme = 1e-7;
 
 /// A range moved by `ecart`, but not further out of the whole one than it is.
-QCPRange Decaler(const QCPRange& etendue, const QCPRange& entiere, double ecart) {
+QCPRange DecalerEtendue(const QCPRange& etendue, const QCPRange& entiere, double ecart) {
     const double avant = std::min(0.0, entiere.lower - etendue.lower);
     const double apres = std::max(0.0, entiere.upper - etendue.upper);
     return etendue + std::clamp(ecart, avant, apres);
@@ -64,7 +64,7 @@ void DessinGraphe::Defiler(double temps, double valeurs) {
     const Etendues visibles = EtenduesVisibles();
     Etendues cible = visibles;
     const auto decaler = [](QCPRange& etendue, const QCPRange& entiere, double part) {
-        etendue = Decaler(etendue, entiere, part * etendue.size());
+        etendue = DecalerEtendue(etendue, entiere, part * etendue.size());
     };
     if (Defilement() & 1) decaler(cible.bas, entieres.bas, temps);
     if (Defilement() & 2) {
@@ -104,7 +104,7 @@ void DessinGraphe::MontrerCurseur() {
     const double retrait = cible.bas.size() * retraitCurseur;
     const double ecart =
         x < cible.bas.lower ? x - retrait - cible.bas.lower : x + retrait - cible.bas.upper;
-    cible.bas = Decaler(cible.bas, EtenduesEntieres().bas, ecart);
+    cible.bas = DecalerEtendue(cible.bas, EtenduesEntieres().bas, ecart);
     Montrer(cible);
 }
 

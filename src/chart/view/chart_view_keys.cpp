@@ -11,7 +11,7 @@ constexpr double partTouche = 0.8;
 /// One press of an arrow moves the view by that part of what it shows.
 constexpr double pasFleche = 0.1;
 
-bool Zoomer(DessinGraphe& vue, int touche) {
+bool ZoomerParTouche(DessinGraphe& vue, int touche) {
     switch (touche) {
         case Qt::Key_Plus:
         case Qt::Key_Equal:  // the same key without the shift of many keyboards
@@ -29,7 +29,7 @@ bool Zoomer(DessinGraphe& vue, int touche) {
     }
 }
 
-bool Defiler(DessinGraphe& vue, int touche) {
+bool DefilerParTouche(DessinGraphe& vue, int touche) {
     switch (touche) {
         case Qt::Key_Left:
             vue.Defiler(-pasFleche, 0);
@@ -54,10 +54,10 @@ bool PresserTouche(DessinGraphe& vue, int touche, Qt::KeyboardModifiers avec) {
     avec &= ~(Qt::KeypadModifier | Qt::ShiftModifier);
     const bool controle = avec == Qt::ControlModifier;
     if ((avec && !controle) || !vue.PeutNaviguer()) return false;
-    if (vue.ZoomPermis() && Zoomer(vue, touche)) return true;
+    if (vue.ZoomPermis() && ZoomerParTouche(vue, touche)) return true;
     if (touche == Qt::Key_Home) return vue.AvancerCurseur(PasCurseur::PremierVisible);
     if (touche == Qt::Key_End) return vue.AvancerCurseur(PasCurseur::DernierVisible);
-    if (!controle) return Defiler(vue, touche);
+    if (!controle) return DefilerParTouche(vue, touche);
     if (touche == Qt::Key_Left) return vue.AvancerCurseur(PasCurseur::Precedent);
     if (touche == Qt::Key_Right) return vue.AvancerCurseur(PasCurseur::Suivant);
     return false;

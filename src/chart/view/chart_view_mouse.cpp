@@ -16,7 +16,7 @@ constexpr int tirageMinimal = 6;
 /// One notch of the wheel shows that part of the time shown before.
 constexpr double partCran = 0.8;
 
-QCPRange Decale(const QCPAxis& axe, const QCPRange& depart, QPoint de, QPoint a) {
+QCPRange EtendueTiree(const QCPAxis& axe, const QCPRange& depart, QPoint de, QPoint a) {
     // In pixels of the axis, so that the point under the mouse stays under it.
     const bool horizontal = axe.orientation() == Qt::Horizontal;
     const double pixels = horizontal ? a.x() - de.x() : de.y() - a.y();
@@ -70,10 +70,11 @@ void GestesGraphe::Bouger(const QMouseEvent& evenement) {
 void GestesGraphe::Tirer(QPoint position) {
     vue_.setCursor(Qt::ClosedHandCursor);
     Etendues etendues = etenduesDepart_;
-    if (vue_.Defilement() & 1) etendues.bas = Decale(*vue_.xAxis, etendues.bas, depart_, position);
+    if (vue_.Defilement() & 1)
+        etendues.bas = EtendueTiree(*vue_.xAxis, etendues.bas, depart_, position);
     if (vue_.Defilement() & 2) {
-        etendues.gauche = Decale(*vue_.yAxis, etendues.gauche, depart_, position);
-        etendues.droite = Decale(*vue_.yAxis2, etendues.droite, depart_, position);
+        etendues.gauche = EtendueTiree(*vue_.yAxis, etendues.gauche, depart_, position);
+        etendues.droite = EtendueTiree(*vue_.yAxis2, etendues.droite, depart_, position);
     }
     vue_.Montrer(etendues, QCustomPlot::rpQueuedReplot);
 }
