@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QDialog>
 #include <QDropEvent>
 #include <QMimeData>
 #include <QUrl>

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QToolButton>
+
 #include "viewer/viewer_fixture.h"
 
 namespace bornika::essai {

@@ -270,8 +270,9 @@ TEST(ChartCursorDrawing, LeavesNoTraceOnTheScreen) {
         scene.SurvolerTemps(temps);
         QCoreApplication::processEvents();
     }
-    const QImage ecran = scene.vue.screen()->grabWindow(scene.vue.winId()).toImage();
-    const QImage neuf = scene.vue.grab().toImage();
+    const QWidget& fenetre = scene.graphe;
+    const QImage ecran = fenetre.screen()->grabWindow(fenetre.winId()).toImage();
+    const QImage neuf = scene.graphe.grab().toImage();
     ASSERT_EQ(ecran.size(), neuf.size());
     EXPECT_EQ(ecran.convertToFormat(QImage::Format_RGB32),
               neuf.convertToFormat(QImage::Format_RGB32));
