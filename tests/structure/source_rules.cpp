@@ -4,6 +4,7 @@
 #include <map>
 #include <regex>
 #include <set>
+#include <utility>
 
 namespace bornika::essai {
 
@@ -66,6 +67,8 @@ const std::vector<Reserve> reserves = {
       "simulator/card_files.cpp"},
      true}};
 
+const Reserve& reserveGraphe = reserves.front();
+
 bool CommenceParUn(const std::string& chemin, const std::vector<std::string>& debuts) {
     return std::any_of(debuts.begin(), debuts.end(),
                        [&](const std::string& debut) { return chemin.starts_with(debut); });
@@ -83,20 +86,22 @@ bool Nomme(const Reserve& reserve, const std::vector<std::string>& inclus, const
                        [&](const std::string& mot) { return Contient(nu, mot, !reserve.entiers); });
 }
 
-const Reserve& reserveGraphe = reserves.front();
-
-// The file at the end of the includes from `fichier` that includes the chart library, "" without
-// one. `vus` are those that were looked at already.
-std::string AmeneLeGraphe(const Sources& sources, const std::string& fichier, Ensemble& vus) {
-    if (!vus.insert(fichier).second) return {};
-    const auto inclus = NomsInclus(sources.at(fichier));
-    if (std::find(inclus.begin(), inclus.end(), reserveGraphe.inclus.front()) != inclus.end())
-        return fichier;
-    for (const std::string& suivant : Inclusions(sources, fichier)) {
-        const std::string porteur = AmeneLeGraphe(sources, suivant, vus);
-        if (!porteur.empty()) return porteur;
+// File → the one at the end of its includes that names the chart library.
+std::map<std::string, std::string> PorteursDuGraphe(const Sources& sources) {
+    std::map<std::string, std::vector<std::string>> suivants;
+    std::map<std::string, std::string> porteurs;
+    for (const auto& [chemin, texte] : sources) {
+        suivants[chemin] = Inclusions(sources, chemin);
+        for (const std::string& nom : NomsInclus(texte))
+            if (nom == reserveGraphe.inclus.front()) porteurs[chemin] = chemin;
     }
-    return {};
+    for (bool change = true; std::exchange(change, false);)
+        for (const auto& [chemin, inclus] : suivants)
+            for (const std::string& suivant : inclus)
+                if (porteurs.contains(suivant) &&
+                    porteurs.try_emplace(chemin, porteurs.at(suivant)).second)
+                    change = true;
+    return porteurs;
 }
 
 // Walks the includes from one file; `chemin_` is the way from the start to where it stands.
@@ -188,13 +193,9 @@ Manquements FichesSansMarque(const Sources& sources) {
 
 Manquements EntrainentLaBibliothequeDuGraphe(const Sources& sources) {
     Manquements manquements;
-    for (const auto& [chemin, texte] : sources) {
-        if (CommenceParUn(chemin, reserveGraphe.places)) continue;
-        Ensemble vus;
-        const std::string porteur = AmeneLeGraphe(sources, chemin, vus);
-        if (!porteur.empty())
+    for (const auto& [chemin, porteur] : PorteursDuGraphe(sources))
+        if (!CommenceParUn(chemin, reserveGraphe.places))
             manquements.push_back(chemin + " reads the chart library by way of " + porteur);
-    }
     return manquements;
 }
 
