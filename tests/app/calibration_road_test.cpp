@@ -71,10 +71,10 @@ struct CalibrationOnTheRoad : testing::Test {
     }
     /// Types a reference and takes the point: cord off, sensor at `points`, cord on.
     void PrendrePoint(Etalonnage& fiche, int rang, const char* pression, int points) {
-        QLineEdit* saisie = fiche.Rangee(rang).ValeurPressionReelle;
-        saisie->setFocus();
-        saisie->selectAll();
-        QTest::keyClicks(saisie, QString::fromLatin1(pression));
+        BancProgramme::Taper(fiche.Rangee(rang).ValeurPressionReelle,
+                             QString::fromLatin1(pression));
+        banc.etabli.dialogues.AnnoncerInformation(QStringLiteral("Débranchez le cordon USB"));
+        banc.etabli.dialogues.AnnoncerInformation(QStringLiteral("rebranchez le cordon USB"));
         int boites = 0;
         banc.etabli.dialogues.pendantBoite = [&](const auto&) {
             if (++boites == 1) {
@@ -91,6 +91,7 @@ struct CalibrationOnTheRoad : testing::Test {
     }
     /// Points and pressure of each line of the recording.
     Lignes Telecharger() {
+        banc.etabli.dialogues.AnnoncerInformation(QStringLiteral("Valeurs stockées"));
         BancProgramme::Cliquer(banc.ui().LireValeurs);
         Lignes lignes;
         for (const QByteArray& ligne : banc.etabli.Lire("2026-03-05-14-07-09.txt").split('\n')) {

@@ -100,6 +100,7 @@ TEST_F(CardRoad, AFolderNamedAsTheLogOfStartsStopsTheImportToo) {
 
 TEST_F(CardRoad, TheRecordingIsWholeAndTheCaptionSetWhileTheBoxStandsAndTheCurveComesAfter) {
     Demarrer();
+    banc.etabli.dialogues.AnnoncerInformation(QStringLiteral("Valeurs stockées"));
     int boites = 0;
     banc.etabli.dialogues.pendantBoite = [&](const auto&) {
         ++boites;
@@ -117,6 +118,7 @@ TEST_F(CardRoad, TheNextImportTakesThePlaceOfTheCurveThatIsShown) {
     Demarrer();
     for (const char* nom : {"LOG00001.TXT", "LOG00002.TXT"}) {
         const QString fichier = QStringLiteral("CARD/") + QString::fromLatin1(nom);
+        banc.etabli.dialogues.AnnoncerInformation(QStringLiteral("Valeurs stockées"));
         Importer(banc.etabli.Chemin(fichier));
         EXPECT_EQ(banc.programme->trace.Presente()->modele.Serie(0).Nombre(),
                   banc.etabli.Lire(fichier).count("\r\n") - 1)

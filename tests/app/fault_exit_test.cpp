@@ -41,6 +41,7 @@ TEST(GeneralFailure, WhatAnOpenTextFileHeldIsOnTheDiskBeforeTheProgramLeaves) {
     FichierTexteEcrit fichier(etabli.Chemin(QStringLiteral("r.txt")), ModeEcriture::Remplacer);
     fichier.EcrireLigne(u"kept");
     QByteArray vu;
+    etabli.dialogues.AnnoncerInformation(QStringLiteral("Run-time error '9'"));
     FinirSurFaute(
         FauteExecution(numero_faute::indice), etabli.dialogues, [] {},
         [&](int) { vu = etabli.Lire(QStringLiteral("r.txt")); });

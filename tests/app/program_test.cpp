@@ -118,6 +118,7 @@ TEST(WholeProgram, AFaultInADownloadBringsWhatWasReceivedToTheDiskBeforeItLeaves
             banc.ecran().close();
         }
     });
+    banc.etabli.dialogues.AnnoncerInformation(QStringLiteral("Run-time error '91'"));
     BancProgramme::Cliquer(banc.ui().LireValeurs);
     EXPECT_EQ(banc.sorties.front(), 1);
     EXPECT_GT(lignes, 50);

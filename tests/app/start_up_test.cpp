@@ -196,6 +196,7 @@ TEST(Load, AMissingConfigurationIsTheGeneralFailure) {
 TEST(Load, AMalformedConfigurationIsTheGeneralFailureAndStaysAsItIs) {
     BancProgramme banc;
     banc.etabli.Ecrire(QStringLiteral("config.xml"), "<Configuration><Langue>");
+    banc.etabli.dialogues.AnnoncerInformation(QStringLiteral("Run-time error '91'"));
     EXPECT_FALSE(banc.Demarrer(-1));
     ASSERT_FALSE(banc.sorties.empty());
     EXPECT_EQ(banc.etabli.Lire(QStringLiteral("config.xml")),
@@ -266,6 +267,7 @@ TEST(Connected, StaysTrueAfterTheLinkWasLost) {
     EnregistreurSimule& pod = banc.bus.Brancher(simulateur::KPod2100(maintenantSimule));
     ASSERT_TRUE(banc.Demarrer());
     banc.bus.Debrancher(pod.identite.usb);
+    banc.etabli.dialogues.AnnoncerInformation(QStringLiteral("k-Pod absent"));
     BancProgramme::Cliquer(banc.ui().Lire);
     EXPECT_TRUE(banc.ecran().etat.TimeOut);
     EXPECT_TRUE(banc.ecran().etat.Connected);

@@ -178,7 +178,7 @@ TEST(CalibrationFailure, OfTheDateOfAPointDoesNotStandInTheWayOfItsEnd) {
         banc.Cliquer(banc.f().EntrerEtalonnage);
         EXPECT_TRUE(banc.ecran.etat.TimeOut);
         banc.Oublier();
-        banc.Repondre(Reponse::Non);
+        if (avance == Avance::Repos) banc.Repondre(Reponse::Non);
         banc.Cliquer(banc.f().SortirEtalonnage);
         EXPECT_TRUE(banc.f().EntrerEtalonnage->isEnabled());
         EXPECT_EQ(banc.fiche->DeuxiemePoint, 0);

@@ -160,6 +160,7 @@ TEST(LitEEpromInterne, WithoutOuvrirClosesTheLinkOnAnError) {
 
 TEST(LitEEpromInterne, WithoutOuvrirOnAClosedLinkGivesNothing) {
     BancMemoire banc;
+    banc.etabli.dialogues.AnnoncerInformation(QStringLiteral("k-Pod not found"));
     EXPECT_TRUE(LitEEpromInterne(banc.poste, 0, false).empty());
     EXPECT_TRUE(banc.enregistreur.lien.empty());
 }

@@ -232,6 +232,7 @@ TEST(UsbRead, SilenceWithoutErreurShowsNoBoxAndAsksForNoMessage) {
     EXPECT_TRUE(b.dialogues.Boites().empty());
     EXPECT_TRUE(b.ecran.etat.TimeOut);
     b.ecran.etat.TimeOut = false;
+    b.dialogues.AnnoncerInformation(q("x"));
     b.lien.UsbRead(3, message, true, false, {});
     EXPECT_EQ(demandes, 1);
 }

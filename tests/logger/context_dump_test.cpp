@@ -377,6 +377,7 @@ TEST_F(DumpDuContexte, ReachesTheLoggerAgainAfterTheNextReading) {
     DumpContexte(banc.poste);
     EXPECT_EQ(Demandes(), 0U);
     EXPECT_EQ(Boites(), 1U);
+    banc.etabli.dialogues.AnnoncerInformation(QStringLiteral("Mode étalonnage en cours"));
     Lire_Parametres(banc.poste);
     Choisir(QStringLiteral("dump.txt"));
     DumpContexte(banc.poste);

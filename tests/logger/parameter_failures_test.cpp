@@ -44,7 +44,7 @@ constexpr std::size_t rangCommentaire2 = 10;
 constexpr std::size_t rangUnite = 13;
 constexpr std::size_t rangVersionFinale = 17;
 
-/// A bench whose displays all hold what no reading would leave.
+/// A stand whose displays all hold what no reading would leave.
 struct BancTemoin : BancEnregistreur {
     BancTemoin() {
         PreparerEnregistreur(enregistreur);
@@ -152,6 +152,7 @@ TEST(SilencePendantLaLecture, OfTheCalibrationDateGivesZerosWithoutAnyBox) {
 TEST(SilencePendantLaLecture, HalfAComment) {
     BancTemoin banc;
     banc.enregistreur.pannes.Ordonner({14, GenrePanne::silence});
+    banc.etabli.dialogues.AnnoncerInformation(QStringLiteral("k-Pod absent"));
     Lire_Parametres(banc.poste);
     EXPECT_EQ(Clair(banc.ui.Commentaire->text()), " Réseau");
 }
@@ -159,6 +160,7 @@ TEST(SilencePendantLaLecture, HalfAComment) {
 TEST(SilencePendantLaLecture, OfThePulseUnitLeavesItEmpty) {
     BancTemoin banc;
     banc.enregistreur.pannes.Ordonner({29, GenrePanne::silence, 3});
+    banc.etabli.dialogues.AnnoncerInformation(QStringLiteral("k-Pod absent"));
     Lire_Parametres(banc.poste);
     EXPECT_EQ(Clair(banc.ui.UniteImpulsion->text()), "");
     EXPECT_EQ(Clair(banc.ui.CoefImpulsion->text()), "0.1");
@@ -319,6 +321,7 @@ TEST(EtalonnageEnCours, TheClockCorrectionIsStillRead) {
     BancTemoin banc;
     banc.enregistreur.memoire.EcrireOctet(simulateur::adresse::modeEtalonnage, 1);
     banc.enregistreur.memoire.EcrireDoubleMot(simulateur::adresse::correction, 2);
+    banc.etabli.dialogues.AnnoncerInformation(QStringLiteral("Mode étalonnage en cours"));
     Lire(banc.poste);
     EXPECT_EQ(Clair(banc.ui.ValeurCorrection_1->text()), "4.0000");
     EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);

@@ -49,6 +49,7 @@ TEST_F(LectureCalendrier, AWrongEchoNotesNeither) {
 TEST_F(LectureCalendrier, SilenceEndsTheReading) {
     enregistreur.pannes.Ordonner(
         {simulateur::toutesCommandes, simulateur::GenrePanne::silence, 1, simulateur::sansFin});
+    banc.etabli.dialogues.AnnoncerInformation(QStringLiteral("k-Pod absent"));
     EXPECT_EQ(LireDateCourante(lecture), Suite::Terminer);
     EXPECT_FALSE(lecture.DateLectureLocale.isValid());
 }

@@ -13,6 +13,7 @@ using ExportViewer = Sorties;
 
 TEST_F(ExportViewer, ExportAsksForACsvOfTheProgramsFolder) {
     ChargerMesures("a.txt");
+    v.etabli.dialogues.AnnoncerEnregistrement(std::nullopt);
     Cliquer(v.Ui().Export);
     ASSERT_EQ(v.etabli.dialogues.demandes.size(), 2U);
     const DemandeFichier& demande = v.etabli.dialogues.demandes[1];
@@ -25,6 +26,7 @@ TEST_F(ExportViewer, ExportAsksForACsvOfTheProgramsFolder) {
 
 TEST_F(ExportViewer, SelectionAsksForATextFileOfTheProgramsFolder) {
     ChargerMesures("a.txt");
+    v.etabli.dialogues.AnnoncerEnregistrement(std::nullopt);
     Cliquer(v.Ui().EnregistrerSelection);
     ASSERT_EQ(v.etabli.dialogues.demandes.size(), 2U);
     const DemandeFichier& demande = v.etabli.dialogues.demandes[1];
@@ -39,6 +41,7 @@ TEST_F(ExportViewer, CancelledNothingIsWrittenAndTheDialogsNameIsEmpty) {
     const QStringList fichiers = v.etabli.Fichiers();
     for (QPushButton* bouton : {v.Ui().Export, v.Ui().EnregistrerSelection}) {
         v.Fiche().NomDialogue = "x";
+        v.etabli.dialogues.AnnoncerEnregistrement(std::nullopt);
         Cliquer(bouton);
         EXPECT_EQ(v.Fiche().NomDialogue, QString());
         EXPECT_TRUE(bouton->isEnabled());
