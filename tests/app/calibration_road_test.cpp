@@ -71,10 +71,8 @@ struct CalibrationOnTheRoad : testing::Test {
     }
     /// Types a reference and takes the point: cord off, sensor at `points`, cord on.
     void PrendrePoint(Etalonnage& fiche, int rang, const char* pression, int points) {
-        QLineEdit* saisie = fiche.Rangee(rang).ValeurPressionReelle;
-        saisie->setFocus();
-        saisie->selectAll();
-        QTest::keyClicks(saisie, QString::fromLatin1(pression));
+        BancProgramme::Taper(fiche.Rangee(rang).ValeurPressionReelle,
+                             QString::fromLatin1(pression));
         banc.etabli.dialogues.AnnoncerInformation(QStringLiteral("Débranchez le cordon USB"));
         banc.etabli.dialogues.AnnoncerInformation(QStringLiteral("rebranchez le cordon USB"));
         int boites = 0;

@@ -30,25 +30,12 @@ struct DumpButtons : testing::Test {
         ASSERT_TRUE(banc.ui().LireValeursPage->isVisible());
     }
 
-    /// Types into a box as an operator does, over what stands in it.
-    static void Saisir(QLineEdit& boite, const char* texte) {
-        QTest::mouseClick(&boite, Qt::LeftButton);
-        boite.selectAll();
-        QTest::keyClick(&boite, Qt::Key_Delete);
-        QTest::keyClicks(&boite, QString::fromLatin1(texte));
-    }
     void LirePages(const char* debut, const char* fin) {
-        Saisir(*banc.ui().PageDebut, debut);
-        Saisir(*banc.ui().PageFin, fin);
+        BancProgramme::Taper(banc.ui().PageDebut, QString::fromLatin1(debut));
+        BancProgramme::Taper(banc.ui().PageFin, QString::fromLatin1(fin));
         BancProgramme::Cliquer(banc.ui().LireValeursPage);
     }
     QList<QByteArray> Lignes(const QString& nom) { return banc.etabli.Lire(nom).split('\n'); }
-    QStringList Boites() {
-        QStringList textes;
-        for (const auto& boite : banc.etabli.dialogues.Boites())
-            textes << boite.texte;
-        return textes;
-    }
     /// Runs `geste` in the yield of that round.
     void AuTour(int tour, std::function<void()> geste) {
         banc.etabli.respiration.ReglerEvenements([this, tour, geste = std::move(geste)] {
@@ -68,7 +55,7 @@ TEST_F(DumpButtons, TheContextGoesToTheFileThatTheOperatorNames) {
               "Ofs - 1 N\xB0 serie : " +
                   QByteArray::number(pod.memoire.DoubleMot(simulateur::adresse::numeroSerie)) +
                   "\r");
-    EXPECT_TRUE(Boites().isEmpty());
+    EXPECT_TRUE(banc.Boites().isEmpty());
     EXPECT_TRUE(banc.ui().LireEeprom->isEnabled());
     EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);
 }
@@ -85,10 +72,10 @@ TEST_F(DumpButtons, ACancelledDialogAndALostLoggerLeaveNoContextFile) {
     BancProgramme::Cliquer(banc.ui().LireEeprom);
     banc.bus.Debrancher(pod.identite.usb);
     BancProgramme::Cliquer(banc.ui().LireEeprom);
-    EXPECT_EQ(Boites(), QStringList{QStringLiteral("k-Pod absent")});
+    EXPECT_EQ(banc.Boites(), QStringList{QStringLiteral("k-Pod absent")});
     // As long as nothing was read anew no further click reaches the logger, nor says a word.
     BancProgramme::Cliquer(banc.ui().LireEeprom);
-    EXPECT_EQ(Boites().size(), 1);
+    EXPECT_EQ(banc.Boites().size(), 1);
     EXPECT_FALSE(banc.etabli.Fichiers().contains(contexte));
     EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);
     EXPECT_TRUE(banc.sorties.empty());
@@ -104,7 +91,7 @@ TEST_F(DumpButtons, AContextFileThatCannotBeMadeIsTheGeneralFailure) {
     banc.etabli.dialogues.AnnoncerEnregistrement(
         banc.etabli.Chemin(QStringLiteral("absent/") + contexte));
     BancProgramme::Cliquer(banc.ui().LireEeprom);
-    EXPECT_EQ(Boites(),
+    EXPECT_EQ(banc.Boites(),
               QStringList{QStringLiteral("Run-time error '76':\n\nContexte.txt : Path not found")});
     EXPECT_EQ(banc.sorties, std::vector<int>{1});
 }
@@ -116,7 +103,8 @@ TEST_F(DumpButtons, ThePagesGoToAFileBesideTheProgram) {
     EXPECT_EQ(lignes[0], "page;buffer;Date Heure;Valeur;Pression;unit\xE9\r");
     for (qsizetype i = 1; i < lignes.size() - 1; ++i)
         EXPECT_EQ(lignes[i].split(';').size(), 7) << i;
-    EXPECT_EQ(Boites(), QStringList{QStringLiteral("Valeurs stockées dans le fichier ") + pages});
+    EXPECT_EQ(banc.Boites(),
+              QStringList{QStringLiteral("Valeurs stockées dans le fichier ") + pages});
     EXPECT_TRUE(banc.ui().LireValeursPage->isEnabled());
     EXPECT_FALSE(banc.ui().ProgressBar2->isVisible());
     EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);
@@ -137,7 +125,7 @@ TEST_F(DumpButtons, ASecondClickWhileItRunsDoesNothing) {
     LirePages("1", "1");
     EXPECT_EQ(tours, 66);
     EXPECT_EQ(pod.journal.Nombre(20), 66);
-    EXPECT_EQ(Boites().size(), 1);
+    EXPECT_EQ(banc.Boites().size(), 1);
 }
 
 TEST_F(DumpButtons, TheContextCanBeDumpedWhileThePagesAre) {
@@ -155,9 +143,10 @@ TEST_F(DumpButtons, ADownloadInsideTheDumpEndsWithItsCurve) {
     LirePages("1", "1");
     EXPECT_NE(banc.programme->trace.Presente(), nullptr);
     EXPECT_EQ(Lignes(pages).size(), 68);
-    EXPECT_EQ(Boites(), QStringList({QStringLiteral("Valeurs stockées dans le fichier "
-                                                    "2026-03-05-14-07-09.txt"),
-                                     QStringLiteral("Valeurs stockées dans le fichier ") + pages}));
+    EXPECT_EQ(banc.Boites(),
+              QStringList({QStringLiteral("Valeurs stockées dans le fichier "
+                                          "2026-03-05-14-07-09.txt"),
+                           QStringLiteral("Valeurs stockées dans le fichier ") + pages}));
 }
 
 TEST_F(DumpButtons, ADownloadLosesNothingOverTheServiceReadingsInsideIt) {
@@ -189,7 +178,7 @@ TEST_F(DumpButtons, ClosingTheMainFormInADumpLeavesWithoutABox) {
     AuTour(20, [&] { BancProgramme::Cliquer(banc.ui().Sortir); });
     LirePages("1", "3");
     EXPECT_EQ(tours, 20);
-    EXPECT_TRUE(Boites().isEmpty());
+    EXPECT_TRUE(banc.Boites().isEmpty());
     EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);
     EXPECT_EQ(Lignes(pages).size(), 1 + 19 + 1);
     EXPECT_TRUE(banc.sorties.empty());
@@ -198,8 +187,9 @@ TEST_F(DumpButtons, ClosingTheMainFormInADumpLeavesWithoutABox) {
 TEST_F(DumpButtons, ALoggerPulledOutInADumpIsToldOnceAndTheFileIsWholeInLines) {
     AuTour(20, [&] { banc.bus.Debrancher(pod.identite.usb); });
     LirePages("1", "2");
-    EXPECT_EQ(Boites(), QStringList({QStringLiteral("k-Pod absent"),
-                                     QStringLiteral("Valeurs stockées dans le fichier ") + pages}));
+    EXPECT_EQ(banc.Boites(),
+              QStringList({QStringLiteral("k-Pod absent"),
+                           QStringLiteral("Valeurs stockées dans le fichier ") + pages}));
     const QList<QByteArray> lignes = Lignes(pages);
     ASSERT_EQ(lignes.size(), 1 + 2 * 66 + 1);
     for (qsizetype i = 20; i < lignes.size() - 1; ++i)
@@ -210,7 +200,7 @@ TEST_F(DumpButtons, ALoggerPulledOutInADumpIsToldOnceAndTheFileIsWholeInLines) {
 TEST_F(DumpButtons, WithoutALoggerThePagesButtonStaysDisabledAndTheOthersWork) {
     banc.bus.Debrancher(pod.identite.usb);
     LirePages("1", "1");
-    EXPECT_EQ(Boites(), QStringList{QStringLiteral("k-Pod absent")});
+    EXPECT_EQ(banc.Boites(), QStringList{QStringLiteral("k-Pod absent")});
     EXPECT_FALSE(banc.ui().LireValeursPage->isEnabled());
     EXPECT_TRUE(banc.ui().LireValeurs->isEnabled());
     EXPECT_FALSE(banc.etabli.Fichiers().contains(pages));
@@ -236,8 +226,9 @@ TEST_P(PageTexts, ThatAreNoPageNumbersEndTheProgramBeforeAnyFrame) {
     const auto& [debut, fin, numero] = GetParam();
     const int avant = pod.journal.Total();
     LirePages(debut, fin);
-    ASSERT_EQ(Boites().size(), 1);
-    EXPECT_TRUE(Boites().front().startsWith(QStringLiteral("Run-time error '%1':").arg(numero)));
+    ASSERT_EQ(banc.Boites().size(), 1);
+    EXPECT_TRUE(
+        banc.Boites().front().startsWith(QStringLiteral("Run-time error '%1':").arg(numero)));
     EXPECT_EQ(banc.sorties, std::vector<int>{1});
     EXPECT_EQ(pod.journal.Total(), avant);
     EXPECT_TRUE(banc.ui().LireValeursPage->isEnabled());

@@ -2,8 +2,6 @@
 
 #include <QApplication>
 #include <QDialog>
-#include <QListWidget>
-#include <QTest>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -12,6 +10,7 @@
 #include "simulator/presets.h"
 #include "simulator/simulated_bus.h"
 #include "support/fake_system.h"
+#include "support/hand.h"
 #include "ui_main_screen.h"
 #include "widgets/modal.h"
 
@@ -24,7 +23,7 @@ inline constexpr std::uint32_t maintenantSimule = 1772719629;
 inline const QString nomSelonHorloge = QStringLiteral("2026-03-05-14-07-09");
 
 /// The whole program on simulated loggers, off-screen, in a folder of its own.
-class BancProgramme {
+class BancProgramme : public Operateur {
   public:
     BancProgramme() {
         ReglerMontreur([this](QDialog& dialogue) {
@@ -59,14 +58,11 @@ class BancProgramme {
     static void ChoisirLigne(QDialog& dialogue, int ligne) {
         auto* liste = dialogue.findChild<QListWidget*>(QStringLiteral("Listekrow"));
         if (liste == nullptr || ligne >= liste->count()) return;
-        QTest::mouseClick(liste->viewport(), Qt::LeftButton, Qt::NoModifier,
-                          liste->visualItemRect(liste->item(ligne)).center());
+        CliquerLigne(*liste, ligne);
     }
-    /// Near the left edge: an option or a check box answers only over its mark and its text.
-    static void Cliquer(QWidget* bouton) {
-        QTest::mouseClick(bouton, Qt::LeftButton, Qt::NoModifier,
-                          QPoint(qMin(8, bouton->width() / 2), bouton->height() / 2));
-    }
+
+    /// Texts of the boxes so far.
+    QStringList Boites() const { return etabli.dialogues.TextesDesBoites(); }
 
     BusSimule bus;
     Etabli etabli{&bus};

@@ -27,12 +27,6 @@ struct Road : testing::Test {
     }
 
     int Lignes(const QString& nom) { return static_cast<int>(banc.etabli.Lire(nom).count("\r\n")); }
-    QStringList Boites() {
-        QStringList textes;
-        for (const auto& boite : banc.etabli.dialogues.Boites())
-            textes << boite.texte;
-        return textes;
-    }
 };
 
 TEST_F(Road, ChooseReadDownloadAndSeeTheCurve) {
@@ -45,8 +39,8 @@ TEST_F(Road, ChooseReadDownloadAndSeeTheCurve) {
     EXPECT_TRUE(
         banc.etabli.Lire(nomSelonHorloge + QStringLiteral(".err")).endsWith("End Parity Control"));
     EXPECT_TRUE(banc.etabli.Fichiers().contains(nomSelonHorloge + QStringLiteral(".cmt")));
-    EXPECT_EQ(Boites(), QStringList({QStringLiteral("Valeurs stockées dans le fichier ") +
-                                     nomSelonHorloge + QStringLiteral(".txt")}));
+    EXPECT_EQ(banc.Boites(), QStringList({QStringLiteral("Valeurs stockées dans le fichier ") +
+                                          nomSelonHorloge + QStringLiteral(".txt")}));
     EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);
 
     Trace* trace = banc.programme->trace.Presente();
@@ -109,7 +103,7 @@ TEST_F(Road, ALoggerPulledOutKeepsWhatWasReceivedAndSaysSo) {
     });
     BancProgramme::Cliquer(banc.ui().LireValeurs);
     EXPECT_GT(Lignes(nomSelonHorloge + QStringLiteral(".txt")), 100);
-    EXPECT_EQ(Boites(), QStringList({QStringLiteral("k-Pod absent")}));
+    EXPECT_EQ(banc.Boites(), QStringList({QStringLiteral("k-Pod absent")}));
     EXPECT_EQ(banc.programme->trace.Presente(), nullptr);
     EXPECT_FALSE(banc.ecran().etat.EnLecture);
     EXPECT_TRUE(banc.sorties.empty());
@@ -130,7 +124,7 @@ TEST_F(Road, ClosingTheMainFormInADownloadLeavesWithoutBoxesAndViewer) {
         if (++tours == 300) banc.ecran().close();
     });
     BancProgramme::Cliquer(banc.ui().LireValeurs);
-    EXPECT_TRUE(Boites().isEmpty());
+    EXPECT_TRUE(banc.Boites().isEmpty());
     EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);
     EXPECT_GT(Lignes(nomSelonHorloge + QStringLiteral(".txt")), 100);
     EXPECT_TRUE(banc.programme->trace.Presente() == nullptr ||

@@ -29,26 +29,16 @@ struct ServiceButtons : testing::Test {
         ASSERT_TRUE(banc.ecran().etat.Connected);
         pod.journal.Vider();
     }
-    /// What an operator does: empties the box and types.
-    void Taper(QLineEdit* saisie, const char* texte) {
-        saisie->setFocus();
-        saisie->selectAll();
-        QTest::keyClick(saisie, Qt::Key_Delete);
-        QTest::keyClicks(saisie, QString::fromLatin1(texte));
+    static void Taper(QLineEdit* saisie, const char* texte) {
+        BancProgramme::Taper(saisie, QString::fromLatin1(texte));
     }
     void Adresser(const char* page, const char* offset) {
         Taper(banc.ui().page, page);
         Taper(banc.ui().offset, offset);
     }
-    QStringList Boites() {
-        QStringList textes;
-        for (const auto& boite : banc.etabli.dialogues.Boites())
-            textes << boite.texte;
-        return textes;
-    }
     void AttendreFinGenerale(const char* texte) {
         EXPECT_EQ(banc.sorties, std::vector<int>{1});
-        ASSERT_EQ(Boites(), QStringList{QString::fromLatin1(texte)});
+        ASSERT_EQ(banc.Boites(), QStringList{QString::fromLatin1(texte)});
         EXPECT_EQ(banc.etabli.dialogues.Boites()[0].icone, Icone::Critique);
         EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);
     }
@@ -65,7 +55,7 @@ TEST_F(ServiceButtons, ApplyCorrectionWritesWhatWasTypedAndLireShowsIt) {
     BancProgramme::Cliquer(banc.ui().Lire);
     EXPECT_EQ(banc.ui().ValeurCorrection_0->text(), QStringLiteral("-2"));
     EXPECT_EQ(banc.ui().ValeurCorrection_1->text(), QStringLiteral("16.0000"));
-    EXPECT_EQ(Boites(), QStringList());
+    EXPECT_EQ(banc.Boites(), QStringList());
 }
 
 TEST_F(ServiceButtons, ApplyCorrectionBeyondThirtyTwoBitsEndsTheProgram) {
@@ -101,7 +91,7 @@ TEST_F(ServiceButtons, TheMarkOfTheFlowTestIsInvertedAlsoWhenTheLoggerIsSilent) 
     banc.ui().MnuFlowTest->trigger();
     EXPECT_TRUE(banc.ui().MnuFlowTest->isChecked());
     EXPECT_FALSE(pod.testDebit);
-    EXPECT_EQ(Boites(), QStringList{absent});
+    EXPECT_EQ(banc.Boites(), QStringList{absent});
 }
 
 TEST_F(ServiceButtons, ReadFlashShowsBytesAndMeasure) {
@@ -159,7 +149,7 @@ TEST_F(ServiceButtons, AfterAFailureTheyReadNothingUntilLire) {
     pod.flash.Ecrire(0, 0, octetsMesure);
     pod.pannes.Ordonner({20, GenrePanne::silence});
     BancProgramme::Cliquer(banc.ui().LireLaFlash);
-    EXPECT_EQ(Boites(), QStringList{absent});
+    EXPECT_EQ(banc.Boites(), QStringList{absent});
 
     // The logger answers again, but nobody listens, and nothing more is said.
     BancProgramme::Cliquer(banc.ui().LireLaFlash);
@@ -167,13 +157,13 @@ TEST_F(ServiceButtons, AfterAFailureTheyReadNothingUntilLire) {
     BancProgramme::Cliquer(banc.ui().TestDebitON);
     Taper(banc.ui().ValeurCorrection_1, "16");
     BancProgramme::Cliquer(banc.ui().CommandCorrection);
-    EXPECT_EQ(Boites(), QStringList{absent});
+    EXPECT_EQ(banc.Boites(), QStringList{absent});
     EXPECT_TRUE(banc.ecran().etat.TimeOut);
 
     BancProgramme::Cliquer(banc.ui().Lire);
     BancProgramme::Cliquer(banc.ui().LireLaFlash);
     EXPECT_EQ(banc.ui().resultat->text(), QStringLiteral(" 0 0 101 83 241 0 254 128"));
-    EXPECT_EQ(Boites(), QStringList{absent});
+    EXPECT_EQ(banc.Boites(), QStringList{absent});
     EXPECT_FALSE(banc.ecran().etat.TimeOut);
 }
 
@@ -190,7 +180,7 @@ TEST_F(ServiceButtons, SayThatAPulledOutLoggerIsAbsentAndNothingEnds) {
         if (bouton == banc.ui().EcrireLaFlash)
             Taper(banc.ui().resultat, " 18 12 13 14 15 16 17 99");
         BancProgramme::Cliquer(bouton);
-        EXPECT_EQ(Boites(), QStringList{absent}) << bouton->objectName().toStdString();
+        EXPECT_EQ(banc.Boites(), QStringList{absent}) << bouton->objectName().toStdString();
         EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);
     }
     EXPECT_EQ(pod.journal.Total(), 0);
@@ -208,7 +198,7 @@ TEST_F(ServiceButtons, TheSelfTestShowsItsCodeAndMeasure) {
     BancProgramme::Cliquer(banc.ui().Test);
     EXPECT_EQ(banc.ui().Valeurcodetest->text(), QStringLiteral("1"));
     EXPECT_EQ(banc.ui().Mesuretest->text(), QString());
-    EXPECT_EQ(Boites(), QStringList());
+    EXPECT_EQ(banc.Boites(), QStringList());
 }
 
 TEST_F(ServiceButtons, TheDetectionOfTheSensorShowsItsValue) {
@@ -219,7 +209,7 @@ TEST_F(ServiceButtons, TheDetectionOfTheSensorShowsItsValue) {
     pod.pannes.Ordonner({32, GenrePanne::silence});
     BancProgramme::Cliquer(banc.ui().LireValeurDetectionCapteur);
     EXPECT_EQ(banc.ui().ValeurDetectionCapteur->text(), QStringLiteral("0"));
-    EXPECT_EQ(Boites(), QStringList{absent});
+    EXPECT_EQ(banc.Boites(), QStringList{absent});
 }
 
 TEST_F(ServiceButtons, AProgrammedSerialNumberIsShownByLire) {
@@ -229,7 +219,7 @@ TEST_F(ServiceButtons, AProgrammedSerialNumberIsShownByLire) {
     EXPECT_EQ(pod.journal.Total(), 1);
     BancProgramme::Cliquer(banc.ui().Lire);
     EXPECT_EQ(banc.ui().NumeroSerie->text(), QStringLiteral("2147483647"));
-    EXPECT_EQ(Boites(), QStringList());
+    EXPECT_EQ(banc.Boites(), QStringList());
 }
 
 TEST_F(ServiceButtons, ASerialNumberThatIsNoneOrTooLargeIsTold) {
@@ -237,8 +227,9 @@ TEST_F(ServiceButtons, ASerialNumberThatIsNoneOrTooLargeIsTold) {
     BancProgramme::Cliquer(banc.ui().ProgNumeroSerie);
     Taper(banc.ui().ValeurNumeroSerie, "2147483648");
     BancProgramme::Cliquer(banc.ui().ProgNumeroSerie);
-    EXPECT_EQ(Boites(), (QStringList{QStringLiteral("Le n° de série n'est pas valide"),
-                                     QStringLiteral("Le n° de série est trop grand (> 32 bits)")}));
+    EXPECT_EQ(banc.Boites(),
+              (QStringList{QStringLiteral("Le n° de série n'est pas valide"),
+                           QStringLiteral("Le n° de série est trop grand (> 32 bits)")}));
     EXPECT_EQ(banc.etabli.dialogues.Boites()[0].titre, banc.ecran().etat.NomKpod);
     EXPECT_EQ(pod.journal.Total(), 0);
     EXPECT_TRUE(banc.sorties.empty());
@@ -260,8 +251,8 @@ TEST_F(ServiceButtons, TheSerialNumberIsClearedAfterOkAlone) {
     BancProgramme::Cliquer(banc.ui().RAZNumeroSerie);
     EXPECT_EQ(pod.journal.DeCode(15), (Trames{{15, 0, 0, 0, 0, 0, 0, 0}}));
     EXPECT_TRUE(pod.inhibe);
-    ASSERT_EQ(Boites().size(), 2);
-    EXPECT_EQ(Boites()[1], QStringLiteral("Attention, le datalogger sera inhibé !"));
+    ASSERT_EQ(banc.Boites().size(), 2);
+    EXPECT_EQ(banc.Boites()[1], QStringLiteral("Attention, le datalogger sera inhibé !"));
     BancProgramme::Cliquer(banc.ui().Lire);
     EXPECT_EQ(banc.ui().NumeroSerie->text(), QStringLiteral("0"));
 }
@@ -287,8 +278,9 @@ TEST_F(ServiceButtons, TheResetsAreReadFromWhereTheFirmwareKeepsThem) {
 TEST_F(ServiceButtons, TheResetsOfASilentLoggerEndTheProgram) {
     pod.pannes.Ordonner({29, GenrePanne::silence});
     BancProgramme::Cliquer(banc.ui().Command2);
-    EXPECT_EQ(Boites(), (QStringList{absent, QStringLiteral("Run-time error '9':\n\nSubscript out "
-                                                            "of range")}));
+    EXPECT_EQ(banc.Boites(),
+              (QStringList{absent, QStringLiteral("Run-time error '9':\n\nSubscript out "
+                                                  "of range")}));
     EXPECT_EQ(banc.sorties, std::vector<int>{1});
     EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);
     EXPECT_EQ(banc.ui().NbReset->text(), QStringLiteral("--"));

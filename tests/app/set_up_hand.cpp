@@ -34,25 +34,14 @@ const QStringList unites = {QStringLiteral("m3"), QStringLiteral("Gallon"),
 
 void Choisir(ListeDeroulante& liste, int index) {
     ASSERT_TRUE(liste.isVisible()) << liste.objectName().toStdString();
-    QTest::keyClick(&liste, Qt::Key_Home);
-    for (int i = 0; i < index; ++i)
-        QTest::keyClick(&liste, Qt::Key_Down);
-    ASSERT_EQ(liste.Index(), index) << liste.objectName().toStdString();
+    BancProgramme::ChoisirEntree(&liste, index);
 }
 
 void Taper(QLineEdit& boite, const QString& texte) {
     ASSERT_TRUE(boite.isVisible()) << boite.objectName().toStdString();
     boite.setFocus();
     QCoreApplication::processEvents();
-    boite.selectAll();
-    if (texte.isEmpty()) QTest::keyClick(&boite, Qt::Key_Delete);
-    for (const QChar signe : texte) {
-        // Not every sign has a key of its own.
-        if (signe.unicode() < 128)
-            QTest::keyClick(&boite, signe.toLatin1());
-        else
-            boite.insert(QString(signe));
-    }
+    BancProgramme::Taper(&boite, texte);
 }
 
 void Cocher(QAbstractButton& bouton, bool coche = true) {

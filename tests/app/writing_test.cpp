@@ -24,12 +24,6 @@ struct WritingOnTheRoad : testing::Test {
         banc.etabli.dialogues.AnnoncerQuestion(Reponse::Ok, QStringLiteral("écrasées"));
         BancProgramme::Cliquer(banc.ui().Ecrire);
     }
-    QStringList Boites() {
-        QStringList textes;
-        for (const auto& boite : banc.etabli.dialogues.Boites())
-            textes << boite.texte;
-        return textes;
-    }
 };
 
 const QString ecrasees = QStringLiteral(" Les anciennes valeurs seront écrasées");
@@ -37,12 +31,10 @@ const QString terminee = QStringLiteral("Ecriture des paramètres terminée");
 
 TEST_F(WritingOnTheRoad, AChangedCommentAndPeriodReachTheLogger) {
     BancProgramme::Cliquer(banc.ui().Check_advanced);
-    banc.ui().Commentaire->setFocus();
-    banc.ui().Commentaire->selectAll();
-    QTest::keyClicks(banc.ui().Commentaire, QStringLiteral("Quai 12"));
+    BancProgramme::Taper(banc.ui().Commentaire, QStringLiteral("Quai 12"));
     banc.ui().ListePeriodeEchantillonage->Choisir(11);
     EcrireEnConfirmant();
-    EXPECT_EQ(Boites(), QStringList({ecrasees, terminee}));
+    EXPECT_EQ(banc.Boites(), QStringList({ecrasees, terminee}));
     EXPECT_EQ(pod.memoire.Texte(adresse::commentaire, 14), "Quai 12       ");
     EXPECT_EQ(pod.memoire.Mot(adresse::periodeStockage), 480);
     EXPECT_EQ(pod.NombreMesures(), 0);
@@ -56,7 +48,7 @@ TEST_F(WritingOnTheRoad, ACancelKeepsTheRecordingAndClosingTheProgramClosesTheLi
     const int mesures = pod.NombreMesures();
     banc.etabli.dialogues.AnnoncerQuestion(Reponse::Annuler);
     BancProgramme::Cliquer(banc.ui().Ecrire);
-    EXPECT_EQ(Boites(), QStringList({ecrasees}));
+    EXPECT_EQ(banc.Boites(), QStringList({ecrasees}));
     EXPECT_EQ(pod.NombreMesures(), mesures);
     EXPECT_EQ(banc.bus.PoigneesOuvertes(), 2);
     BancProgramme::Cliquer(banc.ui().Sortir);
@@ -69,7 +61,7 @@ TEST_F(WritingOnTheRoad, APeriodThatFitsNoFrameEndsTheProgramWithTheLoggerUntouc
     liste.FixerDonnee(liste.Index(), 65536);
     EcrireEnConfirmant();
     ASSERT_EQ(banc.sorties, (std::vector<int>{1}));
-    EXPECT_TRUE(Boites().last().contains(QStringLiteral("Overflow")));
+    EXPECT_TRUE(banc.Boites().last().contains(QStringLiteral("Overflow")));
     EXPECT_EQ(pod.NombreMesures(), mesures);
     EXPECT_EQ(pod.journal.Nombre(1), 0);
     EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);
@@ -78,7 +70,7 @@ TEST_F(WritingOnTheRoad, APeriodThatFitsNoFrameEndsTheProgramWithTheLoggerUntouc
 TEST_F(WritingOnTheRoad, LeavesTheWatchdogTimerRunning) {
     banc.programme->Timeur.start(1'000'000);
     EcrireEnConfirmant();
-    EXPECT_EQ(Boites(), QStringList({ecrasees, terminee}));
+    EXPECT_EQ(banc.Boites(), QStringList({ecrasees, terminee}));
     EXPECT_TRUE(banc.programme->Timeur.isActive());
     EXPECT_EQ(banc.programme->Timeur.interval(), 1'000'000);
 }
@@ -89,7 +81,7 @@ TEST_F(WritingOnTheRoad, InTheMiddleOfADownloadEndsItWithItsFileStanding) {
         if (++tours == 300) EcrireEnConfirmant();
     });
     BancProgramme::Cliquer(banc.ui().LireValeurs);
-    EXPECT_TRUE(Boites().contains(terminee));
+    EXPECT_TRUE(banc.Boites().contains(terminee));
     EXPECT_FALSE(banc.ecran().etat.EnLecture);
     EXPECT_TRUE(banc.ui().Ecrire->isEnabled());
     EXPECT_EQ(banc.bus.PoigneesOuvertes(), 0);

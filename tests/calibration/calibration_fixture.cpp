@@ -56,14 +56,6 @@ void BancEtalonnage::Amener(Avance avance) {
     Oublier();
 }
 
-void BancEtalonnage::Taper(int rang, const char* texte) {
-    QLineEdit* saisie = fiche->Rangee(rang).ValeurPressionReelle;
-    saisie->setFocus();
-    saisie->selectAll();
-    QTest::keyClick(saisie, Qt::Key_Delete);
-    QTest::keyClicks(saisie, QString::fromLatin1(texte));
-}
-
 void BancEtalonnage::Mesurer(int points) {
     etabli.dialogues.pendantBoite = [this, points](const DialoguesNotes::Boite_& boite) {
         if (boite.icone != Icone::Information) return;
@@ -100,13 +92,6 @@ std::string BancEtalonnage::Poignees() const {
     for (const auto& evenement : enregistreur.lien)
         suite += evenement.ouverture ? 'o' : 'c';
     return suite;
-}
-
-QStringList BancEtalonnage::Boites() const {
-    QStringList textes;
-    for (const auto& boite : etabli.dialogues.Boites())
-        textes << boite.texte;
-    return textes;
 }
 
 void BancEtalonnage::Oublier() {

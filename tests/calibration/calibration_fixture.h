@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QPushButton>
-#include <QTest>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -35,8 +33,10 @@ class BancEtalonnage : public BancEnregistreur {
     /// 320), 12 bar as 770 (768).
     void Amener(Avance avance);
 
-    void Cliquer(QPushButton* bouton) { QTest::mouseClick(bouton, Qt::LeftButton); }
-    void Taper(int rang, const char* texte);
+    /// Types the reference of a row.
+    void Taper(int rang, const char* texte) {
+        Operateur::Taper(fiche->Rangee(rang).ValeurPressionReelle, QString::fromLatin1(texte));
+    }
     /// The next time that the two boxes of a point come, the operator does what they say: cord
     /// off, sensor at `points`, cord on.
     void Mesurer(int points);
@@ -56,7 +56,7 @@ class BancEtalonnage : public BancEnregistreur {
     Trames Recues() const;
     /// "oocc": how the two handles of the link were opened and closed.
     std::string Poignees() const;
-    QStringList Boites() const;
+    QStringList Boites() const { return etabli.dialogues.TextesDesBoites(); }
     /// Forgets frames and boxes.
     void Oublier();
 

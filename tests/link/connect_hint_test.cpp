@@ -89,7 +89,7 @@ TEST(ConnectHint, NamesTheRuleAndTheScriptForALoggerThatCannotBeOpened) {
     b.bus.ReglerAbsence(AbsenceUsb::SansDroits);
     b.Connexion([&](frmConnect& fiche) {
         EXPECT_EQ(Texte(fiche), q("règle udev 60-bornika.rules :\n") +
-                                    b.banc.systeme.Chemin(q("install-udev-rule")));
+                                    b.banc.etabli.systeme.Chemin(q("install-udev-rule")));
     });
 }
 

@@ -269,7 +269,7 @@ TEST(FrmConnect, LoggerPulledOutBeforeTheClickIsChosenWithoutAName) {
     EXPECT_EQ(b.etat().TypekPod, 0);
     EXPECT_EQ(b.etat().NomKpod, q("Generic k-Row"));
     EXPECT_TRUE(b.etat().TimeOut);
-    EXPECT_TRUE(b.banc.fautes.empty());
+    EXPECT_TRUE(b.banc.etabli.fautes.empty());
 }
 
 TEST(LitVersion, AsksWithTwelveBytesAndReadsSix) {

@@ -56,9 +56,7 @@ class BancDeChoix {
     }
 
     static void Cliquer(frmConnect& fiche, int ligne) {
-        QListWidget& liste = *fiche.ui->Listekrow;
-        QTest::mouseClick(liste.viewport(), Qt::LeftButton, {},
-                          liste.visualItemRect(liste.item(ligne)).center());
+        Operateur::CliquerLigne(*fiche.ui->Listekrow, ligne);
     }
     static QStringList Lignes(const frmConnect& fiche) {
         QStringList lignes;

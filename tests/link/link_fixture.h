@@ -2,18 +2,15 @@
 
 #include <gtest/gtest.h>
 
-#include <QDir>
-#include <QFile>
 #include <algorithm>
 #include <deque>
 #include <functional>
 #include <vector>
 
 #include "link/command_exchange.h"
-#include "link/station.h"
-#include "support/fake_system.h"
 #include "support/fault_number.h"
-#include "ui_main_screen.h"
+#include "support/form_stand.h"
+#include "support/plain_text.h"
 #include "widgets/controls.h"
 
 namespace bornika::essai {
@@ -109,47 +106,21 @@ inline QByteArray TextesDuLien() {
 }
 
 /// A main form in French with a link, on the given carrier of bytes, in the given edition.
-class Banc : public Etabli {
+class Banc : public BancFormulaire {
   public:
     explicit Banc(InterfaceUsb& usb, const QString& sousDossier = {})
-        : Etabli(&usb),
-          systemeEdition_(Edition(sousDossier)),
-          ecran(systemeEdition_),
-          lien(ecran),
-          poste{ecran, lien} {
-        Ecrire(sousDossier.isEmpty() ? QStringLiteral("config.xml")
-                                     : sousDossier + QStringLiteral("/config.xml"),
-               TextesDuLien());
-        ecran.ui->ListeLangues->Vider();
-        ecran.ui->ListeLangues->Ajouter(QStringLiteral("Français"));
-        ecran.ui->ListeLangues->Ajouter(QStringLiteral("English"));
-        ecran.ui->ListeLangues->Choisir(0);
+        : BancFormulaire(usb, sousDossier) {
+        etabli.Ecrire(QStringLiteral("config.xml"), TextesDuLien());
+        ui.ListeLangues->Vider();
+        ui.ListeLangues->Ajouter(QStringLiteral("Français"));
+        ui.ListeLangues->Ajouter(QStringLiteral("English"));
+        ui.ListeLangues->Choisir(0);
     }
 
-    QByteArray Configuration() const {
-        QFile fichier(ecran.configuration.Chemin());
-        return fichier.open(QIODevice::ReadOnly) ? fichier.readAll() : QByteArray();
-    }
+    QByteArray Configuration() const { return etabli.Lire(QStringLiteral("config.xml")); }
 
-  private:
-    Systeme Edition(const QString& sousDossier) {
-        Systeme copie = systeme;
-        if (!sousDossier.isEmpty()) {
-            QDir(systeme.dossier).mkpath(sousDossier);
-            copie.dossier += u'/' + sousDossier;
-        }
-        return copie;
-    }
-    Systeme systemeEdition_;
-
-  public:
-    MainScreen ecran;
-    MULTIUSB lien;
-    Poste poste;
+    DialoguesNotes& dialogues = etabli.dialogues;
+    HorlogeFigee& horloge = etabli.horloge;
 };
-
-inline QString q(const char* texte) {
-    return QString::fromUtf8(texte);
-}
 
 }  // namespace bornika::essai

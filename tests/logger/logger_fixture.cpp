@@ -8,12 +8,7 @@ namespace bornika::essai {
 
 BancEnregistreur::BancEnregistreur(const QString& langue,
                                    const EnregistreurSimule::Identite& identite)
-    : enregistreur(bus.Brancher(EnregistreurSimule(identite))),
-      etabli(&bus),
-      ecran(etabli.systeme),
-      ui(*ecran.ui),
-      lien(ecran),
-      poste{ecran, lien} {
+    : enregistreur(bus.Brancher(EnregistreurSimule(identite))) {
     const QDateTime maintenant = etabli.horloge.Maintenant();
     BrancherFormulaire(ecran);
     ui.DTPicker1->setDateTime(maintenant);
@@ -26,10 +21,7 @@ BancEnregistreur::BancEnregistreur(const QString& langue,
     ui.ListePeriodeEchantillonage->Choisir(15);
     ui.PeriodeTrigger->Choisir(14);
     ui.DureeSaisie->setText(QString::number(ecran.configuration.LitDureeSaisie(0)));
-    ecran.etat.Connected = true;
-    ecran.etat.UsbID = enregistreur.identite.usb;
-    ecran.etat.TypekPod = enregistreur.identite.type;
-    ecran.etat.NomKpod = QStringLiteral("k-Pod");
+    Choisir(enregistreur.identite.usb, enregistreur.identite.type);
     for (const char* nom : {"Sec", "Min", "Hrs", "Day"}) {
         ui.ListeTemps->Ajouter(QString::fromLatin1(nom));
     }

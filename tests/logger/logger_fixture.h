@@ -4,20 +4,14 @@
 
 #include <string>
 
-#include "link/station.h"
-#include "simulator/simulated_bus.h"
-#include "support/fake_system.h"
-#include "ui_main_screen.h"
+#include "support/form_stand.h"
+#include "support/plain_text.h"
 
 namespace bornika::essai {
 
-inline std::string Clair(const QString& texte) {
-    return texte.toStdString();
-}
-
 /// One simulated logger on the bus and a main form as it stands after the start of the program:
 /// lists filled, events tied, the logger chosen. Nothing was read from it yet.
-class BancEnregistreur {
+class BancEnregistreur : public BancSimule {
   public:
     explicit BancEnregistreur(const QString& langue = QStringLiteral("Français"),
                               const EnregistreurSimule::Identite& identite = {});
@@ -31,13 +25,7 @@ class BancEnregistreur {
     /// Shows the frames of the advanced options.
     void MontrerOptions();
 
-    BusSimule bus;
     EnregistreurSimule& enregistreur;
-    Etabli etabli;
-    MainScreen ecran;
-    Ui::MainScreen& ui;
-    MULTIUSB lien;
-    Poste poste;
 };
 
 /// A test on that form, in French.

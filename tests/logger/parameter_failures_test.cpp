@@ -44,7 +44,7 @@ constexpr std::size_t rangCommentaire2 = 10;
 constexpr std::size_t rangUnite = 13;
 constexpr std::size_t rangVersionFinale = 17;
 
-/// A bench whose displays all hold what no reading would leave.
+/// A stand whose displays all hold what no reading would leave.
 struct BancTemoin : BancEnregistreur {
     BancTemoin() {
         PreparerEnregistreur(enregistreur);

@@ -167,7 +167,7 @@ void PanneALaTrame::VerifierFormulaire() {
     EXPECT_EQ(banc.ui.AMPM_1->isChecked(), vingtQuatreHeures);
 }
 
-TEST_P(PanneALaTrame, LeavesFormLinkAndLoggerAsToldAndASecondAttemptSucceeds) {
+TEST_P(PanneALaTrame, LeavesAllAsToldAndASecondAttemptSucceeds) {
     banc.enregistreur.pannes.Ordonner({simulateur::toutesCommandes, cas.genre, cas.rang + 1, 1, 1});
     if (attente.boites.front() == ecrasees)
         banc.EcrireEnConfirmant();

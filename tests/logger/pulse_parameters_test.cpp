@@ -2,22 +2,16 @@
 
 #include <gtest/gtest.h>
 
-#include "simulator/simulated_bus.h"
-#include "support/fake_system.h"
+#include "support/form_stand.h"
 
 namespace bornika::essai {
 namespace {
 
 namespace adresse = simulateur::adresse;
 
-class ParametresImpulsion : public testing::Test {
+class ParametresImpulsion : public testing::Test, protected BancSimule {
   protected:
-    BusSimule bus;
     EnregistreurSimule& enregistreur = bus.Brancher(EnregistreurSimule());
-    Etabli etabli{&bus};
-    MainScreen ecran{etabli.systeme};
-    MULTIUSB lien{ecran};
-    Poste poste{ecran, lien};
 
     void SetUp() override { ecran.etat.UsbID = enregistreur.identite.usb; }
     float Poids() {

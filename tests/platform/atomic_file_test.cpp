@@ -10,6 +10,7 @@
 #include <QTemporaryDir>
 
 #include "platform/fault.h"
+#include "platform/file_fixture.h"
 #include "platform/program_folder.h"
 #include "support/fault_number.h"
 #include "support/limits.h"
@@ -17,26 +18,14 @@
 namespace bornika {
 namespace {
 
-class FichierRemplace : public testing::Test {
+class FichierRemplace : public essai::DossierDEssai {
   protected:
-    QString Chemin(const char* nom) const { return dossier.filePath(QString::fromLatin1(nom)); }
-    static QByteArray Lire(const QString& chemin) {
-        QFile fichier(chemin);
-        return fichier.open(QIODevice::ReadOnly) ? fichier.readAll() : QByteArray("missing");
-    }
-    static void Poser(const QString& chemin, const QByteArray& contenu) {
-        QFile fichier(chemin);
-        ASSERT_TRUE(fichier.open(QIODevice::WriteOnly));
-        fichier.write(contenu);
-    }
     static int NumeroDe(const QString& chemin, const QByteArray& contenu) {
         return essai::NumeroDeFaute([&] { RemplacerFichier(chemin, contenu); });
     }
     QStringList Fichiers() const {
         return QDir(dossier.path()).entryList(QDir::Files | QDir::Hidden | QDir::System);
     }
-
-    QTemporaryDir dossier;
 };
 
 TEST_F(FichierRemplace, TakesThePlaceOfTheOldOneAndLeavesNothingBeside) {

@@ -10,9 +10,12 @@
 #include "platform/fault.h"
 #include "support/case_names.h"
 #include "support/fault_number.h"
+#include "support/plain_text.h"
 
 namespace bornika {
 namespace {
+
+using essai::q;
 
 QDateTime Instant(const char* texte) {
     QDateTime instant = QDateTime::fromString(QString::fromLatin1(texte), Qt::ISODate);
@@ -26,10 +29,6 @@ std::int32_t Vers(const char* texte) {
 
 std::string Retour(double secondes) {
     return EpochVersTexte(secondes, Regional{}).toStdString();
-}
-
-QString q(const char* texte) {
-    return QString::fromUtf8(texte);
 }
 
 /// Plain seconds since 1970, without the logger's rule.

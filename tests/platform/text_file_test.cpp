@@ -8,29 +8,18 @@
 
 #include "platform/code_page.h"
 #include "platform/fault.h"
+#include "platform/file_fixture.h"
 #include "support/fault_number.h"
 #include "support/limits.h"
 
 namespace bornika {
 namespace {
 
-class FichierTexte : public testing::Test {
+class FichierTexte : public essai::DossierDEssai {
   protected:
-    QString Chemin(const char* nom) const { return dossier.filePath(QString::fromLatin1(nom)); }
-    static QByteArray Lire(const QString& chemin) {
-        QFile fichier(chemin);
-        return fichier.open(QIODevice::ReadOnly) ? fichier.readAll() : QByteArray("missing");
-    }
-    static void Poser(const QString& chemin, const QByteArray& contenu) {
-        QFile fichier(chemin);
-        ASSERT_TRUE(fichier.open(QIODevice::WriteOnly));
-        fichier.write(contenu);
-    }
     static int NumeroCreation(const QString& chemin) {
         return essai::NumeroDeFaute([&] { FichierTexteEcrit(chemin, ModeEcriture::Remplacer); });
     }
-
-    QTemporaryDir dossier;
 };
 
 TEST_F(FichierTexte, EndsWrittenLinesWithCarriageReturnAndLineFeed) {

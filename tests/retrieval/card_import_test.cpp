@@ -59,9 +59,8 @@ struct BancCarte : BancLecture {
     /// A real click; the dialog answers with `choix`, or is cancelled.
     void Importer(const std::optional<QString>& choix = {}) {
         etabli.dialogues.AnnoncerOuverture(choix);
-        CliquerLireSD();
+        Cliquer(ui.LireSD);
     }
-    void CliquerLireSD() { QTest::mouseClick(ui.LireSD, Qt::LeftButton); }
     QStringList Enregistrements() const { return etabli.Fichiers().filter(Texte("2026-")); }
     const std::vector<DialoguesNotes::Boite_>& Boites() const { return etabli.dialogues.Boites(); }
 
@@ -372,7 +371,7 @@ class CardImportVersion : public testing::TestWithParam<CasVersion> {
     /// A logger that is refused brings no file dialog.
     static void Importer(BancCarte& banc) {
         if (!GetParam().refuse) return banc.Importer();
-        banc.CliquerLireSD();
+        banc.Cliquer(banc.ui.LireSD);
     }
     static void VoirRefus(BancCarte& banc, bool refuse) {
         EXPECT_EQ(banc.etabli.dialogues.demandes.size(), refuse ? 0U : 1U);

@@ -50,7 +50,7 @@ class FewFailures : public testing::TestWithParam<int> {};
 TEST_P(FewFailures, InARowAreSilentAndNothingIsLost) {
     BancPlein banc;
     banc.Panne(GenrePanne::silence, 7, GetParam());
-    banc.Cliquer();
+    banc.Telecharger();
     EXPECT_TRUE(banc.AToutEcrit());
     ASSERT_EQ(banc.Boites(), 1U);
     EXPECT_EQ(banc.etabli.dialogues.Boites()[0].icone, Icone::Information);
@@ -63,7 +63,7 @@ INSTANTIATE_TEST_SUITE_P(UpToFive, FewFailures, testing::Values(1, 2, 5), nomDuC
 TEST(Download, TheSixthFailureInARowEndsItAndSaysSo) {
     BancPlein banc;
     banc.Panne(GenrePanne::silence, 7, simulateur::sansFin);
-    banc.Cliquer();
+    banc.Telecharger();
     ASSERT_EQ(banc.Boites(), 1U);
     const auto& boite = banc.etabli.dialogues.Boites()[0];
     EXPECT_EQ(boite.icone, Icone::Aucune);
@@ -79,7 +79,7 @@ TEST(Download, TheSixthFailureInARowEndsItAndSaysSo) {
 TEST(Download, TheFirstRequestIsNeverSentAgainAsTheFirst) {
     BancPlein banc;
     banc.Panne(GenrePanne::silence, 1, 3);
-    banc.Cliquer();
+    banc.Telecharger();
     const std::vector<int> drapeaux = banc.Drapeaux();
     ASSERT_GT(drapeaux.size(), 4U);
     EXPECT_EQ(drapeaux[0], 1);
@@ -91,7 +91,7 @@ TEST(Download, ASuccessStartsTheCountOfFailuresAgain) {
     banc.Panne(GenrePanne::silence, 4, 5);
     banc.Panne(GenrePanne::silence, 10, 5);
     banc.Panne(GenrePanne::silence, 16, 5);
-    banc.Cliquer();
+    banc.Telecharger();
     EXPECT_TRUE(banc.AToutEcrit());
     EXPECT_EQ(banc.montres.size(), 1U);
 }
@@ -101,16 +101,16 @@ TEST(Download, WhatWasReceivedIsOnTheDiskWhenTheLoggerIsFirstSilent) {
     banc.Panne(GenrePanne::silence, 12);
     int lignes = 0;
     banc.AuTour(12, [&] { lignes = banc.NombreLignes(); });
-    banc.Cliquer();
+    banc.Telecharger();
     EXPECT_EQ(lignes, 11);
 }
 
 TEST(Download, EachFailureOpensTheLinkAgain) {
     BancPlein banc;
     banc.Panne(GenrePanne::silence, 4, 3);
-    banc.Cliquer();
+    banc.Telecharger();
     BancPlein sain;
-    sain.Cliquer();
+    sain.Telecharger();
     EXPECT_EQ(banc.enregistreur.lien.size(), sain.enregistreur.lien.size() + 3U * 4);
 }
 
@@ -120,7 +120,7 @@ TEST(Download, AFailedRoundDecodesNothingButMovesTheBar) {
     std::vector<double> pas;
     for (int tour : {2, 3, 4})
         banc.AuTour(tour, [&] { pas.push_back(banc.ui.ProgressBar2->Valeur()); });
-    banc.Cliquer();
+    banc.Telecharger();
     EXPECT_EQ(pas, (std::vector<double>{2, 3, 4}));
     EXPECT_TRUE(banc.AToutEcrit());
 }
@@ -128,7 +128,7 @@ TEST(Download, AFailedRoundDecodesNothingButMovesTheBar) {
 TEST(Download, AnswersWithAnotherEchoAreLeftAloneAndNotCounted) {
     BancPlein banc;
     banc.Panne(GenrePanne::mauvaisEcho, 5, 10);
-    banc.Cliquer();
+    banc.Telecharger();
     EXPECT_EQ(banc.Boites(), 1U);
     EXPECT_EQ(banc.enregistreur.journal.Nombre(10), nombreStocke);
     // Ten measures went by undecoded.
@@ -141,7 +141,7 @@ TEST(Download, NoiseAndHalfAnswersNeverStopIt) {
     banc.Panne(GenrePanne::bruit, 5, 3);
     banc.Panne(GenrePanne::reponseCourte, 12, 2, 4);
     banc.Panne(GenrePanne::reponsePerdue, 20, 2);
-    banc.Cliquer();
+    banc.Telecharger();
     EXPECT_EQ(banc.montres.size(), 1U);
     EXPECT_TRUE(banc.etabli.fautes.empty());
 }
@@ -151,7 +151,7 @@ class Unplugged : public testing::TestWithParam<int> {};
 TEST_P(Unplugged, AtAnyRequestEndsByTheLossOfTheLogger) {
     BancPlein banc;
     banc.Panne(GenrePanne::debranchement, GetParam());
-    banc.Cliquer();
+    banc.Telecharger();
     EXPECT_EQ(banc.Boites(), 1U);
     EXPECT_EQ(banc.NombreLignes(), std::max(0, GetParam() - 1 > 1 ? GetParam() - 1 : 0));
     AttendreAppareilPerdu(banc);
@@ -163,7 +163,7 @@ TEST(Download, APluggedBackLoggerIsTakenUpAgain) {
     BancPlein banc;
     banc.AuTour(8, [&] { banc.bus.Debrancher(banc.enregistreur.identite.usb); });
     banc.AuTour(11, [&] { banc.bus.Rebrancher(banc.enregistreur.identite.usb); });
-    banc.Cliquer();
+    banc.Telecharger();
     EXPECT_TRUE(banc.AToutEcrit());
     EXPECT_EQ(banc.montres.size(), 1U);
 }
@@ -172,7 +172,7 @@ TEST(Download, WithoutALoggerNothingIsCreated) {
     BancPlein banc;
     banc.bus.Debrancher(banc.enregistreur.identite.usb);
     const QStringList avant = banc.etabli.Fichiers();
-    banc.Cliquer();
+    banc.Telecharger();
     EXPECT_EQ(banc.etabli.Fichiers(), avant);
     EXPECT_EQ(banc.Boites(), 1U);
     EXPECT_FALSE(banc.ecran.etat.EnLecture);
@@ -185,10 +185,10 @@ TEST(Download, WithoutALoggerNothingIsCreated) {
 TEST(Download, CanRunAgainAfterTheLossOfTheLogger) {
     BancPlein banc;
     banc.Panne(GenrePanne::silence, 7, 6);
-    banc.Cliquer();
+    banc.Telecharger();
     AttendreAppareilPerdu(banc);
     banc.enregistreur.pannes.Annuler();
-    banc.Cliquer();
+    banc.Telecharger();
     EXPECT_TRUE(banc.AToutEcrit());
     EXPECT_EQ(banc.montres.size(), 1U);
 }
@@ -197,7 +197,7 @@ TEST(Download, AFullDiskIsToldOnceWithFileAndReasonAndEndsIt) {
     BancPlein banc;
     ASSERT_TRUE(QFile::link(QStringLiteral("/dev/full"),
                             banc.etabli.Chemin(banc.nom + QStringLiteral(".txt"))));
-    banc.Cliquer();
+    banc.Telecharger();
     ASSERT_EQ(banc.Boites(), 1U);
     const auto& boite = banc.etabli.dialogues.Boites()[0];
     EXPECT_EQ(boite.icone, Icone::Critique);
@@ -220,7 +220,7 @@ TEST(Download, AFullDiskDuringALongTransferEndsItBeforeTheEndOfTheData) {
     ASSERT_TRUE(QFile::link(QStringLiteral("/dev/full"),
                             banc.etabli.Chemin(banc.nom + QStringLiteral(".txt"))));
     banc.etabli.respiration.ReglerPas(std::chrono::milliseconds(5));
-    banc.Cliquer();
+    banc.Telecharger();
     ASSERT_EQ(banc.etabli.dialogues.Boites().size(), 1U);
     EXPECT_EQ(banc.etabli.dialogues.Boites()[0].icone, Icone::Critique);
     EXPECT_LT(banc.enregistreur.journal.Nombre(10), 20000);
@@ -231,7 +231,7 @@ TEST(Download, AnErrFileThatCannotBeWrittenIsToldToo) {
     BancPlein banc;
     ASSERT_TRUE(QFile::link(QStringLiteral("/dev/full"),
                             banc.etabli.Chemin(banc.nom + QStringLiteral(".err"))));
-    banc.Cliquer();
+    banc.Telecharger();
     ASSERT_EQ(banc.Boites(), 1U);
     EXPECT_TRUE(
         banc.etabli.dialogues.Boites()[0].texte.startsWith(banc.nom + QStringLiteral(".err : ")));
@@ -242,7 +242,7 @@ TEST(Download, AnErrFileThatCannotBeWrittenIsToldToo) {
 TEST(Download, AFileThatCannotBeCreatedIsTheGeneralFailure) {
     BancPlein banc;
     ASSERT_TRUE(QDir(banc.etabli.dossier.path()).mkdir(banc.nom + QStringLiteral(".txt")));
-    banc.Cliquer();
+    banc.Telecharger();
     ASSERT_EQ(banc.etabli.fautes.size(), 1U);
     EXPECT_EQ(PointeurSouris(banc.ecran), pointeur::fleche);
     EXPECT_EQ(banc.Bouton(), Clair(banc.ecran.Texte(QStringLiteral("Annuler Lecture"))));
@@ -253,7 +253,7 @@ TEST(Download, AFileThatCannotBeCreatedIsTheGeneralFailure) {
 TEST(Download, ACommentFileThatCannotBeMadeIsToldAndTheCurveIsStillShown) {
     BancPlein banc;
     banc.fauteCommentaires = 70;
-    banc.Cliquer();
+    banc.Telecharger();
     ASSERT_EQ(banc.Boites(), 2U);
     EXPECT_EQ(banc.etabli.dialogues.Boites()[0].icone, Icone::Critique);
     EXPECT_EQ(Clair(banc.etabli.dialogues.Boites()[0].texte),
@@ -268,7 +268,7 @@ TEST(Download, ALossOfTheLoggerWithAFullDiskTellsOfTheLinesThatAreGoneToo) {
     ASSERT_TRUE(QFile::link(QStringLiteral("/dev/full"),
                             banc.etabli.Chemin(banc.nom + QStringLiteral(".txt"))));
     banc.Panne(GenrePanne::silence, 7, simulateur::sansFin);
-    banc.Cliquer();
+    banc.Telecharger();
     ASSERT_EQ(banc.Boites(), 2U);
     EXPECT_EQ(Clair(banc.etabli.dialogues.Boites()[0].texte),
               Clair(banc.ecran.Texte(QStringLiteral("k-Pod Absent"))));
@@ -282,14 +282,14 @@ TEST(Download, ALoggerSilentAtTheClickIsJudgedByTheVersionReadLast) {
     BancPlein banc;
     banc.ecran.etat.VersionLogiciel = 2.11;
     banc.enregistreur.pannes.Ordonner({.code = 9, .genre = GenrePanne::silence});
-    banc.Cliquer();
+    banc.Telecharger();
     ASSERT_EQ(banc.Boites(), 1U);
     EXPECT_EQ(banc.etabli.dialogues.Boites()[0].icone, Icone::Information);
     EXPECT_EQ(banc.enregistreur.journal.Total(), banc.enregistreur.journal.Nombre(9));
     EXPECT_TRUE(banc.montres.empty());
     banc.ecran.etat.VersionLogiciel = 2.1;
     banc.enregistreur.pannes.Ordonner({.code = 9, .genre = GenrePanne::silence});
-    banc.Cliquer();
+    banc.Telecharger();
     EXPECT_TRUE(banc.AToutEcrit());
 }
 

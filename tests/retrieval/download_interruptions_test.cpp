@@ -26,8 +26,8 @@ struct BancLong : BancLecture {
 
 TEST(DownloadCancelled, ByASecondClickEndsAsACompleteRecording) {
     BancLong banc;
-    banc.AuTour(10, [&] { banc.Cliquer(); });
-    banc.Cliquer();
+    banc.AuTour(10, [&] { banc.Telecharger(); });
+    banc.Telecharger();
     EXPECT_EQ(banc.tours, 10);
     // The answer that is here already is still decoded.
     EXPECT_EQ(banc.NombreLignes(), 10);
@@ -42,8 +42,8 @@ TEST(DownloadCancelled, ByASecondClickEndsAsACompleteRecording) {
 
 TEST(DownloadCancelled, TheClickAsksForTheVersionInBetween) {
     BancLong banc;
-    banc.AuTour(10, [&] { banc.Cliquer(); });
-    banc.Cliquer();
+    banc.AuTour(10, [&] { banc.Telecharger(); });
+    banc.Telecharger();
     const std::vector<int> codes = banc.enregistreur.journal.Codes();
     EXPECT_EQ(codes.back(), 9);
     EXPECT_EQ(codes[codes.size() - 2], 10);
@@ -54,9 +54,9 @@ TEST(DownloadCancelled, ALoggerSilentAtTheClickLosesTheAnswerOfThatRound) {
     BancLong banc;
     banc.AuTour(10, [&] {
         banc.enregistreur.pannes.Ordonner({.code = 9, .genre = simulateur::GenrePanne::silence});
-        banc.Cliquer();
+        banc.Telecharger();
     });
-    banc.Cliquer();
+    banc.Telecharger();
     EXPECT_EQ(banc.NombreLignes(), 9);
     EXPECT_EQ(banc.montres.size(), 1U);
 }
@@ -66,15 +66,15 @@ TEST(DownloadCancelled, BetweenTwoMeasuresOfAGroupLosesTheOpenGroup) {
     banc.Stocker({MesurePeriodique(t0, 1), MesurePeriodique(t0 + 1, 2), MesurePeriodique(t0 + 1, 3),
                   MesurePeriodique(t0 + 1, 4), MesurePeriodique(t0 + 2, 5),
                   MesurePeriodique(t0 + 3, 6)});
-    banc.AuTour(4, [&] { banc.Cliquer(); });
-    banc.Cliquer();
+    banc.AuTour(4, [&] { banc.Telecharger(); });
+    banc.Telecharger();
     EXPECT_EQ(banc.NombreLignes(), 2);
 }
 
 TEST(DownloadCancelled, AnotherPartOfTheProgramCanClearTheFlag) {
     BancLong banc;
     banc.AuTour(5, [&] { banc.ecran.etat.EnLecture = false; });
-    banc.Cliquer();
+    banc.Telecharger();
     EXPECT_EQ(banc.tours, 5);
     EXPECT_EQ(banc.montres.size(), 1U);
 }
@@ -90,9 +90,9 @@ TEST(LectureValeurs, WhileADownloadRunsOnlyClearsTheFlag) {
 
 TEST(DownloadCancelled, CanBeRunAgainAtOnce) {
     BancLong banc;
-    banc.AuTour(10, [&] { banc.Cliquer(); });
-    banc.Cliquer();
-    banc.Cliquer();
+    banc.AuTour(10, [&] { banc.Telecharger(); });
+    banc.Telecharger();
+    banc.Telecharger();
     EXPECT_EQ(banc.NombreLignes(), 99);
     EXPECT_EQ(banc.montres.size(), 2U);
 }
@@ -100,7 +100,7 @@ TEST(DownloadCancelled, CanBeRunAgainAtOnce) {
 TEST(DownloadClosed, ClosingTheFormLeavesWithoutBoxesAndViewer) {
     BancLong banc;
     banc.AuTour(10, [&] { banc.ecran.close(); });
-    banc.Cliquer();
+    banc.Telecharger();
     EXPECT_EQ(banc.tours, 10);
     EXPECT_TRUE(banc.ecran.etat.EnFermeture);
     EXPECT_TRUE(banc.etabli.dialogues.Boites().empty());
@@ -115,7 +115,7 @@ TEST(DownloadClosed, ClosingTheFormLeavesWithoutBoxesAndViewer) {
 TEST(DownloadClosed, ClosingTheFormWhileTheLastBoxStandsSkipsTheViewer) {
     BancLong banc;
     banc.etabli.dialogues.pendantBoite = [&](const auto&) { banc.ecran.close(); };
-    banc.Cliquer();
+    banc.Telecharger();
     EXPECT_EQ(banc.NombreLignes(), 99);
     EXPECT_TRUE(banc.montres.empty());
 }
@@ -125,7 +125,7 @@ TEST(DownloadDisturbed, AUnitChosenMeanwhileCountsFromTheNextLineOn) {
     banc.AuTour(10, [&] {
         banc.ui.ListeUnites->Choisir(banc.ui.ListeUnites->findText(QStringLiteral("mbar")));
     });
-    banc.Cliquer();
+    banc.Telecharger();
     const QList<QByteArray> lignes = banc.Mesures().split('\n');
     EXPECT_EQ(Clair(lignes[9].split(';').at(3)), "0.125");
     EXPECT_EQ(Clair(lignes[10].split(';').at(3)), "140.625");
@@ -163,7 +163,7 @@ TEST(DownloadDisturbed, AbsolutePressureTickedMeanwhileCountsFromTheNextLineOn) 
 TEST(DownloadDisturbed, ReadingTheParametersMeanwhileTakesTheLinkAwayAndNothingIsLost) {
     BancLong banc;
     banc.AuTour(10, [&] { Lire_Parametres(banc.poste); });
-    banc.Cliquer();
+    banc.Telecharger();
     EXPECT_EQ(banc.NombreLignes(), 99);
     EXPECT_EQ(banc.etabli.dialogues.Boites().size(), 1U);
     EXPECT_EQ(banc.montres.size(), 1U);
@@ -172,7 +172,7 @@ TEST(DownloadDisturbed, ReadingTheParametersMeanwhileTakesTheLinkAwayAndNothingI
 TEST(DownloadDisturbed, ALoggerInCalibrationSaysSoAndIsDownloaded) {
     BancLong banc;
     banc.enregistreur.memoire.EcrireOctet(simulateur::adresse::modeEtalonnage, 1);
-    banc.Cliquer();
+    banc.Telecharger();
     EXPECT_EQ(banc.etabli.dialogues.Boites().size(), 2U);
     EXPECT_EQ(banc.NombreLignes(), 99);
     EXPECT_EQ(banc.PoigneesOuvertes(), 0);
@@ -183,10 +183,10 @@ TEST(DownloadCancelled, AClickAfterAnotherFormHasEndedItBeginsNoTransferInsideTh
     banc.AuTour(10, [&] {
         banc.ecran.etat.EnLecture = false;
         banc.etabli.horloge.instant = banc.etabli.horloge.instant.addSecs(1);
-        banc.Cliquer();
+        banc.Telecharger();
         EXPECT_FALSE(banc.ecran.etat.EnLecture);
     });
-    banc.Cliquer();
+    banc.Telecharger();
     EXPECT_EQ(banc.tours, 10);
     EXPECT_EQ(banc.enregistreur.journal.Nombre(10), 10);
     EXPECT_EQ(banc.NombreLignes(), 10);
@@ -196,7 +196,7 @@ TEST(DownloadCancelled, AClickAfterAnotherFormHasEndedItBeginsNoTransferInsideTh
     EXPECT_EQ(banc.PoigneesOuvertes(), 0);
     EXPECT_TRUE(banc.etabli.fautes.empty());
     // The click after that is one that begins.
-    banc.Cliquer();
+    banc.Telecharger();
     EXPECT_EQ(banc.montres.size(), 2U);
     EXPECT_EQ(banc.etabli.Lire(QStringLiteral("2026-03-05-14-07-10.txt")).count('\n'), 100);
 }
@@ -204,12 +204,12 @@ TEST(DownloadCancelled, AClickAfterAnotherFormHasEndedItBeginsNoTransferInsideTh
 TEST(DownloadCancelled, ATransferThatEndedByAFaultDoesNotKeepTheNextFromBeginning) {
     BancLong banc;
     ASSERT_TRUE(QDir(banc.etabli.dossier.path()).mkdir(banc.nom + QStringLiteral(".txt")));
-    banc.Cliquer();
+    banc.Telecharger();
     ASSERT_EQ(banc.etabli.fautes.size(), 1U);
     EXPECT_FALSE(Telechargement::EnTransfert());
     ASSERT_TRUE(QDir(banc.etabli.dossier.path()).rmdir(banc.nom + QStringLiteral(".txt")));
     banc.ecran.etat.EnLecture = false;
-    banc.Cliquer();
+    banc.Telecharger();
     EXPECT_EQ(banc.NombreLignes(), 99);
 }
 
@@ -219,9 +219,9 @@ TEST(DownloadRepeated, WhileTheLastBoxStandsIsAnotherWholeDownload) {
     banc.etabli.dialogues.pendantBoite = [&](const auto&) {
         if (++boites > 1) return;
         banc.etabli.horloge.instant = banc.etabli.horloge.instant.addSecs(1);
-        banc.Cliquer();
+        banc.Telecharger();
     };
-    banc.Cliquer();
+    banc.Telecharger();
     EXPECT_EQ(banc.NombreLignes(), 99);
     EXPECT_EQ(banc.etabli.Lire(QStringLiteral("2026-03-05-14-07-10.txt")).count('\n'), 100);
     // Each shows its own recording, the inner one first.
@@ -239,7 +239,7 @@ TEST(DownloadDisturbed, LinesThatCannotBeBuiltAreSkippedAndTheTransferGoesOn) {
     const int unite = banc.ui.ListeUnites->Index();
     banc.AuTour(10, [&] { choisir(-1); });
     banc.AuTour(15, [&] { choisir(unite); });
-    banc.Cliquer();
+    banc.Telecharger();
     EXPECT_EQ(banc.NombreLignes(), 99 - 5);
     EXPECT_TRUE(banc.etabli.fautes.empty());
     EXPECT_EQ(banc.montres.size(), 1U);

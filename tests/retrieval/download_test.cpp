@@ -26,7 +26,7 @@ TEST(Download, WritesTheWholeRecordingWithAPointAndMonthsFirst) {
     BancLecture banc;
     banc.etabli.systeme.regional = {QStringLiteral("."), QStringLiteral("M/d/yyyy")};
     StockerMelange(banc);
-    banc.Cliquer();
+    banc.Telecharger();
     EXPECT_EQ(Clair(banc.Mesures()),
               Clair(entete + "1700000001000;11/14/2023 22:13:21:000;64;1;;0;\r\n"
                              "1700000001500;11/14/2023 22:13:21:500;128;2;;0;\r\n"
@@ -44,7 +44,7 @@ TEST(Download, WritesTheWholeRecordingWithACommaAndDaysFirst) {
     BancLecture banc({}, QStringLiteral("Français"));
     banc.etabli.systeme.regional = {QStringLiteral(","), QStringLiteral("dd/MM/yyyy")};
     StockerMelange(banc);
-    banc.Cliquer();
+    banc.Telecharger();
     EXPECT_EQ(Clair(banc.Mesures()),
               Clair(entete + "1700000001000;14/11/2023 22:13:21:000;64;1;;0;\r\n"
                              "1700000001500;14/11/2023 22:13:21:500;128;2;;0;\r\n"
@@ -59,7 +59,7 @@ TEST(Download, WritesTheWholeRecordingWithACommaAndDaysFirst) {
 
 TEST(Download, AnEmptyLoggerLeavesHeadersAndOpensTheViewer) {
     BancLecture banc;
-    banc.Cliquer();
+    banc.Telecharger();
     EXPECT_EQ(Clair(banc.Mesures()), Clair(entete));
     EXPECT_EQ(Clair(banc.Rejets()), Clair(entete + "End Parity Control"));
     EXPECT_EQ(banc.montres.size(), 1U);
@@ -70,7 +70,7 @@ TEST(Download, TheLastMeasureIsNeverWritten) {
     BancLecture banc;
     banc.Stocker(
         {MesurePeriodique(t0, 1), MesurePeriodique(t0 + 1, 2), MesurePeriodique(t0 + 2, 3)});
-    banc.Cliquer();
+    banc.Telecharger();
     EXPECT_EQ(banc.NombreLignes(), 2);
 }
 
@@ -78,7 +78,7 @@ TEST(Download, LinesMayShareATimeAndAreNotSorted) {
     BancLecture banc;
     banc.Stocker({MesureImpulsion(t0 + 5, 2, 1), MesureImpulsion(t0 + 5, 2, 2),
                   MesureImpulsion(t0, 1, 3), MesurePeriodique(t0 + 9, 1)});
-    banc.Cliquer();
+    banc.Telecharger();
     const QList<QByteArray> lignes = banc.Mesures().split('\n');
     ASSERT_EQ(lignes.size(), 5);
     EXPECT_TRUE(lignes[1].startsWith("1700000005250;"));
@@ -90,7 +90,7 @@ TEST(Download, AFreshlyErasedCellIsAPulseAndTheRunGoesOn) {
     BancLecture banc;
     banc.Stocker({MesurePeriodique(t0, 1), simulateur::CelluleEffacee(),
                   MesurePeriodique(t0 + 1, 2), MesurePeriodique(t0 + 2, 3)});
-    banc.Cliquer();
+    banc.Telecharger();
     const auto instant = t0 + 255 * 65536 + 255 * 256 + 255;
     const QList<QByteArray> rejets = banc.Rejets().split('\n');
     ASSERT_EQ(rejets.size(), 3);
@@ -104,7 +104,7 @@ TEST(Download, AsksFirstOnceAndThenForTheNextWithTwoBytesOnOneOpening) {
     BancLecture banc;
     for (std::uint32_t i = 0; i < 5; ++i)
         banc.Stocker({MesurePeriodique(t0 + i, 7)});
-    banc.Cliquer();
+    banc.Telecharger();
     EXPECT_EQ(banc.Drapeaux(), (std::vector<int>{1, 0, 0, 0, 0}));
     for (const auto& trame : banc.enregistreur.journal.DeCode(10))
         EXPECT_EQ(trame.size(), 2U);
@@ -121,7 +121,7 @@ TEST(Download, AsksFirstOnceAndThenForTheNextWithTwoBytesOnOneOpening) {
 TEST(Download, ReadsTheParametersBeforeTheFirstMeasure) {
     BancLecture banc;
     banc.Stocker({MesurePeriodique(t0, 1), MesurePeriodique(t0 + 1, 2)});
-    banc.Cliquer();
+    banc.Telecharger();
     const std::vector<int> codes = banc.enregistreur.journal.Codes();
     const auto premiere = std::find(codes.begin(), codes.end(), 10);
     EXPECT_NE(std::find(codes.begin(), premiere, 4), premiere);
@@ -141,7 +141,7 @@ TEST(Download, TheButtonTheArrowAndTheProgressShowWhileItRuns) {
         EXPECT_FALSE(banc.ui.ProgressBar2->isHidden());
         EXPECT_FALSE(banc.ui.Infos->isHidden());
     });
-    banc.Cliquer();
+    banc.Telecharger();
     EXPECT_GE(banc.tours, 2);
     EXPECT_FALSE(banc.ecran.etat.EnLecture);
     EXPECT_EQ(banc.Bouton(), Clair(banc.ecran.Texte(QStringLiteral("Lire les valeurs"))));
@@ -161,7 +161,7 @@ TEST(Download, EachRoundShowsTheMeasuresWrittenAndOneMoreStepOfTheBar) {
             textes.push_back(Clair(banc.ui.Infos->text()));
             pas.push_back(banc.ui.ProgressBar2->Valeur());
         });
-    banc.Cliquer();
+    banc.Telecharger();
     const std::string maximum =
         "/" + std::to_string(static_cast<int>(banc.ui.ProgressBar2->Maximum()));
     ASSERT_EQ(textes.size(), 5U);
@@ -180,7 +180,7 @@ TEST(Download, TheBarStopsOneStepShortOfItsEndAndTheTextAtTheMaximum) {
     banc.AuTour(1, [&] { banc.ui.ProgressBar2->FixerMaximum(10); });
     std::string dernier;
     banc.AuTour(40, [&] { dernier = Clair(banc.ui.Infos->text()); });
-    banc.Cliquer();
+    banc.Telecharger();
     EXPECT_EQ(banc.ui.ProgressBar2->Valeur(), 9);
     EXPECT_EQ(dernier, "10/10");
     EXPECT_EQ(Clair(banc.ui.Infos->text()), "9/10");
@@ -196,7 +196,7 @@ TEST(Download, DisplaysAreLeftAloneBetweenTwoRunsOfTheInterface) {
     int changements = 0;
     QObject::connect(banc.ui.ProgressBar2, &QProgressBar::valueChanged, &banc.ecran,
                      [&] { ++changements; });
-    banc.Cliquer();
+    banc.Telecharger();
     // The reset at the start and the final state, nothing in between.
     EXPECT_LE(changements, 3);
     EXPECT_EQ(banc.ui.ProgressBar2->Valeur(), 60);
@@ -206,7 +206,7 @@ TEST(Download, DisplaysAreLeftAloneBetweenTwoRunsOfTheInterface) {
 TEST(Download, TellsWhereTheValuesAreAndThenShowsThem) {
     BancLecture banc;
     banc.etabli.dialogues.pendantBoite = [&](const auto&) { EXPECT_TRUE(banc.montres.empty()); };
-    banc.Cliquer();
+    banc.Telecharger();
     ASSERT_EQ(banc.etabli.dialogues.Boites().size(), 1U);
     const auto& boite = banc.etabli.dialogues.Boites()[0];
     EXPECT_EQ(boite.icone, Icone::Information);
@@ -221,7 +221,7 @@ TEST(Download, TellsWhereTheValuesAreAndThenShowsThem) {
 
 TEST(Download, TheCommentsAreTheLoggersCommentAndTheReport) {
     BancLecture banc;
-    banc.Cliquer();
+    banc.Telecharger();
     ASSERT_EQ(banc.commentaires.size(), 2U);
     EXPECT_EQ(Clair(banc.commentaires[0]),
               Clair(banc.ui.Commentaire->text()) + "\r\n" + Clair(banc.ecran.etat.Rapport));
@@ -234,7 +234,7 @@ TEST(Download, AnOldRecordingOfTheSameSecondIsReplaced) {
     BancLecture banc;
     banc.etabli.Ecrire(banc.nom + QStringLiteral(".txt"), QByteArray(9000, 'x'));
     banc.etabli.Ecrire(banc.nom + QStringLiteral(".err"), QByteArray(9000, 'y'));
-    banc.Cliquer();
+    banc.Telecharger();
     EXPECT_EQ(Clair(banc.Mesures()), Clair(entete));
     EXPECT_EQ(Clair(banc.Rejets()), Clair(entete + "End Parity Control"));
 }
@@ -249,7 +249,7 @@ TEST_P(AbsolutePressure, IsTakenOffInPeriodicLinesOfTheErrFileOnly) {
                   PariteCassee(MesurePeriodique(t0 + 2, 512), 3),
                   PariteCassee(MesureImpulsion(t0 + 2, 1, 512), 3), MesureImpulsion(t0 + 3, 1, 512),
                   MesurePeriodique(t0 + 4, 1)});
-    banc.Cliquer();
+    banc.Telecharger();
     EXPECT_EQ(banc.ui.PressionAbsolue->isChecked(), absolue);
     const auto pression = [](const QByteArray& fichier, int ligne) {
         return fichier.split('\n').at(ligne).split(';').at(3).toStdString();
@@ -265,7 +265,7 @@ INSTANTIATE_TEST_SUITE_P(Both, AbsolutePressure, testing::Bool(),
 
 TEST(LireValeurs, ALoggerOfVersion211IsReadThroughItsCard) {
     BancLecture banc(simulateur::KPod2110(t0));
-    banc.Cliquer();
+    banc.Telecharger();
     ASSERT_EQ(banc.etabli.dialogues.Boites().size(), 1U);
     const auto& boite = banc.etabli.dialogues.Boites()[0];
     EXPECT_EQ(boite.icone, Icone::Information);
@@ -281,7 +281,7 @@ TEST(LireValeurs, ALoggerOfVersion211IsReadThroughItsCard) {
 
 TEST(LireValeurs, ALoggerOfVersion2100IsDownloaded) {
     BancLecture banc(simulateur::KPod2100(t0));
-    banc.Cliquer();
+    banc.Telecharger();
     EXPECT_EQ(banc.montres.size(), 1U);
 }
 

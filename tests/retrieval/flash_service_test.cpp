@@ -67,7 +67,7 @@ struct EcritureFlash : FlashParLesControles {
     }
 };
 
-// A measure of 640 points at t0, with the flags of its parity set: 10 bar on the bench's scale.
+// A measure of 640 points at t0, with the flags of its parity set: 10 bar on the stand's scale.
 const std::vector<std::uint8_t> mesure{0, 0, 0x65, 0x53, 0xF1, 0x00, 0xFE, 0x80};
 
 }  // namespace

@@ -347,7 +347,7 @@ TEST(RawDumpDisturbed, ADownloadInsideItLeavesEachItsOwnFileAndName) {
     BancDump banc;
     for (std::uint32_t i = 0; i < 30; ++i)
         banc.Stocker({simulateur::MesurePeriodique(t0 + i, 7)});
-    banc.AuTour(10, [&] { banc.Cliquer(); });
+    banc.AuTour(10, [&] { banc.Telecharger(); });
     banc.Lire();
     EXPECT_EQ(banc.NombreLignes(), 29);
     EXPECT_EQ(banc.montres, std::vector<QString>{banc.nom + QStringLiteral(".txt")});
@@ -363,7 +363,7 @@ TEST(RawDumpDisturbed, InsideADownloadLeavesTheRecordingItsNameItsCommentsAndIts
     for (std::uint32_t i = 0; i < 30; ++i)
         banc.Stocker({simulateur::MesurePeriodique(t0 + i, 7)});
     banc.AuTour(10, [&] { banc.Lire(); });
-    banc.Cliquer();
+    banc.Telecharger();
     EXPECT_EQ(banc.NombreLignes(), 29);
     ASSERT_EQ(banc.commentaires.size(), 2U);
     EXPECT_EQ(banc.commentaires[1], banc.nom + QStringLiteral(".txt"));

@@ -4,12 +4,12 @@
 
 #include <QSet>
 
+#include "support/plain_text.h"
+
 namespace bornika {
 namespace {
 
-QString q(const char* texte) {
-    return QString::fromUtf8(texte);
-}
+using essai::q;
 
 struct CasNom {
     std::int32_t type;

@@ -2,13 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include <QDir>
-
 #include "service/firmware_update.h"
 #include "simulator/presets.h"
-#include "simulator/simulated_bus.h"
-#include "support/fake_system.h"
-#include "ui_main_screen.h"
+#include "support/form_stand.h"
+#include "support/plain_text.h"
 
 /// A firmware update whose tool, dialogs and logger are all in the hand of the test.
 namespace bornika::essai::firmware {
@@ -22,10 +19,6 @@ inline constexpr std::uint32_t maintenant = 1772719629;
 inline const Codes identite{9, 6};
 inline const Codes identiteEtVersion{9, 6, 9};
 inline const Codes identiteVersionEtNumero{9, 6, 9, 5};
-
-inline QString q(const char* texte) {
-    return QString::fromUtf8(texte);
-}
 
 /// Stands in for the starting of programs: notes each call; the program runs for some looks.
 struct LanceurNote {
@@ -70,21 +63,10 @@ struct LanceurNote {
     }
 };
 
-/// A program's folder, with one of its own in it for the Z907 edition.
-struct Edition : Etabli {
-    Edition(InterfaceUsb& usb, bool drapeau) : Etabli(&usb) {
-        if (!drapeau) return;
-        const QString sousDossier = systeme.Chemin(QStringLiteral("Z907 tools"));
-        QDir().mkpath(sousDossier);
-        QFile::copy(systeme.Chemin(QStringLiteral("config.xml")),
-                    sousDossier + QStringLiteral("/config.xml"));
-        systeme.dossier = sousDossier;
-    }
-};
-
-struct Banc {
+/// The form on that logger, in a folder for the Z907 edition where `drapeau` says so.
+struct Banc : BancSimule {
     explicit Banc(simulateur::PtrEnregistreur logger, bool drapeau = false)
-        : pod(bus.Brancher(std::move(logger))), etabli(bus, drapeau) {
+        : BancSimule(drapeau ? q("Z907 tools") : QString()), pod(bus.Brancher(std::move(logger))) {
         etabli.systeme.lancer = std::ref(outil);
         ecran.ui->ListeLangues->Ajouter(q("Français"));
         ecran.ui->ListeLangues->Choisir(0);
@@ -125,13 +107,8 @@ struct Banc {
 
     /// What the operator picks in the file dialog; nothing: it is cancelled.
     std::optional<QString> fichier = q("/f/K-POD_V2.100.HEX");
-    BusSimule bus;
     EnregistreurSimule& pod;
-    Edition etabli;
     LanceurNote outil;
-    MainScreen ecran{etabli.systeme};
-    MULTIUSB lien{ecran};
-    Poste poste{ecran, lien};
 };
 
 /// A k-Pod 2.095.

@@ -2,28 +2,20 @@
 
 #include <gtest/gtest.h>
 
-#include "simulator/simulated_bus.h"
-#include "support/fake_system.h"
 #include "support/fault_number.h"
-#include "ui_main_screen.h"
+#include "support/form_stand.h"
 
 namespace bornika::essai {
 
 using Trames = std::vector<std::vector<std::uint8_t>>;
 
 /// A main form with one simulated logger chosen, for operations that hold one conversation each.
-class SurPaillasse : public testing::Test {
+class SurPaillasse : public testing::Test, protected BancSimule {
   protected:
     using GenreAppel = simulateur::GenreAppel;
     using GenrePanne = simulateur::GenrePanne;
 
-    BusSimule bus;
     EnregistreurSimule& enregistreur = bus.Brancher(EnregistreurSimule());
-    Etabli etabli{&bus};
-    MainScreen ecran{etabli.systeme};
-    Ui::MainScreen& ui = *ecran.ui;
-    MULTIUSB lien{ecran};
-    Poste poste{ecran, lien};
 
     void SetUp() override {
         ecran.etat.UsbID = enregistreur.identite.usb;

@@ -8,13 +8,10 @@
 #include "settings/config_store.h"
 #include "support/fake_system.h"
 #include "support/fault_number.h"
+#include "support/plain_text.h"
 #include "widgets/controls.h"
 
 namespace bornika::essai {
-
-inline QString q(const char* texte) {
-    return QString::fromUtf8(texte);
-}
 
 /// A configuration of a handful of entries, in CR LF lines, with what the program does not know.
 inline QByteArray PetiteConfiguration() {

@@ -132,7 +132,7 @@ struct Cas {
 
 class EntreeFausse : public testing::TestWithParam<Cas> {};
 
-TEST_P(EntreeFausse, IsNamedAndItsProductLeftOutWhileTheOthersStay) {
+TEST_P(EntreeFausse, IsNamedAndItsProductAloneLeftOut) {
     const Cas& cas = GetParam();
     const ElementUsb element =
         ElementDe(Appareil("<Vendeur>7</Vendeur><Produit>8</Produit>") + Appareil(cas.entrees) +

@@ -70,7 +70,7 @@ TEST(CalibrationStates, WithoutAStayOnTheSensorTheNextCommandMeasuresWhatTheSens
     EXPECT_EQ(logger.memoire.Mot(70), 99) << "measured once";
 }
 
-TEST(CalibrationStates, OnABenchTheSensorIsUnderTheReferenceOfEachPoint) {
+TEST(CalibrationStates, OnAReferenceTheSensorIsUnderThePressureOfEachPoint) {
     EnregistreurSimule logger;
     logger.BrancherReference([](int reference) { return 2 * reference; });
     Reponse(logger, {24, 0, 102, 1, 0, 0, 0, 0});

@@ -71,6 +71,13 @@ void DialoguesNotes::JugerInformations() {
     imprevues_.clear();
 }
 
+QStringList DialoguesNotes::TextesDesBoites() const {
+    QStringList textes;
+    for (const Boite_& boite : Boites())
+        textes << boite.texte;
+    return textes;
+}
+
 void DialoguesNotes::OublierBoites() {
     JugerInformations();
     boites_.clear();

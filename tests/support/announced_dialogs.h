@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QStringList>
 #include <cstdint>
 #include <deque>
 #include <functional>
@@ -52,6 +53,8 @@ class DialoguesNotes : public Dialogues {
         lues_ = boites_.size();
         return boites_;
     }
+    /// Their texts.
+    QStringList TextesDesBoites() const;
     /// Forgets the boxes; one with OK alone that nobody accounted for fails here.
     void OublierBoites();
 

@@ -7,8 +7,10 @@
 
 namespace bornika::essai {
 
-Etabli::Etabli(InterfaceUsb* usb)
-    : systeme{horloge, dialogues, usb ? *usb : usbVide, respiration, Regional{}, dossier.path()} {
+Etabli::Etabli(InterfaceUsb* usb, const QString& sousDossier)
+    : systeme{horloge,     dialogues,  usb ? *usb : usbVide,
+              respiration, Regional{}, QDir(dossier.path()).filePath(sousDossier)} {
+    QDir().mkpath(systeme.dossier);
     respiration.ReglerPas(std::chrono::milliseconds(0));
     const QDir ressources(QStringLiteral(BORNIKA_RESOURCES));
     for (const char* nom : {"config.xml", "BORNIKA.TEE"}) {

@@ -24,10 +24,11 @@ class HorlogeFigee : public Horloge {
 };
 
 /// A program's folder of its own with the delivered configuration in it, and a system of fakes.
-/// The USB interface is the one given, or none attached.
+/// The USB interface is the one given, or none attached; the program's folder is the temporary one,
+/// or one within it.
 class Etabli {
   public:
-    explicit Etabli(InterfaceUsb* usb = nullptr);
+    explicit Etabli(InterfaceUsb* usb = nullptr, const QString& sousDossier = {});
     ~Etabli();
 
     QString Chemin(const QString& nom) const { return systeme.Chemin(nom); }

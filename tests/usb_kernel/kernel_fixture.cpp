@@ -1,14 +1,8 @@
 #include "usb_kernel/kernel_fixture.h"
 
-#include <QApplication>
-#include <QTest>
 #include <chrono>
 #include <filesystem>
 #include <thread>
-
-#include "app/form_events.h"
-#include "platform/guard.h"
-#include "shell/language_switch.h"
 
 namespace bornika::essai {
 
@@ -17,6 +11,10 @@ namespace {
 constexpr std::chrono::seconds patience{60};
 // Painting at each round would take most of the time of an emulated machine.
 constexpr int toursParAffichage = 50;
+
+QString Joindre(const std::vector<QString>& textes) {
+    return QStringList(textes.begin(), textes.end()).join(u'|');
+}
 
 template <class Controle, class Lecture>
 void Decrire(const MainScreen& ecran, QStringList& lignes, Lecture lire) {
@@ -66,34 +64,9 @@ int AppareilsOuverts() {
 }
 
 BancPoste::BancPoste(InterfaceUsb& usb, IdentifiantUsb id)
-    : etabli(&usb), ecran(etabli.systeme), ui(*ecran.ui), lien(ecran), poste{ecran, lien} {
-    ChangeTextes(ecran, QStringLiteral("English"), true);
-    BrancherFormulaire(ecran);
-    ecran.etat.Connected = true;
-    ecran.etat.UsbID = id;
-    ecran.etat.TypekPod = 1;
-    ecran.etat.NomKpod = QStringLiteral("k-Pod");
-    ui.ProgressBar1->FixerMaximum(ecran.etat.CapaciteMemoire);
-    suite.commenter = [this](const QString& texte, const QString& fichier) {
-        commentaires << texte << fichier;
-    };
-    suite.montrer = [this](const QString& fichier) { montres << fichier; };
-    brancher(ui.LireValeurs, &QPushButton::clicked, &ecran, [this] { LireValeurs(poste, suite); });
-    etabli.respiration.ReglerEvenements([this] {
-        ++tours;
-        for (const auto& [tour, geste] : gestes_)
-            if (tour == tours) geste();
-        if (tours % toursParAffichage == 0) QApplication::processEvents();
-    });
+    : BancTelechargement(usb, QStringLiteral("English"), toursParAffichage) {
+    Choisir(id, 1);
     ecran.show();
-}
-
-void BancPoste::Telecharger() {
-    QTest::mouseClick(ui.LireValeurs, Qt::LeftButton);
-}
-
-void BancPoste::AuTour(int tour, std::function<void()> geste) {
-    gestes_.emplace_back(tour, std::move(geste));
 }
 
 std::string BancPoste::Portrait() const {
@@ -122,8 +95,8 @@ std::string BancPoste::Bilan() const {
     lignes << QStringLiteral("lost: %1").arg(ecran.etat.TimeOut)
            << QStringLiteral("reading: %1").arg(ecran.etat.EnLecture)
            << QStringLiteral("rounds: %1").arg(tours)
-           << QStringLiteral("comments: ") + commentaires.join(u'|')
-           << QStringLiteral("shown: ") + montres.join(u'|') << QString::fromLatin1(Mesures())
+           << QStringLiteral("comments: ") + Joindre(commentaires)
+           << QStringLiteral("shown: ") + Joindre(montres) << QString::fromLatin1(Mesures())
            << QString::fromLatin1(Rejets());
     return lignes.join(u'\n').toStdString();
 }

@@ -45,7 +45,7 @@ class MenuGraphe : public ::testing::Test {
     void Choisir(QAction* entree) {
         ClicDroit(Milieu());
         ASSERT_TRUE(Menu());
-        QTest::mouseClick(Menu(), Qt::LeftButton, {}, Menu()->actionGeometry(entree).center());
+        essai::Operateur::CliquerEntree(Menu(), entree);
     }
     /// The next two file dialogs are cancelled.
     void AnnulerDeux() {
@@ -197,9 +197,7 @@ TEST_F(MenuGraphe, SavesADocumentOfVectors) {
 
 TEST_F(MenuGraphe, OfSeveralRecordingsTheFirstGivesTheName) {
     v.EcrireEnregistrement("b.txt");
-    v.etabli.dialogues.AnnoncerOuverture(v.etabli.systeme.dossier + QChar(u'\0') + "2026-3-5.txt" +
-                                         QChar(u'\0') + "b.txt");
-    v.Ui().CommandOpen->click();
+    v.OuvrirPlusieurs({"2026-3-5.txt", "b.txt"});
     v.etabli.dialogues.demandes.clear();
     v.etabli.dialogues.AnnoncerEnregistrement(std::nullopt);
     v.Ui().EnregistrerPng->trigger();

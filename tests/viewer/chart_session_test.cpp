@@ -13,11 +13,6 @@ using essai::Visionneuse;
 
 class Seance : public ::testing::Test {
   protected:
-    void Charger(const QString& nom = "a.txt") {
-        v.Fiche().show();
-        v.Ouvrir(nom);
-    }
-
     Visionneuse v;
 };
 
@@ -66,7 +61,7 @@ TEST_F(Seance, TheNavigatorIsShownDuringALoadAndHiddenAtItsEnd) {
         montre = montre || v.Ui().ChartPageNavigator->isVisible();
         graphe = graphe || v.Ui().TChart1->isVisible();
     });
-    Charger();
+    v.Charger();
     EXPECT_TRUE(montre);
     EXPECT_FALSE(graphe);
     EXPECT_FALSE(v.Ui().ChartPageNavigator->isVisible());
@@ -75,10 +70,10 @@ TEST_F(Seance, TheNavigatorIsShownDuringALoadAndHiddenAtItsEnd) {
 
 TEST_F(Seance, TheChartIsHiddenDuringALaterLoadToo) {
     v.EcrireEnregistrement("a.txt");
-    Charger();
+    v.Charger();
     bool graphe = false;
     v.etabli.respiration.ReglerEvenements([&] { graphe = graphe || v.Ui().TChart1->isVisible(); });
-    Charger();
+    v.Charger();
     EXPECT_FALSE(graphe);
     EXPECT_TRUE(v.Ui().TChart1->isVisible());
 }
@@ -87,7 +82,7 @@ TEST_F(Seance, TheMouseWaitsDuringALoadAndIsAnArrowAfterIt) {
     v.EcrireEnregistrement("a.txt");
     int pendant = -1;
     v.etabli.respiration.ReglerEvenements([&] { pendant = PointeurSouris(v.Fiche()); });
-    Charger();
+    v.Charger();
     EXPECT_EQ(pendant, pointeur::sablier);
     EXPECT_EQ(PointeurSouris(v.Fiche()), pointeur::fleche);
 }
@@ -99,7 +94,7 @@ TEST_F(Seance, ALoadFinishesTheChart) {
     modele.defilement = 0;
     v.Ui().Lissage->setValue(55);
     modele.troisDimensions = true;
-    Charger();
+    v.Charger();
     EXPECT_TRUE(modele.visible);
     EXPECT_TRUE(v.Modele().legendeVisible);
     EXPECT_TRUE(v.Modele().legendeCases);
@@ -118,14 +113,14 @@ TEST_F(Seance, ALoadFinishesTheChart) {
 
 TEST_F(Seance, TheTimeAxisSpansTheTimeStampsOfTheFile) {
     v.EcrireEnregistrement("a.txt", 300);
-    Charger();
+    v.Charger();
     EXPECT_EQ(v.Modele().bas.plage, (Plage{1'000'000, 1'299'000}));
     EXPECT_EQ(v.Regard().Temps().max, 1'299'000);
 }
 
 TEST_F(Seance, WithoutAnyLineTheTimeAxisKeepsItsStartingValues) {
     v.etabli.Ecrire("a.txt", Visionneuse::enteteAppareil + "\r\n");
-    Charger();
+    v.Charger();
     EXPECT_GT(v.Modele().bas.plage.min, 1e12);
     EXPECT_EQ(v.Modele().bas.plage.max, 0);
     EXPECT_EQ(v.Regard().NombreEtiquettesTemps(), 0);
@@ -134,7 +129,7 @@ TEST_F(Seance, WithoutAnyLineTheTimeAxisKeepsItsStartingValues) {
 
 TEST_F(Seance, AnEmptyFileOnAnEmptyViewerDrawsNothing) {
     v.etabli.Ecrire("a.txt", "");
-    Charger();
+    v.Charger();
     EXPECT_EQ(v.Modele().NombreSeries(), 0);
     EXPECT_EQ(v.Modele().bas.plage, (Plage{0, 0}));
     EXPECT_FALSE(v.Fiche().Chargement);
@@ -145,14 +140,14 @@ TEST_F(Seance, AnEmptyFileOnAnEmptyViewerDrawsNothing) {
 TEST_F(Seance, AnEmptyFileLeavesTheChartAsItWas) {
     v.EcrireEnregistrement("a.txt", 300);
     v.etabli.Ecrire("b.txt", "");
-    Charger();
-    Charger("b.txt");
+    v.Charger();
+    v.Charger("b.txt");
     EXPECT_EQ(v.Modele().NombreSeries(), 4);
     EXPECT_EQ(v.Modele().bas.plage, (Plage{1'000'000, 1'299'000}));
 }
 
 TEST_F(Seance, AMissingFileIsSilentAndTheClosingStepsRun) {
-    Charger("absent.txt");
+    v.Charger("absent.txt");
     EXPECT_FALSE(v.Fiche().Chargement);
     EXPECT_TRUE(v.Ui().TChart1->isVisible());
     EXPECT_EQ(PointeurSouris(v.Fiche()), pointeur::fleche);
@@ -162,7 +157,7 @@ TEST_F(Seance, AMissingFileIsSilentAndTheClosingStepsRun) {
 
 TEST_F(Seance, CurvesAndCursorEntriesMatch) {
     v.EcrireEnregistrement("a.txt");
-    Charger();
+    v.Charger();
     ASSERT_EQ(v.Modele().NombreSeries(), 4);
     ASSERT_EQ(v.Ui().Curseur->Nombre(), 5);
     EXPECT_EQ(v.Ui().Curseur->TexteA(0), "Pas de curseur");
@@ -180,7 +175,7 @@ TEST_F(Seance, ASecondStartDuringALoadIsRefused) {
     v.etabli.respiration.ReglerEvenements([&] {
         if (!std::exchange(essaye, true)) ChargeCourbes(v.Fiche(), v.etabli.Chemin("b.txt"), false);
     });
-    Charger();
+    v.Charger();
     EXPECT_TRUE(essaye);
     EXPECT_EQ(v.Modele().Serie(0).Nombre(), 300);
 }
@@ -191,7 +186,7 @@ TEST_F(Seance, AFaultOfAHandlerDuringALoadIsGuardedAsEver) {
     v.etabli.respiration.ReglerEvenements([&] {
         if (!std::exchange(leve, true)) garder([] { LeverFaute(6); });
     });
-    Charger();
+    v.Charger();
     EXPECT_EQ(v.etabli.fautes, std::vector<int>{6});
 }
 
@@ -208,10 +203,8 @@ TEST_F(Seance, AConfigurationThatCannotBeReadDoesNotKeepTheCurveAway) {
 TEST_F(Seance, SeveralFilesAreLoadedFromOneFolder) {
     v.EcrireEnregistrement("a.txt", 300);
     v.EcrireEnregistrement("b.txt", 20);
-    v.etabli.dialogues.AnnoncerOuverture(v.etabli.systeme.dossier + QChar(u'\0') + "a.txt" +
-                                         QChar(u'\0') + "b.txt");
     v.Fiche().show();
-    v.Ui().CommandOpen->click();
+    v.OuvrirPlusieurs({"a.txt", "b.txt"});
     ASSERT_EQ(v.Modele().NombreSeries(), 4);
     EXPECT_EQ(v.Modele().Serie(0).Nombre(), 300);
     EXPECT_EQ(v.Modele().Serie(2).Nombre(), 20);
@@ -233,7 +226,7 @@ TEST_F(Seance, AfterADownloadTheBareNameIsTakenFromTheProgramsFolder) {
 
 TEST_F(Seance, ChartAddSerieAddsACurve) {
     v.EcrireEnregistrement("a.txt");
-    Charger();
+    v.Charger();
     Chart_Add_Serie(v.Fiche());
     EXPECT_EQ(v.Modele().NombreSeries(), 5);
     Chart_Refresh(v.Fiche());
@@ -254,7 +247,7 @@ TEST_F(Seance, ChartAddPointAddsToTheFirstCurveWithoutALabel) {
 TEST_F(Seance, WithoutATemplateTheLoadWorksAndTheChartHasNoTools) {
     v.EcrireEnregistrement("a.txt");
     ASSERT_TRUE(QFile::remove(v.etabli.Chemin("BORNIKA.TEE")));
-    Charger();
+    v.Charger();
     EXPECT_EQ(v.Modele().NombreOutils(), 0);
     EXPECT_EQ(v.Modele().NombreSeries(), 4);
     EXPECT_TRUE(v.Ui().TChart1->isVisible());
@@ -263,7 +256,7 @@ TEST_F(Seance, WithoutATemplateTheLoadWorksAndTheChartHasNoTools) {
 
 TEST_F(Seance, ATemplateGoneOrMalformedAtAReloadTakesTheToolsAway) {
     v.EcrireEnregistrement("a.txt");
-    Charger();
+    v.Charger();
     ASSERT_EQ(v.Modele().NombreOutils(), 6);
     v.etabli.Ecrire("BORNIKA.TEE", "<Graphe><Outils>");
     v.Ui().Command_Refresh->click();
@@ -273,7 +266,7 @@ TEST_F(Seance, ATemplateGoneOrMalformedAtAReloadTakesTheToolsAway) {
 TEST_F(Seance, TheTemplateIsNeverWritten) {
     v.EcrireEnregistrement("a.txt");
     const QByteArray avant = v.etabli.Lire("BORNIKA.TEE");
-    Charger();
+    v.Charger();
     v.etabli.dialogues.AnnoncerCouleur(0x123456);
     QTest::keyClick(v.Ui().Couleurs, Qt::Key_Down);
     EXPECT_EQ(v.etabli.Lire("BORNIKA.TEE"), avant);

@@ -206,9 +206,7 @@ TEST_F(CurseurLecture, OfSeveralFilesTheThirdCurveIsReadInTheSameWay) {
     Ecrire("a.txt", Montee(20));
     Ecrire("b.txt", {{1.23456, 1}, {2.34567, 1}, {3.45678, 1}});
     v.Fiche().show();
-    v.etabli.dialogues.AnnoncerOuverture(v.etabli.systeme.dossier + QChar(u'\0') + "a.txt" +
-                                         QChar(u'\0') + "b.txt");
-    v.Ui().CommandOpen->click();
+    v.OuvrirPlusieurs({"a.txt", "b.txt"});
     ASSERT_EQ(v.Ui().Curseur->Nombre(), 5);
     ASSERT_EQ(v.Modele().Serie(2).axe, SerieGraphe::Axe::Gauche);
     ChoisirCurseur(3);
@@ -269,9 +267,7 @@ TEST_F(CurseurLecture, FromTheFourthCurveOnNothingChanges) {
     Ecrire("b.txt", Montee(10));
     Ecrire("c.txt", Montee(10));
     v.Fiche().show();
-    v.etabli.dialogues.AnnoncerOuverture(v.etabli.systeme.dossier + QChar(u'\0') + "a.txt" +
-                                         QChar(u'\0') + "b.txt" + QChar(u'\0') + "c.txt");
-    v.Ui().CommandOpen->click();
+    v.OuvrirPlusieurs({"a.txt", "b.txt", "c.txt"});
     ASSERT_EQ(v.Ui().Curseur->Nombre(), 7);
     ChoisirCurseur(1);
     Survoler(debutSecondes + 3);

@@ -237,7 +237,7 @@ TEST_F(Destruction, OfSeveralFilesShowsTheWarningAlone) {
     EXPECT_EQ(v.etabli.dialogues.Boites()[0].icone, Icone::Exclamation);
     EXPECT_TRUE(QFile::exists(Chemin("a.txt")));
     EXPECT_TRUE(QFile::exists(Chemin("b.txt")));
-    EXPECT_EQ(v.Fiche().NomFichierCourant, Plusieurs({"a.txt", "b.txt"}));
+    EXPECT_EQ(v.Fiche().NomFichierCourant, v.Plusieurs({"a.txt", "b.txt"}));
 }
 
 TEST_F(Destruction, AsksWithTheNameOfTheFileAndNoKeepsIt) {

@@ -31,18 +31,14 @@ class Sorties : public ::testing::Test {
         v.Ouvrir(nom);
         v.Ui().TChart1->FixerAnimation({});
     }
-    QString Plusieurs(const QStringList& noms) const {
-        return v.etabli.systeme.dossier + QChar(u'\0') + noms.join(QChar(u'\0'));
-    }
     void ChargerPlusieurs(const QStringList& noms) {
-        v.etabli.dialogues.AnnoncerOuverture(Plusieurs(noms));
         v.Fiche().show();
-        v.Ui().CommandOpen->click();
+        v.OuvrirPlusieurs(noms);
     }
 
     static void Cliquer(QPushButton* bouton) {
         ASSERT_TRUE(bouton->isVisible());
-        QTest::mouseClick(bouton, Qt::LeftButton);
+        Operateur::Cliquer(bouton);
     }
     /// Clicks the button and answers with that file of the program's folder.
     void Exporter(const QString& cible) {
@@ -54,8 +50,7 @@ class Sorties : public ::testing::Test {
         Cliquer(v.Ui().EnregistrerSelection);
     }
     void Rafraichir() {
-        if (!v.Ui().Check_advanced->isChecked())
-            QTest::mouseClick(v.Ui().Check_advanced, Qt::LeftButton, {}, QPoint(8, 8));
+        if (!v.Ui().Check_advanced->isChecked()) Operateur::Cliquer(v.Ui().Check_advanced);
         Cliquer(v.Ui().Command_Refresh);
     }
     /// Draws a rubber band over the middle of the chart.

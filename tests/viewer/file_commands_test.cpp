@@ -52,11 +52,9 @@ TEST(CommandOpen, LoadsSeveralFilesIntoOneViewAndNamesTheFormAfterTheirFolder) {
     Visionneuse v;
     v.EcrireEnregistrement("a.txt", 30);
     v.EcrireEnregistrement("b.txt", 20);
-    const QString noms = v.etabli.systeme.dossier + QChar(u'\0') + "b.txt" + QChar(u'\0') + "a.txt";
-    v.etabli.dialogues.AnnoncerOuverture(noms);
     v.Fiche().show();
-    v.Ui().CommandOpen->click();
-    EXPECT_EQ(v.Fiche().NomFichierCourant, noms);
+    v.OuvrirPlusieurs({"b.txt", "a.txt"});
+    EXPECT_EQ(v.Fiche().NomFichierCourant, v.Plusieurs({"b.txt", "a.txt"}));
     EXPECT_EQ(v.Fiche().windowTitle(), v.etabli.systeme.dossier);
     ASSERT_EQ(v.Modele().NombreSeries(), 4);
     EXPECT_EQ(v.Modele().Serie(0).Nombre(), 20);

@@ -68,7 +68,7 @@ TEST_F(FileDrop, OpensSeveralRecordingsOfOneFolderInOneView) {
     Prendre({"a.txt", "b.txt"});
     EXPECT_TRUE(Deposer(v.Fiche()));
     Attendre();
-    EXPECT_EQ(v.Fiche().NomFichierCourant, Plusieurs({"a.txt", "b.txt"}));
+    EXPECT_EQ(v.Fiche().NomFichierCourant, v.Plusieurs({"a.txt", "b.txt"}));
     EXPECT_EQ(v.Fiche().windowTitle(), v.etabli.systeme.dossier);
     ASSERT_EQ(v.Modele().NombreSeries(), 4);
     EXPECT_EQ(v.Modele().Serie(2).Nombre(), 20);

@@ -93,9 +93,7 @@ TEST_F(MinMax, TakeInTheCurvesOfOtherFiles) {
     Ecrire("a.txt", Montee(9));
     Ecrire("b.txt", {{40, 1}, {60, 1}});
     v.Fiche().show();
-    v.etabli.dialogues.AnnoncerOuverture(v.etabli.systeme.dossier + QChar(u'\0') + "a.txt" +
-                                         QChar(u'\0') + "b.txt");
-    v.Ui().CommandOpen->click();
+    v.OuvrirPlusieurs({"a.txt", "b.txt"});
     ChoisirCurseur(1);
     Allumer();
     EXPECT_EQ(Textes(), QStringList({"1.00", "13.18", "60.00"}));
@@ -168,7 +166,7 @@ TEST_F(MinMax, FollowThePages) {
     Allumer();
     Cliquer(v.Ui().Pages);
     EXPECT_EQ(v.Ui().Max->text(), "100.00");
-    QTest::mouseClick(v.Ui().ChartPageNavigator->suivante, Qt::LeftButton);
+    Cliquer(v.Ui().ChartPageNavigator->suivante);
     EXPECT_EQ(v.Ui().Min->text(), "101.00");
 }
 
@@ -476,9 +474,7 @@ TEST_F(Lisseur, LeavesTheCurvesOfASecondFileAlone) {
     Ecrire("a.txt", Montee(20));
     Ecrire("b.txt", Montee(10));
     v.Fiche().show();
-    v.etabli.dialogues.AnnoncerOuverture(v.etabli.systeme.dossier + QChar(u'\0') + "a.txt" +
-                                         QChar(u'\0') + "b.txt");
-    v.Ui().CommandOpen->click();
+    v.OuvrirPlusieurs({"a.txt", "b.txt"});
     Activer(true, true);
     const std::uint64_t avant = v.Modele().Serie(2).Revision();
     Pousser(5);

@@ -15,7 +15,7 @@ struct Mesure {
 };
 
 /// A viewer whose reading aids are used with the mouse and the keys.
-class Lectures : public ::testing::Test {
+class Lectures : public ::testing::Test, protected Operateur {
   protected:
     static constexpr qint64 debutSecondes = 1'000'000;
 
@@ -45,17 +45,7 @@ class Lectures : public ::testing::Test {
     }
 
     /// Chooses an entry of `Curseur` with the keys.
-    void ChoisirCurseur(int index) {
-        ListeDeroulante& liste = *v.Ui().Curseur;
-        if (index == 0) QTest::keyClick(&liste, Qt::Key_Home);
-        while (liste.Index() < index)
-            QTest::keyClick(&liste, Qt::Key_Down);
-        while (liste.Index() > index)
-            QTest::keyClick(&liste, Qt::Key_Up);
-    }
-    static void Cliquer(QCheckBox* boite) {
-        QTest::mouseClick(boite, Qt::LeftButton, {}, QPoint(8, boite->height() / 2));
-    }
+    void ChoisirCurseur(int index) { ChoisirEntree(v.Ui().Curseur, index); }
     /// Moves the mouse over the chart to that time, in the middle of its height.
     QPoint Survoler(double temps) {
         const QPoint point(qRound(v.Regard().Pixel(temps)), v.Regard().Cadre().center().y());

@@ -11,19 +11,6 @@ using essai::Visionneuse;
 /// What comes in the way of a load: files that end it, and what the operator does meanwhile.
 class Interruptions : public ::testing::Test {
   protected:
-    void Charger(const QString& nom = "a.txt") {
-        v.Fiche().show();
-        v.Ouvrir(nom);
-    }
-    /// Picks several files of the program's folder.
-    void ChargerPlusieurs(const QStringList& noms) {
-        v.etabli.dialogues.AnnoncerOuverture(Plusieurs(noms));
-        v.Fiche().show();
-        v.Ui().CommandOpen->click();
-    }
-    QString Plusieurs(const QStringList& noms) const {
-        return v.etabli.systeme.dossier + QChar(u'\0') + noms.join(QChar(u'\0'));
-    }
     int Points(int serie) { return v.Modele().Serie(serie).Nombre(); }
     /// Does that once, at that yield of the load.
     void ALaCession(int numero, std::function<void()> action) {
@@ -42,7 +29,7 @@ TEST_F(Interruptions, ALineThatEndsALoadIsSilentAndTheClosingStepsRun) {
         v.etabli.Ecrire("a.txt", Visionneuse::enteteAppareil +
                                      "\r\n1000;d;0;1;;2;\r\n2000;d;0;1;;2;\r\n" + ligne +
                                      "9000;d;0;1;;2;\r\n");
-        Charger();
+        v.Charger();
         EXPECT_FALSE(v.Fiche().Chargement) << ligne;
         EXPECT_TRUE(v.Ui().TChart1->isVisible()) << ligne;
         ASSERT_EQ(v.Modele().NombreSeries(), 2) << ligne;
@@ -59,7 +46,8 @@ TEST_F(Interruptions, ALineThatEndsALoadIsSilentAndTheClosingStepsRun) {
 TEST_F(Interruptions, AMissingFileAmongSeveralKeepsNoneOfTheOthersAway) {
     v.EcrireEnregistrement("a.txt", 30);
     v.EcrireEnregistrement("c.txt", 20);
-    ChargerPlusieurs({"a.txt", "b.txt", "c.txt"});
+    v.Fiche().show();
+    v.OuvrirPlusieurs({"a.txt", "b.txt", "c.txt"});
     ASSERT_EQ(v.Modele().NombreSeries(), 4);
     EXPECT_EQ(Points(0), 30);
     EXPECT_EQ(Points(2), 20);
@@ -70,8 +58,9 @@ TEST_F(Interruptions, AnEmptyFirstOfSeveralAddsTheOthersToWhatStood) {
     v.EcrireEnregistrement("a.txt", 30);
     v.etabli.Ecrire("b.txt", "");
     v.EcrireEnregistrement("c.txt", 20);
-    Charger();
-    ChargerPlusieurs({"b.txt", "c.txt"});
+    v.Charger();
+    v.Fiche().show();
+    v.OuvrirPlusieurs({"b.txt", "c.txt"});
     ASSERT_EQ(v.Modele().NombreSeries(), 6);
     EXPECT_EQ(Points(0), 30);
     EXPECT_EQ(Points(4), 20);
@@ -89,7 +78,7 @@ TEST_F(Interruptions, AChartThatIsShownDuringALoadGrowsWithIt) {
         dessines.push_back(v.Regard().PointsDessines(0));
         lus.push_back(Points(0));
     });
-    Charger();
+    v.Charger();
     EXPECT_EQ(lus, (std::vector<int>{49, 99, 149, 199, 249, 299}));
     EXPECT_EQ(dessines, lus);
     EXPECT_EQ(v.Regard().PointsDessines(0), 300);
@@ -99,7 +88,7 @@ TEST_F(Interruptions, AnotherFilePickedDuringALoadIsNamedButNotLoaded) {
     v.EcrireEnregistrement("a.txt");
     v.EcrireEnregistrement("b.txt", 10);
     ALaCession(50, [this] { v.Ouvrir("b.txt"); });
-    Charger();
+    v.Charger();
     EXPECT_EQ(Points(0), 300);
     EXPECT_EQ(v.Fiche().NomFichierCourant, v.etabli.Chemin("b.txt"));
     EXPECT_EQ(v.Fiche().windowTitle(), v.etabli.Chemin("b.txt"));
@@ -112,7 +101,8 @@ TEST_F(Interruptions, FilesPickedDuringALoadOfSeveralDoNotTakeTheirPlace) {
     v.EcrireEnregistrement("b.txt", 20);
     v.EcrireEnregistrement("c.txt", 10);
     ALaCession(10, [this] { v.Ouvrir("c.txt"); });
-    ChargerPlusieurs({"a.txt", "b.txt"});
+    v.Fiche().show();
+    v.OuvrirPlusieurs({"a.txt", "b.txt"});
     ASSERT_EQ(v.Modele().NombreSeries(), 4);
     EXPECT_EQ(Points(0), 30);
     EXPECT_EQ(Points(2), 20);
@@ -120,7 +110,7 @@ TEST_F(Interruptions, FilesPickedDuringALoadOfSeveralDoNotTakeTheirPlace) {
 
 TEST_F(Interruptions, ARefreshDuringALoadIsRefused) {
     v.EcrireEnregistrement("a.txt", 30);
-    Charger();
+    v.Charger();
     std::uint64_t avant = 0;
     std::uint64_t apres = 0;
     ALaCession(20, [&] {
@@ -137,7 +127,7 @@ TEST_F(Interruptions, ARefreshDuringALoadIsRefused) {
 
 TEST_F(Interruptions, TheBarStaysAtItsLastValue) {
     v.EcrireEnregistrement("a.txt");
-    Charger();
+    v.Charger();
     const BarreProgression& barre = *v.Ui().ProgressBar;
     EXPECT_TRUE(barre.isVisible());
     EXPECT_EQ(barre.Maximum(), v.etabli.Lire("a.txt").size());

@@ -7,6 +7,7 @@
 #include "platform/fault.h"
 #include "shell/main_screen.h"
 #include "support/fake_system.h"
+#include "support/hand.h"
 #include "ui_main_screen.h"
 #include "ui_trace_form.h"
 #include "viewer/chart_session.h"
@@ -16,7 +17,7 @@
 namespace bornika::essai {
 
 /// The viewer on its real forms with the table of events of the program, over fakes of the machine.
-struct Visionneuse {
+struct Visionneuse : Operateur {
     Visionneuse() : ecran(etabli.systeme), acces(ecran) {
         ecran.configuration.RemplitListeLangues(*ecran.ui->ListeLangues, "Français");
         ecran.etat.NomKpod = "k-Pod";
@@ -43,6 +44,20 @@ struct Visionneuse {
     /// What `CommandOpen` does when the operator picks that one file of the program's folder.
     void Ouvrir(const QString& nom) {
         etabli.dialogues.AnnoncerOuverture(etabli.Chemin(nom));
+        Ui().CommandOpen->click();
+    }
+    /// The form is on the screen, with that file.
+    void Charger(const QString& nom = QStringLiteral("a.txt")) {
+        Fiche().show();
+        Ouvrir(nom);
+    }
+    /// What the file dialog gives for several files of the program's folder.
+    QString Plusieurs(const QStringList& noms) const {
+        return etabli.systeme.dossier + QChar(u'\0') + noms.join(QChar(u'\0'));
+    }
+    /// What `CommandOpen` does when the operator picks several of them.
+    void OuvrirPlusieurs(const QStringList& noms) {
+        etabli.dialogues.AnnoncerOuverture(Plusieurs(noms));
         Ui().CommandOpen->click();
     }
     QString Reglage(const QString& cle) {

@@ -11,10 +11,6 @@ using essai::Visionneuse;
 
 class ReglagesDebit : public ::testing::Test {
   protected:
-    void Charger(const QString& nom = "a.txt") {
-        v.Fiche().show();
-        v.Ouvrir(nom);
-    }
     double Debit(int point) { return v.Modele().Serie(1).Y()[std::size_t(point)]; }
 
     Visionneuse v;
@@ -43,7 +39,7 @@ TEST_F(ReglagesDebit, TheIndexOfTheTimeUnitIsSavedOnClick) {
 TEST_F(ReglagesDebit, TheFirstOpeningOfADeviceFileLeavesNoTimeUnitAndSavesThat) {
     v.ecran.configuration.EcritConfig("1", "IndexListeTemps");
     v.EcrireEnregistrement("a.txt");
-    Charger();
+    v.Charger();
     EXPECT_EQ(v.Ui().ListeTemps->Index(), -1);
     EXPECT_EQ(v.Reglage("IndexListeTemps"), "-1");
     EXPECT_EQ(v.Reglage("UniteImpulsion"), "M3/sec.");
@@ -52,7 +48,7 @@ TEST_F(ReglagesDebit, TheFirstOpeningOfADeviceFileLeavesNoTimeUnitAndSavesThat) 
 
 TEST_F(ReglagesDebit, WhatAHeaderSetsIsSaved) {
     v.EcrireEnregistrement("a.txt", 300, Visionneuse::enteteCoefficient);
-    Charger();
+    v.Charger();
     EXPECT_EQ(v.Reglage("CoefImpulsion"), "2.5");
     EXPECT_EQ(v.Reglage("UniteImpulsion"), "m3");
     EXPECT_EQ(v.Reglage("IndexListeTemps"), "1");
@@ -62,7 +58,7 @@ TEST_F(ReglagesDebit, WhatAHeaderSetsIsSaved) {
 
 TEST_F(ReglagesDebit, ARefreshAppliesTheSettingsOfTheForm) {
     v.EcrireEnregistrement("a.txt");
-    Charger();
+    v.Charger();
     v.Ui().CoefImpulsion->setText("3");
     v.Ui().UniteImpulsion->setText("l");
     v.Ui().ListeTemps->Choisir(2);
@@ -76,7 +72,7 @@ TEST_F(ReglagesDebit, ARefreshAppliesTheSettingsOfTheForm) {
 
 TEST_F(ReglagesDebit, EachLoadTakesWhatTheConfigurationHoldsThen) {
     v.EcrireEnregistrement("a.txt");
-    Charger();
+    v.Charger();
     v.ecran.configuration.EcritConfig("4", "CoefImpulsion");
     v.ecran.configuration.EcritConfig("l", "UniteImpulsion");
     v.ecran.configuration.EcritConfig("1", "IndexListeTemps");
@@ -89,7 +85,7 @@ TEST_F(ReglagesDebit, EachLoadTakesWhatTheConfigurationHoldsThen) {
 
 TEST_F(ReglagesDebit, ATextThatIsNoNumberShowsTheRawRateWithoutAMessage) {
     v.EcrireEnregistrement("a.txt");
-    Charger();
+    v.Charger();
     v.Ui().CoefImpulsion->setText("abc");
     v.Ui().ListeTemps->Choisir(2);
     v.Ui().Command_Refresh->click();
@@ -107,7 +103,7 @@ TEST_F(ReglagesDebit, WithNothingLoadedARefreshDoesNothing) {
 
 TEST_F(ReglagesDebit, ARefreshAfterAnotherUseOfTheFileDialogReloadsTheFileOnTheScreen) {
     v.EcrireEnregistrement("a.txt");
-    Charger();
+    v.Charger();
     v.etabli.dialogues.AnnoncerOuverture(std::nullopt);
     v.Ui().CommandOpen->click();
     v.Fiche().NomDialogue = "/elsewhere/export.csv";
@@ -118,10 +114,8 @@ TEST_F(ReglagesDebit, ARefreshAfterAnotherUseOfTheFileDialogReloadsTheFileOnTheS
 TEST_F(ReglagesDebit, ARefreshOfSeveralFilesReloadsThemAll) {
     v.EcrireEnregistrement("a.txt", 30);
     v.EcrireEnregistrement("b.txt", 20);
-    v.etabli.dialogues.AnnoncerOuverture(v.etabli.systeme.dossier + QChar(u'\0') + "a.txt" +
-                                         QChar(u'\0') + "b.txt");
     v.Fiche().show();
-    v.Ui().CommandOpen->click();
+    v.OuvrirPlusieurs({"a.txt", "b.txt"});
     v.Fiche().NomDialogue.clear();
     v.Ui().Command_Refresh->click();
     ASSERT_EQ(v.Modele().NombreSeries(), 4);
@@ -131,7 +125,7 @@ TEST_F(ReglagesDebit, ARefreshOfSeveralFilesReloadsThemAll) {
 
 TEST_F(ReglagesDebit, TheAdvancedFrameIsVisibleExactlyWhileItsBoxIsChecked) {
     v.EcrireEnregistrement("a.txt");
-    Charger();
+    v.Charger();
     EXPECT_FALSE(v.Ui().Frame_advanced->isVisible());
     v.Ui().Check_advanced->click();
     EXPECT_TRUE(v.Ui().Frame_advanced->isVisible());

@@ -139,7 +139,7 @@ TEST_F(CouleursChoix, ALineThatTheTemplateDidNotBringDoesNothing) {
 }
 
 TEST_F(PagesChoix, CheckedGivesAHundredPointsAPageAndNotTheThousandOfTheLoad) {
-    QTest::mouseClick(v.Ui().Pages, Qt::LeftButton, {}, QPoint(8, v.Ui().Pages->height() / 2));
+    Visionneuse::Cliquer(v.Ui().Pages);
     ASSERT_TRUE(v.Ui().Pages->isChecked());
     EXPECT_EQ(v.Modele().MaxPointsPerPage(), 100);
     EXPECT_TRUE(v.Ui().ChartPageNavigator->isVisible());
@@ -160,15 +160,15 @@ TEST_F(PagesChoix, TheNavigatorTurnsThePages) {
     v.Ui().Pages->setChecked(true);
     NavigateurPages& navigateur = *v.Ui().ChartPageNavigator;
     EXPECT_FALSE(navigateur.precedente->isEnabled());
-    QTest::mouseClick(navigateur.suivante, Qt::LeftButton);
+    Visionneuse::Cliquer(navigateur.suivante);
     EXPECT_EQ(v.Modele().FirstValueIndex(0), 100);
     EXPECT_EQ(v.Ui().TChart1->Toile().xAxis->range().lower, 1'100'000);
     EXPECT_EQ(navigateur.Texte(), "2 / 3");
-    QTest::mouseClick(navigateur.derniere, Qt::LeftButton);
+    Visionneuse::Cliquer(navigateur.derniere);
     EXPECT_EQ(v.Modele().LastValueIndex(0), 299);
     EXPECT_FALSE(navigateur.suivante->isEnabled());
-    QTest::mouseClick(navigateur.precedente, Qt::LeftButton);
-    QTest::mouseClick(navigateur.premiere, Qt::LeftButton);
+    Visionneuse::Cliquer(navigateur.precedente);
+    Visionneuse::Cliquer(navigateur.premiere);
     EXPECT_EQ(v.Modele().FirstValueIndex(0), 0);
 }
 

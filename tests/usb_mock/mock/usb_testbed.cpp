@@ -149,7 +149,7 @@ void BancUsb::Interieur::Retirer(Port& port, int numero) {
 }
 
 bool BancUsb::Possible() {
-    // Seen from within a bench only.
+    // Seen from within a testbed only.
     const Tenu<UMockdevTestbed> essai(umockdev_testbed_new());
     return umockdev_in_mock_environment() != 0;
 }

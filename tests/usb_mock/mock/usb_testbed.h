@@ -13,7 +13,7 @@ namespace bornika::essai {
 /// and found by the unmodified USB library. It has to be made before that library is begun with.
 class BancUsb {
   public:
-    /// Whether this process runs in a mock environment; without one no bench can be made.
+    /// Whether this process runs in a mock environment; without one no testbed can be made.
     static bool Possible();
 
     BancUsb();
