@@ -137,7 +137,7 @@ TEST(DownloadDisturbed, AScaleChosenMeanwhileCountsFromTheNextLineOn) {
     BancLong banc;
     const double avant = banc.ecran.etat.Maxi;
     banc.AuTour(10, [&] { banc.ui.ListeEchelles->Choisir(2); });
-    banc.Cliquer();
+    banc.Telecharger();
     ASSERT_NE(banc.ecran.etat.Maxi, avant);
     const QList<QByteArray> lignes = banc.Mesures().split('\n');
     EXPECT_EQ(Clair(lignes[9].split(';').at(3)), "0.125");
@@ -154,7 +154,7 @@ TEST(DownloadDisturbed, AbsolutePressureTickedMeanwhileCountsFromTheNextLineOn) 
         const QSignalBlocker sansRegles(banc.ui.PressionAbsolue);
         banc.ui.PressionAbsolue->setChecked(true);
     });
-    banc.Cliquer();
+    banc.Telecharger();
     const QList<QByteArray> lignes = banc.Rejets().split('\n');
     EXPECT_EQ(Clair(lignes[4].split(';').at(3)), "8");
     EXPECT_EQ(Clair(lignes[5].split(';').at(3)), "6.976");
