@@ -14,8 +14,8 @@
 #include <limits>
 
 #include "app/form_events.h"
-#include "logger/pressure_scale.h"
 #include "retrieval/download_engine.h"
+#include "setup/pressure_scale.h"
 #include "shell/language_switch.h"
 #include "silent_dialogs.h"
 #include "simulator/presets.h"

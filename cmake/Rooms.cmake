@@ -44,6 +44,9 @@ function(bornika_precompiled target kind)
             PRIVATE ${PROJECT_SOURCE_DIR}/cmake/precompiled/${kind}.h)
     endif()
     target_precompile_headers(${target} REUSE_FROM ${headers})
+    # What the toolkit's object compiler has made is empty in most rooms.
+    set_source_files_properties(${CMAKE_CURRENT_BINARY_DIR}/${target}_autogen/mocs_compilation.cpp
+                                PROPERTIES SKIP_PRECOMPILE_HEADERS ON)
 endfunction()
 
 # A room's form compiler looks at the files that have a form of their own name: the others may include

@@ -3,7 +3,8 @@
 
 packages_build=(build-essential cmake ninja-build qt6-base-dev qt6-translations-l10n libgl-dev
     libqcustomplot-dev libpugixml-dev libusb-1.0-0-dev pkg-config fonts-dejavu-core)
-packages_test=(libgtest-dev libgmock-dev clang-format poppler-utils umockdev libumockdev-dev)
+packages_test=(libgtest-dev libgmock-dev poppler-utils umockdev libumockdev-dev)
+packages_check=(clang-format clang-tidy)
 packages_kernel=(qemu-system-x86 kmod busybox-static udev) # see tests/usb_kernel/prepare
 packages_bench=(libbenchmark-dev umockdev libumockdev-dev)
 

@@ -4,7 +4,24 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <QtWidgets>
+#include <QApplication>
+#include <QCheckBox>
+#include <QDateTimeEdit>
+#include <QDialog>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMainWindow>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollBar>
+#include <QSlider>
+#include <QTemporaryDir>
+#include <QTimer>
 #include <algorithm>
 #include <functional>
 #include <memory>

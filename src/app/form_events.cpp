@@ -2,9 +2,9 @@
 
 #include <QEvent>
 
-#include "logger/form_rules.h"
-#include "logger/pressure_scale.h"
 #include "platform/guard.h"
+#include "setup/form_rules.h"
+#include "setup/pressure_scale.h"
 #include "shell/main_screen.h"
 #include "ui_main_screen.h"
 

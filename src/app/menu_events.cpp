@@ -1,7 +1,7 @@
 #include "app/menu_events.h"
 
-#include "logger/recording_summary.h"
 #include "platform/guard.h"
+#include "setup/recording_summary.h"
 #include "shell/help_mode.h"
 #include "shell/language_switch.h"
 #include "shell/main_screen.h"

@@ -1,9 +1,9 @@
 #include "app/service_events.h"
 
 #include "calibration/calibration.h"
+#include "context/context_dump.h"
 #include "link/station.h"
 #include "logger/clock_correction.h"
-#include "logger/context_dump.h"
 #include "platform/guard.h"
 #include "platform/numbers.h"
 #include "retrieval/flash_service.h"

@@ -1,10 +1,10 @@
 #include "calibration/calibration_display.h"
 
 #include "calibration/calibration_form.h"
-#include "logger/pressure_scale.h"
 #include "platform/dates.h"
 #include "platform/fault.h"
 #include "platform/format_pattern.h"
+#include "setup/pressure_scale.h"
 #include "shell/form_captions.h"
 #include "ui_calibration_form.h"
 #include "ui_main_screen.h"

@@ -1,10 +1,10 @@
 #include "logger/context_reading.h"
 
+#include "context/addressed_fields.h"
+#include "context/context_values.h"
+#include "context/pulse_parameters.h"
 #include "link/memory_access.h"
-#include "logger/addressed_fields.h"
-#include "logger/context_values.h"
 #include "logger/display_statement.h"
-#include "logger/pulse_parameters.h"
 #include "platform/numbers.h"
 #include "ui_main_screen.h"
 

@@ -1,9 +1,9 @@
 #include "logger/context_writing.h"
 
+#include "context/addressed_fields.h"
+#include "context/context_values.h"
+#include "context/pulse_parameters.h"
 #include "link/memory_access.h"
-#include "logger/addressed_fields.h"
-#include "logger/context_values.h"
-#include "logger/pulse_parameters.h"
 #include "ui_main_screen.h"
 
 namespace bornika {

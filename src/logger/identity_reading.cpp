@@ -1,8 +1,8 @@
 #include "logger/identity_reading.h"
 
+#include "link/battery.h"
 #include "link/command_table.h"
 #include "link/device_identity.h"
-#include "logger/battery.h"
 #include "logger/display_statement.h"
 #include "logger/parameter_replies.h"
 #include "logger/parameter_report.h"

@@ -4,8 +4,8 @@
 #include "logger/display_statement.h"
 #include "logger/parameter_replies.h"
 #include "logger/parameter_report.h"
-#include "logger/pressure_scale.h"
 #include "platform/format_pattern.h"
+#include "setup/pressure_scale.h"
 #include "ui_main_screen.h"
 
 namespace bornika {

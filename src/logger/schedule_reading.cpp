@@ -3,10 +3,10 @@
 #include "link/command_table.h"
 #include "logger/card_state.h"
 #include "logger/display_statement.h"
-#include "logger/duration_rules.h"
 #include "logger/parameter_replies.h"
 #include "logger/parameter_report.h"
 #include "platform/dates.h"
+#include "setup/duration_rules.h"
 #include "ui_main_screen.h"
 
 namespace bornika {

@@ -1,7 +1,7 @@
 #include "logger/set_up_form.h"
 
-#include "logger/duration_rules.h"
 #include "platform/code_page.h"
+#include "setup/duration_rules.h"
 #include "shell/main_screen.h"
 #include "ui_main_screen.h"
 

@@ -4,9 +4,9 @@
 #include <cstdint>
 
 #include "link/bytes.h"
-#include "logger/pressure_scale.h"
 #include "logger/recording_mode.h"
 #include "platform/dates.h"
+#include "setup/pressure_scale.h"
 
 /// The recording set-up in values, and the frames that carry it to the logger. All of it computes
 /// only; set_up_form.h takes the values from the main form.

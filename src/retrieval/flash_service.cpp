@@ -3,11 +3,11 @@
 #include <QStringList>
 
 #include "link/memory_access.h"
-#include "logger/pressure_scale.h"
 #include "platform/dates.h"
 #include "platform/fault.h"
 #include "platform/numbers.h"
 #include "retrieval/stored_measure.h"
+#include "setup/pressure_scale.h"
 #include "ui_main_screen.h"
 
 namespace bornika {

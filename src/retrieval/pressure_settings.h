@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "logger/pressure_scale.h"
+#include "setup/pressure_scale.h"
 
 /// What turns points into pressures, as plain values.
 namespace bornika {

@@ -145,7 +145,7 @@ void ChargeCourbes(Trace& trace, const QString& NomFichier, bool Reload) {
     PreparerChargement(trace);
     FixerPointeurSouris(trace, pointeur::sablier);
     // The name may be the form's own, which the operator can change while the load yields.
-    const QString nom = NomFichier;
+    const QString nom = NomFichier;  // NOLINT(performance-unnecessary-copy-initialization)
     LireFichiers(trace, nom, Reload);
     FixerPointeurSouris(trace, pointeur::fleche);
     if (!trace.EnFermeture()) AcheverChargement(trace);

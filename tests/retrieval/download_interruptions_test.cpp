@@ -6,8 +6,8 @@
 #include <QSignalBlocker>
 
 #include "logger/parameter_reading.h"
-#include "logger/pressure_scale.h"
 #include "retrieval/retrieval_fixture.h"
+#include "setup/pressure_scale.h"
 #include "widgets/pointer_shape.h"
 
 namespace bornika::essai {

@@ -24,19 +24,24 @@ const std::map<std::string, Ensemble> appuis = {
     {"chart/model", {"platform", "recording"}},
     {"chart/view", {"platform", "widgets", "chart/model"}},
     {"shell", {"platform", "products", "widgets", "settings"}},
+    {"setup", {"platform", "products", "widgets", "settings", "shell"}},
     {"link", {"platform", "products", "widgets", "settings", "shell"}},
-    {"logger", {"platform", "products", "widgets", "settings", "shell", "link"}},
-    {"calibration", {"platform", "products", "widgets", "settings", "shell", "link", "logger"}},
+    {"context", {"platform", "products", "widgets", "settings", "shell", "link"}},
+    {"logger",
+     {"platform", "products", "widgets", "settings", "shell", "setup", "link", "context"}},
+    {"calibration",
+     {"platform", "products", "widgets", "settings", "shell", "setup", "link", "logger"}},
     {"viewer",
      {"platform", "widgets", "settings", "recording", "chart/model", "chart/view", "shell"}},
     {"retrieval",
-     {"platform", "products", "widgets", "settings", "recording", "shell", "link", "logger",
-      "viewer"}},
-    {"service", {"platform", "products", "widgets", "settings", "shell", "link", "logger"}},
+     {"platform", "products", "widgets", "settings", "recording", "shell", "setup", "link",
+      "logger", "viewer"}},
+    {"service",
+     {"platform", "products", "widgets", "settings", "shell", "link", "context", "logger"}},
     {"app",
      {"platform", "products", "usb", "widgets", "settings", "recording", "chart/model",
-      "chart/view", "shell", "link", "logger", "calibration", "viewer", "retrieval", "service",
-      "simulator"}}};
+      "chart/view", "shell", "setup", "link", "context", "logger", "calibration", "viewer",
+      "retrieval", "service", "simulator"}}};
 
 // Words that may stand in some files only: as the beginning of a name, or, `entiers`, as a whole
 // one.

@@ -2,8 +2,8 @@
 
 #include <QByteArray>
 
+#include "context/context_fields.h"
 #include "link/station.h"
-#include "logger/context_fields.h"
 
 namespace bornika {
 

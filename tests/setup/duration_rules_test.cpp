@@ -1,4 +1,4 @@
-#include "logger/duration_rules.h"
+#include "setup/duration_rules.h"
 
 #include <gtest/gtest.h>
 

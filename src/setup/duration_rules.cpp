@@ -1,9 +1,9 @@
-#include "logger/duration_rules.h"
+#include "setup/duration_rules.h"
 
-#include "logger/entry_focus.h"
-#include "logger/recording_summary.h"
 #include "platform/dates.h"
 #include "platform/numbers.h"
+#include "setup/entry_focus.h"
+#include "setup/recording_summary.h"
 #include "shell/main_screen.h"
 #include "ui_main_screen.h"
 

@@ -1,4 +1,4 @@
-#include "logger/threshold_rules.h"
+#include "setup/threshold_rules.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "logger/form_rules.h"
+#include "setup/form_rules.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
-#include "logger/form_rules.h"
+#include "setup/form_rules.h"
 
-#include "logger/recording_summary.h"
 #include "platform/numbers.h"
 #include "products/products.h"
+#include "setup/recording_summary.h"
 #include "shell/main_screen.h"
 #include "ui_main_screen.h"
 

@@ -1,4 +1,4 @@
-#include "logger/pulse_parameters.h"
+#include "context/pulse_parameters.h"
 
 #include <array>
 #include <bit>

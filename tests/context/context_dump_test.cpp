@@ -1,4 +1,4 @@
-#include "logger/context_dump.h"
+#include "context/context_dump.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
-#include "logger/context_values.h"
+#include "context/context_values.h"
 
 #include <gtest/gtest.h>
 
 #include <limits>
 
-#include "logger/addressed_fields.h"
+#include "context/addressed_fields.h"
 #include "support/fault_number.h"
 
 namespace bornika::essai {

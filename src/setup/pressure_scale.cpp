@@ -1,8 +1,8 @@
-#include "logger/pressure_scale.h"
+#include "setup/pressure_scale.h"
 
-#include "logger/recording_summary.h"
 #include "platform/format_pattern.h"
 #include "platform/numbers.h"
+#include "setup/recording_summary.h"
 #include "shell/main_screen.h"
 #include "shell/threshold_labels.h"
 #include "ui_main_screen.h"

@@ -1,7 +1,7 @@
-#include "logger/context_fields.h"
+#include "context/context_fields.h"
 
+#include "link/battery.h"
 #include "link/command_table.h"
-#include "logger/battery.h"
 #include "platform/code_page.h"
 #include "platform/dates.h"
 #include "platform/fault.h"

@@ -1,4 +1,4 @@
-#include "logger/recording_summary.h"
+#include "setup/recording_summary.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "logger/recording_summary.h"
+#include "setup/recording_summary.h"
 
 #include "shell/main_screen.h"
 #include "ui_main_screen.h"

@@ -2,8 +2,8 @@
 
 /// What each entry on the main form recomputes, forces into range, shows and hides. The boxes
 /// correct themselves as the user types: nothing is validated at the moment of writing.
-#include "logger/duration_rules.h"
-#include "logger/threshold_rules.h"
+#include "setup/duration_rules.h"
+#include "setup/threshold_rules.h"
 
 namespace bornika {
 

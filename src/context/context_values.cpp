@@ -1,8 +1,8 @@
-#include "logger/context_values.h"
+#include "context/context_values.h"
 
 #include <algorithm>
 
-#include "logger/addressed_fields.h"
+#include "context/addressed_fields.h"
 #include "platform/code_page.h"
 #include "platform/numbers.h"
 

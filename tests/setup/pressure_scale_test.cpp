@@ -1,4 +1,4 @@
-#include "logger/pressure_scale.h"
+#include "setup/pressure_scale.h"
 
 #include <gtest/gtest.h>
 
