@@ -42,10 +42,17 @@ function(bornika_precompiled target kind)
             target_link_libraries(${headers} PRIVATE GTest::gmock)
         endif()
         bornika_options(${headers})
+        if(kind STREQUAL tests AND BORNIKA_SANITIZE)
+            target_compile_options(${headers} PRIVATE -O0)
+        endif()
         target_precompile_headers(${headers}
             PRIVATE ${PROJECT_SOURCE_DIR}/cmake/precompiled/${kind}.h)
     endif()
     target_precompile_headers(${target} REUSE_FROM ${headers})
+    if(kind STREQUAL tests AND BORNIKA_SANITIZE)
+        # What is looked at is the program, not its tests: they need no speed.
+        target_compile_options(${target} PRIVATE -O0)
+    endif()
     # What the toolkit's object compiler has made is empty in most rooms.
     set_source_files_properties(${CMAKE_CURRENT_BINARY_DIR}/${target}_autogen/mocs_compilation.cpp
                                 PROPERTIES SKIP_PRECOMPILE_HEADERS ON)
