@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Looks at the sources with the eyes that a jumbo build does not have:
-#   check_files.sh alone   each file compiles by itself, with all warnings
+#   check_files.sh alone   each file compiles by itself, with all warnings; tests do so over the
+#                          precompiled headers of the toolkit, which would take too long otherwise
 #   check_files.sh tidy    what clang-tidy finds in src/ and simulator/, a room at a time
 # Both take their commands from the preset `test`, which must have been built.
 set -euo pipefail
@@ -11,11 +12,13 @@ top=$PWD
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
-# The commands of the jumbo build without its precompiled headers and its output: FLAGS<tab>SOURCE.
+# The commands of the jumbo build without the precompiled headers of the rooms and without its output:
+# COMMAND<tab>SOURCE.
 jumbo_commands() {
     ninja -C build/test -t commands all |
         sed -nE 's/^([^ ]*ccache )?([^ ]+) (.*) -o [^ ]+ -c ([^ ]+\.(cxx|cpp))$/\2 \3\t\4/p' |
-        sed -E 's/ -Winvalid-pch -include [^ \t]+//; s/ -MD -MT [^ ]+ -MF [^ \t]+//; s/ -Wno-subobject-linkage//'
+        sed -E '/bornika_toolkit_headers/ s/ -Winvalid-pch -include [^ \t]+//
+                s/ -MD -MT [^ ]+ -MF [^ \t]+//; s/ -Wno-subobject-linkage//'
 }
 
 # Files of ours that a source of the build stands for.
