@@ -295,10 +295,10 @@ const Micrologiciel::Ligne* Micrologiciel::Trouver(std::uint8_t code) {
         {240, 12, 6, Identifie},
     }};
     static constexpr auto rangs = [] {
-        std::array<std::int8_t, 256> place{};
+        std::array<std::int16_t, 256> place{};
         place.fill(-1);
         for (std::size_t i = 0; i < lignes.size(); ++i) {
-            place[lignes[i].code] = static_cast<std::int8_t>(i);
+            place[lignes[i].code] = static_cast<std::int16_t>(i);
         }
         return place;
     }();
