@@ -7,14 +7,11 @@
 #include "chart/model/loader_form.h"
 #include "platform/colour.h"
 #include "platform/fault.h"
+#include "recording/recording_format.h"
 
 namespace bornika {
 
 namespace {
-
-constexpr int champPression = 3;
-constexpr int champComptage = 5;
-constexpr int champUnite = 6;
 
 constexpr Couleur vertDebit = 0x00FF80;
 constexpr Couleur jaune = 65535;
@@ -53,12 +50,12 @@ void AjouterLissee(FicheChargement& fiche, int source, SerieGraphe::Axe axe, Cou
 }  // namespace
 
 void ReprendreReglagesDebit(FicheChargement& fiche, const QStringList& entete) {
-    if (entete.size() <= champUnite) return;
+    if (entete.size() <= champDebit) return;
     const QStringList coefficient = entete[champComptage].split(QLatin1Char('('));
-    const QStringList unites = entete[champUnite].split(QLatin1Char('/'));
+    const QStringList unites = entete[champDebit].split(QLatin1Char('/'));
     if (coefficient.size() != 2 || unites.size() != 2) {
         fiche.ChoisirListeTemps(-1);
-        fiche.FixerUniteImpulsion(entete[champUnite]);
+        fiche.FixerUniteImpulsion(entete[champDebit]);
         return;
     }
     QString valeur = coefficient[1];
